@@ -1,0 +1,29 @@
+// Fisher's z of a sample correlation and the 95% confidence interval of the correlation.
+#ifndef VAMO_STATS_INTERVAL_H_
+#define VAMO_STATS_INTERVAL_H_
+
+#include <cstdint>
+
+namespace vamo {
+
+// Fisher's z transformation of the correlation `r`: half the natural logarithm of (1 + r) / (1 -
+// r), which is artanh r. Domain: r from 0 up to .99999; every r between -1 and 1 works. 1 and -1
+// give the infinities, an r beyond them gives not-a-number.
+double FisherZ(double r);
+
+// The limits of a confidence interval, both correlations between -1 and 1.
+struct Interval {
+  double lo;
+  double hi;
+};
+
+// The 95% confidence interval of the correlation of which a sample of `N` pairs gave `r`.
+//
+// Fisher's z plus and minus 1.96 standard errors of 1 / sqrt(N - 3), brought back to the scale of
+// r. Domain: r from 0 up to .99999, N of 4 and above. N = 3 has an infinite standard error: lo is
+// -1 and hi is not-a-number. Below that both are not-a-number.
+Interval ComputeInterval(double r, std::int64_t N);
+
+}  // namespace vamo
+
+#endif  // VAMO_STATS_INTERVAL_H_

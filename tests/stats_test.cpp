@@ -1,0 +1,309 @@
+// Tests of the statistics: published digits, second formulas, round trips and the ends of the
+// range.
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <initializer_list>
+#include <limits>
+#include <string>
+
+#include "stats/interval.h"
+#include "stats/significance.h"
+#include "toolkit/conversions.h"
+
+namespace vamo {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
+
+testing::Message Row(double r, std::int64_t N) {
+  return testing::Message() << "r = " << r << ", N = " << N;
+}
+
+// `value` with the ten significant digits that the tables below have.
+double TenDigits(double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.10g", value);
+  return std::strtod(text, nullptr);
+}
+
+double PlainSum(double a, double term, double c, std::int64_t i, std::int64_t passes) {
+  std::int64_t j = i + 1;
+  for (std::int64_t k = 1; k <= passes; ++k) {
+    i += 2;
+    j += 2;
+    term = (((term * c) * c) * static_cast<double>(i)) / static_cast<double>(j);
+    a = term + a;
+  }
+  return a;
+}
+
+// p with every term of the series added, whether it still counts or not.
+double PlainP(double t, std::int64_t N) {
+  const std::int64_t df = N - 2;
+  const double theta = std::atan(t / std::sqrt(static_cast<double>(df)));
+  const double s = std::sin(theta);
+  const double c = std::cos(theta);
+  double a = s;
+  if (df % 2 == 0) {
+    if (df > 2) {
+      a = PlainSum(s, s, c, -1, (df - 2) / 2);
+    }
+  } else {
+    a = theta;
+    if (df != 1) {
+      a = PlainSum(s * c + theta, s * c, c, 0, (df - 3) / 2);
+    }
+    a = (1.0 - 0.36338023) * a;
+  }
+  double p = 0.5 * (1.0 + a);
+  p = (1.0 - p) * 2.0;
+  if (0.00001 > t) {
+    p = 0.99999;
+  }
+  if (0.00001 > p) {
+    p = 0.00001;
+  }
+  return p;
+}
+
+// The continued fraction of the incomplete beta function (DLMF 8.17.22), from its far end.
+long double BetaFraction(long double x, long double a, long double b) {
+  long double fraction = 1;
+  for (int n = 400; n >= 1; --n) {
+    const int half = n / 2;
+    const long double m = half;
+    const long double d = n % 2 == 0 ? m * (b - m) * x / ((a + 2 * m - 1) * (a + 2 * m))
+                                     : -(a + m) * (a + b + m) * x / ((a + 2 * m) * (a + 2 * m + 1));
+    fraction = 1 + d / fraction;
+  }
+  return 1 / fraction;
+}
+
+// The two-tailed p of t as the regularised incomplete beta function of df / (df + t * t).
+double BetaP(double t, std::int64_t df) {
+  const long double a = 0.5L * static_cast<long double>(df);
+  const long double square = static_cast<long double>(t) * t;
+  const long double x = 2 * a / (2 * a + square);
+  const long double y = square / (2 * a + square);
+  long double beta = df % 2 == 0 ? 2 : std::acos(-1.0L);  // B(1, 1/2) and B(1/2, 1/2)
+  for (std::int64_t k = df % 2 == 0 ? 2 : 1; k < df; k += 2) {
+    beta *= static_cast<long double>(k) / static_cast<long double>(k + 1);
+  }
+  const long double front = std::pow(x, a) * std::sqrt(y) / beta;
+  const bool upper = x > (a + 1) / (a + 2.5L);
+  return static_cast<double>(upper ? 1 - front * BetaFraction(y, 0.5L, a) / 0.5L
+                                   : front * BetaFraction(x, a, 0.5L) / a);
+}
+
+TEST(SignificanceTest, KnownValues) {
+  const struct {
+    double r;
+    std::int64_t N;
+    double t, p;
+  } rows[] = {
+      {0.5, 30, 3.055050463, 0.004899933667},
+      {0.5, 31, 3.109126351, 0.004180642218},
+      {0.7, 4, 1.38620656, 0.3},
+      {0.7, 5, 1.697749375, 0.1881204074},
+      {0.7, 6, 1.960392118, 0.1215},
+      {0.7, 7, 2.191785019, 0.07991669373},
+      {0.3, 10, 0.88949918, 0.3996914687},
+      {0.3, 11, 0.943456353, 0.3700831246},
+      {0.2, 50, 1.414213562, 0.1637530812},
+      {0.1, 1000, 3.175028831, 0.001544116107},
+      {0.999, 999, 705.51568, 0.00001},
+      {0.5, 1000, 18.23915203, 0.00001},
+      {0.99999, 1000, 7063.940225, 0.00001},
+      {0.99999, 4, 316.2253943, 0.00001},
+      {0.001, 4, 0.001414214269, 0.999},
+      {0.000001, 30, 0.000005291502622, 0.99999},
+      {0, 30, 0, 0.99999},
+      {0, 1000, 0, 0.99999},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(Row(row.r, row.N));
+    const double t = ComputeT(row.r, row.N);
+    EXPECT_EQ(TenDigits(t), row.t);
+    EXPECT_EQ(TenDigits(ComputeP(t, row.N)), row.p);
+  }
+}
+
+TEST(SignificanceTest, TheBoundsAreStrict) {
+  EXPECT_EQ(TenDigits(ComputeP(0.00001, 4)), 0.9999929289);
+  EXPECT_EQ(TenDigits(ComputeP(0.00001, 1000)), 0.9999920232);
+  EXPECT_EQ(ComputeP(std::nextafter(0.00001, 0), 4), 0.99999);
+  EXPECT_EQ(ComputeP(kInfinity, 5), 0.00001);
+}
+
+TEST(SignificanceTest, NoCorrelationAndFewPairsGiveNoT) {
+  for (const double r : {0.0, 0.5, 0.99999}) {
+    for (const std::int64_t N : {kMin, kMin + 1, kMin + 2, std::int64_t{-5}, std::int64_t{0},
+                                 std::int64_t{1}, std::int64_t{2}, std::int64_t{3}}) {
+      SCOPED_TRACE(Row(r, N));
+      EXPECT_EQ(ComputeT(r, N), 0.0);
+      EXPECT_EQ(ComputeP(ComputeT(r, N), N), 0.99999);
+    }
+  }
+  EXPECT_EQ(ComputeT(-0.5, 30), 0.0);
+  EXPECT_GT(ComputeT(0.5, 4), 0.0);
+}
+
+TEST(SignificanceTest, ValuesOutsideTheDomainGoOn) {
+  EXPECT_EQ(ComputeT(1.0, 30), kInfinity);
+  EXPECT_TRUE(std::isnan(ComputeT(1.5, 30)));
+  EXPECT_TRUE(std::isnan(ComputeP(kNaN, kMax)));
+  EXPECT_TRUE(std::isnan(ComputeP(1.0, 1)));
+  EXPECT_TRUE(std::isnan(ComputeP(1.0, kMin)));
+}
+
+TEST(SignificanceTest, SameBitsAsTheWholeSeries) {
+  const auto expect_same = [](double r, std::int64_t N) {
+    const double t = ComputeT(r, N);
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(ComputeP(t, N)),
+              std::bit_cast<std::uint64_t>(PlainP(t, N)))
+        << Row(r, N);
+  };
+  for (int k = 0; k < 1000; ++k) {
+    for (const int N : {4, 5, 6, 7, 8, 9, 12, 13, 30, 31, 50, 99, 250, 251, 500, 999, 1000}) {
+      ASSERT_NO_FATAL_FAILURE(expect_same(k / 1000.0, N));
+    }
+  }
+  for (int N = -3; N <= 1000; ++N) {
+    for (const double r : {1e-9, 1e-6, 0.001, 0.01, 0.06, 0.1, 0.2, 0.3, 0.5, 0.7, 0.99, 0.99999}) {
+      ASSERT_NO_FATAL_FAILURE(expect_same(r, N));
+    }
+  }
+}
+
+TEST(SignificanceTest, AgreesWithTheIncompleteBetaFunction) {
+  for (const std::int64_t N : {4, 5, 6, 7, 8, 9, 15, 16, 30, 31, 60, 61, 200, 201, 999, 1000}) {
+    for (const double r : {0.001, 0.02, 0.05, 0.1, 0.2, 0.3, 0.5, 0.7, 0.9, 0.99}) {
+      SCOPED_TRACE(Row(r, N));
+      const double t = ComputeT(r, N);
+      const double exact = BetaP(t, N - 2);
+      if (exact < 0.00002) {
+        continue;  // held to .00001
+      }
+      const double above = ComputeP(t, N) - exact;
+      EXPECT_GE(above, -1.2e-14);
+      EXPECT_LE(above, N % 2 == 0 ? 1.2e-14 : 3.72e-9);
+    }
+  }
+}
+
+TEST(SignificanceTest, HugeSamplesApproachTheNormalDistributionQuickly) {
+  const auto start = std::chrono::steady_clock::now();
+  for (const std::int64_t N : {std::int64_t{1'000'000}, std::int64_t{1'000'003},
+                               std::int64_t{4'000'000'000}, kMax - 1, kMax}) {
+    for (const double t : {0.00001, 0.1, 1.6, 3.0}) {
+      EXPECT_NEAR(ComputeP(t, N), std::erfc(t / std::sqrt(2.0)), 4e-7) << "t = " << t << ", " << N;
+    }
+  }
+  EXPECT_EQ(ComputeP(ComputeT(1e-15, kMax), kMax), 0.99999);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+TEST(IntervalTest, KnownValues) {
+  const struct {
+    double r;
+    std::int64_t N;
+    double z, lo, hi;
+  } rows[] = {
+      {0.5, 30, 0.5493061443, 0.1704246353, 0.7289618045},
+      {0.5, 31, 0.5493061443, 0.1770164746, 0.7257608233},
+      {0.3, 10, 0.3095196042, -0.4063994535, 0.7819346104},
+      {0.7, 4, 0.8673005277, -0.7978612944, 0.9930216943},
+      {0.06, 1000, 0.06007215592, -0.002001664217, 0.1215421242},
+      {0.5, 1000, 0.5493061443, 0.4520170017, 0.5450977637},
+      {0.99999, 1000, 6.103033823, 0.9999886782, 0.9999911675},
+      {0.99999, 4, 6.103033823, 0.99949612, 0.9999998016},
+      {0.99, 4, 2.646652412, 0.595827146, 0.9998006119},
+      {0, 4, 0, -0.9610898309, 0.9610898309},
+      {0, 30, 0, -0.3602752541, 0.3602752541},
+      {0, 1000, 0, -0.06199421872, 0.06199421872},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(Row(row.r, row.N));
+    const Interval interval = ComputeInterval(row.r, row.N);
+    EXPECT_EQ(TenDigits(FisherZ(row.r)), row.z);
+    EXPECT_EQ(TenDigits(interval.lo), row.lo);
+    EXPECT_EQ(TenDigits(interval.hi), row.hi);
+  }
+}
+
+TEST(IntervalTest, FisherZIsUndoneByTheHyperbolicTangent) {
+  for (int k = 0; k <= 99'999; k += 11) {
+    const double r = k / 100'000.0;
+    ASSERT_NEAR(std::tanh(FisherZ(r)), r, 4e-16) << r;
+  }
+}
+
+TEST(IntervalTest, HalfWidthOnTheScaleOfZ) {
+  for (const double r : {0.0, 0.06, 0.5, 0.9}) {
+    for (const std::int64_t N : {4, 5, 10, 100, 999, 1000}) {
+      SCOPED_TRACE(Row(r, N));
+      const Interval interval = ComputeInterval(r, N);
+      const double half = 1.96 / std::sqrt(static_cast<double>(N) - 3.0);
+      EXPECT_NEAR(std::atanh(interval.lo), std::atanh(r) - half, 1e-13);
+      EXPECT_NEAR(std::atanh(interval.hi), std::atanh(r) + half, 1e-13);
+    }
+  }
+}
+
+TEST(IntervalTest, FewPairs) {
+  for (const double r : {0.0, 0.5, 0.99999}) {
+    EXPECT_EQ(ComputeInterval(r, 3).lo, -1.0);
+    EXPECT_TRUE(std::isnan(ComputeInterval(r, 3).hi));
+    for (const std::int64_t N : {std::int64_t{2}, std::int64_t{1}, std::int64_t{0}, kMin}) {
+      SCOPED_TRACE(Row(r, N));
+      EXPECT_TRUE(std::isnan(ComputeInterval(r, N).lo));
+      EXPECT_TRUE(std::isnan(ComputeInterval(r, N).hi));
+    }
+  }
+  EXPECT_NEAR(ComputeInterval(0.5, kMax).hi, 0.5, 1e-8);
+}
+
+TEST(LabelTest, TextsOfTheResultLabels) {
+  const struct {
+    double r;
+    std::int64_t N;
+    std::string t, p, interval;
+  } rows[] = {
+      {0.5, 30, "3.06", ".00490", "+.170 to +.729"},
+      {0.5, 31, "3.11", ".00418", "+.177 to +.726"},
+      {0.3, 10, ".89", ".39969", "-.406 to +.782"},
+      {0.7, 4, "1.39", ".30000", "-.798 to +.993"},
+      {0.7, 5, "1.70", ".18812", "-.477 to +.978"},
+      {0.5, 4, ".82", ".50000", "-.888 to +.987"},
+      {0.06, 1000, "1.90", ".05787", "-.002 to +.122"},
+      {0.1, 1000, "3.18", ".00154", "+.038 to +.161"},
+      {0.5, 1000, "18.24", ".00001", "+.452 to +.545"},
+      {0.99, 1000, "221.70", ".00001", "+.989 to +.991"},
+      {0.001, 4, ".00", ".99900", "-.961 to +.961"},
+      {0, 4, ".00", ".99999", "-.961 to +.961"},
+      {0, 30, ".00", ".99999", "-.360 to +.360"},
+      {0, 1000, ".00", ".99999", "-.062 to +.062"},
+      {0.99999, 1000, "7063.94", ".00001", "+1.000 to +1.000"},
+      {0.5, 3, ".00", ".99999", "-1.000 to n/a"},
+      {0.5, 2, ".00", ".99999", "n/a to n/a"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(Row(row.r, row.N));
+    const double t = ComputeT(row.r, row.N);
+    const Interval limits = ComputeInterval(row.r, row.N);
+    EXPECT_EQ(Format(t, "#####.00"), row.t);
+    EXPECT_EQ(Format(ComputeP(t, row.N), ".00000"), row.p);
+    EXPECT_EQ(Format(limits.lo, "+.000") + " to " + Format(limits.hi, "+.000"), row.interval);
+  }
+}
+
+}  // namespace
+}  // namespace vamo
