@@ -18,6 +18,8 @@ else()
               -Wpedantic
               -Wconversion
               -Wshadow
+              # g++ 12 sees overlapping copies in a plain concatenation of strings.
+              $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
               # Neither the program nor its debug information carries the path of the build machine.
               -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
 endif()

@@ -1,0 +1,133 @@
+// The byte format of property streams, as it is written and as it is read.
+#include "toolkit/property_stream.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "test_program.h"
+#include "toolkit/label.h"
+#include "toolkit/picture.h"
+#include "toolkit/rectangle.h"
+#include "toolkit/slider.h"
+#include "toolkit/text_edit.h"
+#include "toolkit/timer.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+namespace {
+
+using std::string_literals::operator""s;
+
+std::string Stored(PropertyStream stream) { return {stream.bytes, stream.length + 2}; }
+
+// A stream that holds the entries; it must live as long as what is read from it.
+PropertyStream AsStream(const std::string& bytes) { return {bytes.data(), bytes.size() - 2}; }
+
+template <class Table>
+std::string EncodedEntries(Table table) {
+  const std::string stored = Stored(EncodeStream(table));
+  return stored.substr(1, stored.size() - 2);
+}
+
+TEST(StreamWriterTest, WritesEachTypeAsItIsStored) {
+  EXPECT_EQ(EncodedEntries([] {
+              return std::array{PropertyEntry{"Left", std::int64_t{55}},
+                                PropertyEntry{"Top", std::int64_t{-5}},
+                                PropertyEntry{"Index", std::int64_t{INT32_MIN}}};
+            }),
+            "Left \x37\0\0\0\0\0\0\0"
+            "Top \xFB\xFF\xFF\xFF\xFF\xFF\xFF\xFF"
+            "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s);
+  EXPECT_EQ(EncodedEntries([] {
+              return std::array{PropertyEntry{"FontSize", 12.0F},
+                                PropertyEntry{"BorderThickness", 1.0},
+                                PropertyEntry{"FillColor", Colour{0x80, 0x01, 0x02}}};
+            }),
+            "FontSize \0\0\x40\x41"
+            "BorderThickness \0\0\0\0\0\0\xF0\x3F"
+            "FillColor \x80\x01\x02\0"s);
+  EXPECT_EQ(EncodedEntries([] {
+              return std::array{PropertyEntry{"Visible", true},
+                                PropertyEntry{"Name", std::string_view("rEdit")},
+                                PropertyEntry{"Tooltip", std::string_view()}};
+            }),
+            "Visible \x01"
+            "Name \x05\0\0\0rEdit"
+            "Tooltip \0\0\0\0"s);
+}
+
+TEST(StreamWriterTest, TheLengthByteHoldsShortLengthsOnly) {
+  // A name, a blank and a length of 4 bytes stand before the 245 of the text.
+  static constexpr std::array<char, 245> kText{};
+  static constexpr std::string_view kLong(kText.data(), kText.size());
+  const auto one_less = [] { return std::array{PropertyEntry{"Hint", kLong}}; };
+  const auto at_bound = [] { return std::array{PropertyEntry{"Hints", kLong}}; };
+  EXPECT_EQ(Stored(EncodeStream(one_less))[0], '\xFE');
+  EXPECT_EQ(Stored(EncodeStream(at_bound))[0], '\xFF');
+  EXPECT_EQ(Stored(EncodeStream(at_bound)).back(), '\0');
+}
+
+TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
+  TestProgram program;
+  const auto slider = New<Slider>();
+  _SetProperties(*slider, EncodeStream([] {
+    return std::array{PropertyEntry{"Value", std::int64_t{300}},
+                      PropertyEntry{"MinimumValue", std::int64_t{4}},
+                      PropertyEntry{"MaximumValue", std::int64_t{1000}}};
+  }));
+  EXPECT_EQ(slider->Value(), 300) << "the position comes before the range";
+
+  const auto label = New<Label>();
+  _SetProperties(*label, EncodeStream([] {
+    return std::array{
+        PropertyEntry{"Index", std::int64_t{INT32_MIN}},
+        PropertyEntry{"Value", std::string_view("t =")}, PropertyEntry{"FontSize", 9.0F},
+        PropertyEntry{"TextColor", Colour{0xFF, 0x80, 0}}, PropertyEntry{"Visible", false}};
+  }));
+  EXPECT_EQ(label->_Index(), INT32_MIN);
+  EXPECT_EQ(label->Text(), "t =");
+  EXPECT_EQ(label->Font().size, 9.0F);
+  EXPECT_EQ(label->TextColor(), (Colour{0xFF, 0x80, 0}));
+  EXPECT_FALSE(label->Visible());
+
+  const auto rectangle = New<Rectangle>();
+  _SetProperties(*rectangle, EncodeStream([] {
+    return std::array{PropertyEntry{"BorderThickness", 2.5}, PropertyEntry{"BorderThickness", 2.0}};
+  }));
+  EXPECT_EQ(rectangle->BorderThickness(), 2.0) << "the later one stands";
+}
+
+TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {
+  struct Case {
+    std::string entries, named, offset;
+  };
+  const std::string top = "Top \x07\0\0\0\0\0\0\0"s;
+  const Case kCases[] = {
+      {top + "Nonsense \x01"s, "\"Nonsense\"", "offset 12"},
+      {top + "Left \x01\0\0", "\"Left\"", "offset 12"},
+      {top + "Tooltip \x05\0\0\0ab"s, "\"Tooltip\"", "offset 12"},
+      {top + "Tooltip \xFF\xFF\xFF\xFF"s, "\"Tooltip\"", "offset 12"},
+      {top + "Visib"s, "\"Visib\"", "offset 12"},
+      {"Visible ", "\"Visible\"", "offset 0"},
+  };
+  TestProgram program;
+  for (const Case& test : kCases) {
+    const auto label = New<Label>();
+    std::string stream(1, '\xFF');
+    (stream += test.entries) += '\0';
+    try {
+      _SetProperties(*label, AsStream(stream));
+      ADD_FAILURE() << test.named;
+    } catch (const InvalidArgumentException& exception) {
+      EXPECT_NE(exception.Message().find(test.named), std::string::npos) << exception.Message();
+      EXPECT_NE(exception.Message().find(test.offset), std::string::npos) << exception.Message();
+    }
+    EXPECT_EQ(label->Bounds().top, test.offset == "offset 0" ? 0 : 7);
+  }
+}
+
+}  // namespace
+}  // namespace vamo

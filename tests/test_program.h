@@ -1,0 +1,32 @@
+// A run time of a test's own, on the display without pixels.
+#ifndef VAMO_TESTS_TEST_PROGRAM_H_
+#define VAMO_TESTS_TEST_PROGRAM_H_
+
+#include <memory>
+#include <utility>
+
+#include "toolkit/headless/headless_display.h"
+#include "toolkit/runtime.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+
+// Made at the start of a test and gone with it, with everything in it.
+class TestProgram {
+ public:
+  TestProgram() : TestProgram(std::make_unique<HeadlessDisplay>()) {}
+
+  HeadlessDisplay& display() { return display_; }
+  Runtime& runtime() { return runtime_; }
+
+ private:
+  explicit TestProgram(std::unique_ptr<HeadlessDisplay> display)
+      : display_(*display), runtime_(std::move(display)) {}
+
+  HeadlessDisplay& display_;
+  Runtime runtime_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TESTS_TEST_PROGRAM_H_

@@ -1,0 +1,161 @@
+// Text controls: what typing accepts, what a write and a paste do, the way back.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "test_program.h"
+#include "toolkit/key.h"
+#include "toolkit/property_stream.h"
+#include "toolkit/text_edit.h"
+#include "toolkit/typing_rule.h"
+#include "toolkit/utf8.h"
+
+namespace vamo {
+namespace {
+
+TEST(TypingRuleTest, TheMaskIsAPrefixPattern) {
+  struct Case {
+    const char *mask, *before, *typed, *after;
+    // Nothing where the character is refused.
+    std::optional<std::string> inserted;
+  };
+  const Case kCases[] = {
+      {".###", "", "5", "", ".5"},     {".###", "", ".", "", "."},
+      {".###", ".", ".", "", {}},      {".###", ".55", "5", "", "5"},
+      {".###", ".555", "5", "", {}},   {".###", "", "3", ".5", {}},
+      {".###", ".1", "2", "3", "2"},   {".###", "", "a", "", {}},
+      {".###", "", "½", "", {}},       {"####", "", "0", "", "0"},
+      {"####", "1000", "1", "", {}},   {"####", "", ".", "", {}},
+      {"(##) #", "", "1", "", "(1"},   {"(##) #", "(12", "3", "", ") 3"},
+      {"(##) #", "(12", ")", "", ")"}, {"é#", "", "7", "", "é7"},
+      {"", "any", "ü", "thing", "ü"},  {"1#", "", "1", "", "1"},
+      {"1#", "", "2", "", "12"},       {"..", "", "2", "", {}},
+  };
+  for (const Case& test : kCases) {
+    EXPECT_EQ(Insertion(test.before, test.after, test.typed, {test.mask, 0}), test.inserted)
+        << test.mask << " " << test.before << "|" << test.typed << "|" << test.after;
+  }
+  EXPECT_EQ(Insertion("ab", "é", "x", {"", 4}), "x");
+  EXPECT_EQ(Insertion("ab", "éc", "x", {"", 4}), std::nullopt) << "characters count, not bytes";
+}
+
+TEST(Utf8Test, BrokenSequencesBecomeReplacementCharacters) {
+  const std::string kBad = "\xEF\xBF\xBD";
+  EXPECT_EQ(ValidUtf8("aé漢😀"), "aé漢😀");
+  EXPECT_EQ(ValidUtf8("a\x80z"), "a" + kBad + "z");
+  EXPECT_EQ(ValidUtf8("\xC3"), kBad);
+  EXPECT_EQ(ValidUtf8("\xC0\xAF"), kBad + kBad) << "overlong";
+  EXPECT_EQ(ValidUtf8("\xED\xA0\x80"), kBad + kBad + kBad) << "surrogate";
+  EXPECT_EQ(ValidUtf8(std::string_view("a\0b", 3)).size(), 3U);
+}
+
+class TextFieldTest : public testing::Test {
+ protected:
+  TextFieldTest() {
+    field_->TextChange =
+        Delegate<void(Ref<TextField>)>(recorder_, &Recorder::TakeChange, ReceiverFlag::kStrong);
+  }
+
+  void Press(std::string text) { field_->TakeKey(Key::Character(std::move(text))); }
+
+  // Takes down the texts that a change has been raised with, and corrects one of them.
+  struct Recorder : Object {
+    void TakeChange(Ref<TextField> field) {
+      changes.push_back(field->Text());
+      if (field->Text() == "wrong") field->SetText("right");
+    }
+    std::vector<std::string> changes;
+  };
+
+  TestProgram program_;
+  Ref<TextField> field_ = New<TextField>();
+  Ref<Recorder> recorder_ = New<Recorder>();
+};
+
+TEST_F(TextFieldTest, AWriteRaisesTheChangeInsideAndOnlyForAnotherText) {
+  field_->SetText("wrong");
+  EXPECT_EQ(recorder_->changes, (std::vector<std::string>{"wrong", "right"}));
+  EXPECT_EQ(field_->Text(), "right");
+  EXPECT_EQ(field_->GetSelection(), (TextEdit::Selection{5, 5}));
+  field_->SetText("right");
+  EXPECT_EQ(recorder_->changes.size(), 2U);
+}
+
+TEST_F(TextFieldTest, APasteIsOneChangeAndOneStepBack) {
+  field_->SetText("ab");
+  field_->UserSelected(1, 1);
+  field_->UserPasted("x\r\ny\xFFz");
+  EXPECT_EQ(recorder_->changes.size(), 2U);
+  EXPECT_EQ(field_->Text(), "axy\xEF\xBF\xBDzb");
+  field_->Undo();
+  EXPECT_EQ(field_->Text(), "ab");
+  EXPECT_FALSE(field_->CanUndo());
+}
+
+TEST_F(TextFieldTest, ACorrectedEditGoesBackToTheTextBeforeIt) {
+  field_->SetText("before");
+  field_->UserSelected(0, 6);
+  field_->UserPasted("wrong");
+  EXPECT_EQ(field_->Text(), "right");
+  field_->Undo();
+  EXPECT_EQ(field_->Text(), "before");
+  field_->UserPasted("!");
+  field_->SetText("written");
+  EXPECT_FALSE(field_->CanUndo()) << "the program's own write cannot be undone";
+}
+
+TEST_F(TextFieldTest, DeletingTakesWholeCharactersOrTheSelection) {
+  field_->SetText("aé漢b");
+  Press("\b");
+  Press("\b");
+  EXPECT_EQ(field_->Text(), "aé");
+  field_->UserSelected(0, 2);  // inside the second character: moved to its start
+  EXPECT_EQ(field_->SelectedText(), "a");
+  Press("\x7F");
+  EXPECT_EQ(field_->Text(), "é");
+  Press("\x7F");
+  EXPECT_EQ(field_->Text(), "");
+  const std::size_t changes = recorder_->changes.size();
+  Press("\b");
+  Press("\x7F");
+  EXPECT_EQ(recorder_->changes.size(), changes);
+}
+
+TEST_F(TextFieldTest, AReadOnlyOrDisabledFieldKeepsItsText) {
+  _SetProperties(*field_, EncodeStream([] {
+    return std::array{PropertyEntry{"Value", std::string_view("fixed")},
+                      PropertyEntry{"ReadOnly", true}};
+  }));
+  field_->UserSelected(0, 5);
+  Press("x");
+  Press("\b");
+  field_->UserPasted("x");
+  field_->Cut();
+  EXPECT_EQ(field_->Text(), "fixed");
+  field_->Copy();
+  EXPECT_EQ(program_.display().ClipboardText(), "fixed");
+  EXPECT_FALSE(field_->CanPaste());
+
+  const auto disabled = New<TextField>();
+  disabled->SetEnabled(false);
+  disabled->UserPasted("x");
+  EXPECT_EQ(disabled->Text(), "");
+}
+
+TEST_F(TextFieldTest, TheWayBackIsBoundedInStepsAndMemory) {
+  const auto steps_back = [](TextField& field) {
+    int steps = 0;
+    for (; field.CanUndo(); ++steps) field.Undo();
+    return steps;
+  };
+  const auto field = New<TextField>();
+  for (int i = 0; i < 300; ++i) field->UserPasted("x");
+  EXPECT_EQ(steps_back(*field), 100);
+  for (int i = 0; i < 6; ++i) field->UserPasted(std::string(std::size_t{1} << 22U, 'x'));
+  EXPECT_EQ(steps_back(*field), 1);
+}
+
+}  // namespace
+}  // namespace vamo

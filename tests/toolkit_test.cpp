@@ -1,0 +1,372 @@
+// The toolkit's objects: references, delegates, events and their exceptions, timers, windows,
+// menus.
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "test_program.h"
+#include "toolkit/delegate.h"
+#include "toolkit/label.h"
+#include "toolkit/menu_service.h"
+#include "toolkit/picture.h"
+#include "toolkit/push_button.h"
+#include "toolkit/slider.h"
+#include "toolkit/text_edit.h"
+#include "toolkit/timer.h"
+
+namespace vamo {
+namespace {
+
+using std::chrono_literals::operator""ms;
+
+struct Log : Object {
+  bool Pass() {
+    entries.push_back("pass");
+    return false;
+  }
+  bool Take() {
+    entries.push_back("take");
+    return true;
+  }
+  void Note(Ref<Slider> slider) { entries.push_back(std::to_string(slider->Value())); }
+  void NoteTimer(Ref<Timer> /*timer*/) { entries.push_back("timer"); }
+  void Fail(Ref<Slider> slider);
+  std::vector<std::string> entries;
+};
+
+// Raises what the slider's position stands for.
+void Log::Fail(Ref<Slider> slider) {
+  if (slider->Value() == 1) throw EndException();
+  if (slider->Value() == 2) throw ThreadEndException();
+  if (slider->Value() == 3) throw KeyNotFoundException("the third");
+  throw std::logic_error("none of ours");
+}
+
+class TestWindow : public Window {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  void CreateControls() override {
+    Add("slider", __New<Slider>());
+    Add("field", __New<TextField>());
+    Add("label", __New<Label>());
+    _AddControl("timer", __New<_wrapper_Timer1>());
+  }
+  void Event_Activate() override { ++activations; }
+  void Event_EnableMenuItems() override { ++enablings; }
+
+  Ref<Slider> slider() { return ControlNamed<Slider>("slider"); }
+  Ref<TextField> field() { return ControlNamed<TextField>("field"); }
+  Ref<Timer> timer() { return ControlNamed<Timer>("timer"); }
+
+  int activations = 0;
+  int enablings = 0;
+
+ private:
+  template <class C>
+  void Add(std::string_view name, const Ref<C>& control) {
+    _AddControl(name, control);
+    control->SetAccessibleName(name);
+  }
+};
+const ClassInfo TestWindow::kClass{"TestWindow.TestWindow", &Window::kClass, {}};
+
+class OtherWindow : public Window {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &TestWindow::kClass; }
+};
+const ClassInfo OtherWindow::kClass{"TestWindow.TestWindow", &Window::kClass, {}};
+
+class TestApplication : public Application {
+ public:
+  bool Event_UnhandledException(const RuntimeException& exception) override {
+    taken = exception.Message();
+    return takes;
+  }
+  bool takes = false;
+  std::string taken;
+};
+
+TEST(RefTest, NilAndWrongCastsRaiseBeforeAnythingIsTouched) {
+  Ref<Label> nil;
+  EXPECT_THROW(nil->SetText("x"), NilObjectException);
+  EXPECT_FALSE(Cast<Slider>(Ref<Object>(nil)));
+  const Ref<Object> label = New<Label>();
+  EXPECT_TRUE(Cast<RectControl>(label) == label);
+  EXPECT_THROW(Cast<Slider>(label), IllegalCastException);
+  WeakRef weak{label};
+  EXPECT_TRUE(weak.Value() == label);
+  weak = WeakRef(New<Label>());
+  EXPECT_FALSE(weak.Value());
+}
+
+TEST(DelegateTest, TheSignatureIsSpelledOut) {
+  EXPECT_EQ((Delegate<void(Ref<TextField>)>::Signature()), "( TextField )");
+  EXPECT_EQ((Delegate<bool(Ref<TextField>, std::string)>::Signature()),
+            "( TextField, String ) as Boolean");
+  EXPECT_EQ((Delegate<void(Ref<Slider>)>::Signature()), "( Slider )");
+  EXPECT_EQ((Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)>::Signature()),
+            "( PushButton, Integer, Integer ) as Boolean");
+  EXPECT_EQ((Delegate<void(Ref<Timer>)>::Signature()), "( Timer )");
+  EXPECT_EQ(MenuHandler::Signature(), "(  ) as Boolean");
+  EXPECT_EQ(Delegate<void()>::Signature(), "(  )");
+}
+
+TEST(DelegateTest, OnlyAStrongReceiverIsKeptAlive) {
+  auto log = New<Log>();
+  const MenuHandler strong(log, &Log::Take, ReceiverFlag::kStrong);
+  const MenuHandler weak(log, &Log::Take, ReceiverFlag::kWeak);
+  EXPECT_TRUE(weak.Invoke());
+  log = New<Log>();
+  EXPECT_TRUE(strong.Invoke());
+  EXPECT_TRUE(weak.Invoke()) << "the strong delegate keeps the receiver";
+  const MenuHandler dangling(New<Log>(), &Log::Take, ReceiverFlag::kWeak);
+  EXPECT_THROW(dangling.Invoke(), NilObjectException);
+  EXPECT_THROW(MenuHandler().Invoke(), NilObjectException);
+}
+
+TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
+  TestProgram program;
+  const auto window = ImplicitInstance<TestWindow>();
+  const auto label = New<Label>();
+  const auto item = New<MenuItem>();
+  const auto traps = [](const std::function<void()>& operation) {
+    std::string message;
+    std::thread([&] {
+      try {
+        operation();
+      } catch (const ThreadAccessingUIException& exception) {
+        message = exception.Message();
+      }
+    }).join();
+    return message;
+  };
+  const std::function<void()> kOperations[] = {
+      [&] { label->SetText("x"); },
+      [&] { window->Show(); },
+      [&] { window->Hide(); },
+      [&] { item->SetEnabled(false); },
+      [&] { window->_ControlByName("field"); },
+      [&] { window->__New<Label>(); },
+      [&] { Picture::_OpenFromApp("ChartSmall.jpg"); },
+  };
+  EXPECT_EQ(traps(kOperations[0]), "") << "there is no application object yet";
+  program.runtime().RegisterApp(New<TestApplication>());
+  label->SetText("kept");
+  for (const auto& operation : kOperations) {
+    EXPECT_EQ(
+        traps(operation),
+        "A thread has attempted to manipulate a user interface element. This can only be done "
+        "from the application's main thread.");
+  }
+  EXPECT_EQ(label->Text(), "kept");
+}
+
+class EventTest : public testing::Test {
+ protected:
+  EventTest() {
+    program_.runtime().RegisterApp(app_);
+    slider_->ValueChanged =
+        Delegate<void(Ref<Slider>)>(New<Log>(), &Log::Fail, ReceiverFlag::kStrong);
+  }
+  TestProgram program_;
+  Ref<TestApplication> app_ = New<TestApplication>();
+  Ref<Slider> slider_ = New<Slider>();
+};
+
+TEST_F(EventTest, AnUnhandledExceptionEndsTheProgramWithOneLineAndStatusOne) {
+  slider_->UserMovedTo(1);
+  slider_->UserMovedTo(2);
+  EXPECT_TRUE(program_.display().Running()) << "the end exceptions end the event alone";
+  EXPECT_EQ(app_->taken, "");
+  testing::internal::CaptureStderr();
+  slider_->UserMovedTo(3);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "vamo: KeyNotFoundException: the third\n");
+  EXPECT_EQ(app_->taken, "the third");
+  EXPECT_FALSE(program_.display().Running());
+  Quit(0);
+  EXPECT_EQ(program_.runtime().ExitCode(), 1) << "the first exit code stands";
+}
+
+TEST_F(EventTest, TheApplicationCanTakeAnException) {
+  app_->takes = true;
+  slider_->UserMovedTo(3);
+  EXPECT_TRUE(program_.display().Running());
+}
+
+TEST_F(EventTest, WhatIsNoneOfOursIsRaisedAgainOutOfTheLoop) {
+  slider_->UserMovedTo(4);
+  EXPECT_FALSE(program_.display().Running());
+  EXPECT_THROW(program_.runtime().Run(), std::logic_error);
+}
+
+TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
+  TestProgram program;
+  const auto slider = New<Slider>();
+  const auto log = New<Log>();
+  slider->ValueChanged = Delegate<void(Ref<Slider>)>(log, &Log::Note, ReceiverFlag::kStrong);
+  for (const std::int64_t position : {3, 3, 200, 100, -5, 0}) slider->UserMovedTo(position);
+  EXPECT_EQ(log->entries, (std::vector<std::string>{"3", "100", "0"}));
+}
+
+TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
+  TestProgram program;
+  const auto log = New<Log>();
+  const Delegate<void(Ref<Timer>)> note(log, &Log::NoteTimer, ReceiverFlag::kStrong);
+  const auto window = ImplicitInstance<TestWindow>();
+  window->timer()->Action = note;
+  window->timer()->SetRunMode(1);
+  program.display().LetTimePass(1000ms);
+  EXPECT_EQ(log->entries.size(), 0U) << "a period is missing";
+  window->timer()->SetPeriod(100);
+  program.display().LetTimePass(99ms);
+  EXPECT_EQ(log->entries.size(), 0U);
+  program.display().LetTimePass(1000ms);
+  EXPECT_EQ(log->entries.size(), 1U);
+  window->timer()->SetRunMode(2);
+  program.display().LetTimePass(350ms);
+  EXPECT_EQ(log->entries.size(), 4U);
+  const auto timer = window->timer();
+  window->Close();
+  program.display().LetTimePass(1000ms);
+  EXPECT_EQ(log->entries.size(), 4U);
+}
+
+TEST(TimerTest, TheWrapperDoesNotKeepItsWindow) {
+  TestProgram program;
+  auto window = ImplicitInstance<TestWindow>();
+  const auto wrapper = window->ControlNamed<_wrapper_Timer1>("timer");
+  EXPECT_TRUE(wrapper->Window() == window);
+  window->Close();
+  window = nullptr;
+  EXPECT_FALSE(wrapper->Window());
+  EXPECT_FALSE(New<_wrapper_Timer1>()->Window());
+}
+
+TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
+  TestProgram program;
+  const auto window = ImplicitInstance<TestWindow>();
+  window->Hide();
+  EXPECT_TRUE(ImplicitInstance<TestWindow>() == window);
+  EXPECT_THROW(ImplicitInstance<OtherWindow>(), IllegalCastException);
+  window->Close();
+  window->Show();
+  EXPECT_TRUE(program.display().Windows().empty()) << "a closed window does not come back";
+  EXPECT_FALSE(ImplicitInstance<TestWindow>() == window);
+}
+
+TEST(WindowTest, ActivationIsRaisedWhenTheWindowBecomesTheActiveOne) {
+  TestProgram program;
+  const auto window = ImplicitInstance<TestWindow>();
+  program.display().PressKey(Key::Character("x"));
+  EXPECT_EQ(window->activations, 1);
+  window->UserActivated();
+  EXPECT_EQ(window->activations, 1) << "it already was";
+  window->UserDeactivated();
+  window->UserActivated();
+  EXPECT_EQ(window->activations, 2);
+  window->Hide();
+  window->UserActivated();
+  EXPECT_EQ(window->activations, 2) << "a hidden window is not active";
+}
+
+TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
+  TestProgram program;
+  const auto window = ImplicitInstance<TestWindow>();
+  const Key tab = Key::Character("\t");
+  EXPECT_TRUE(window->Focus() == window->slider());
+  window->UserPressedKey(tab);
+  EXPECT_TRUE(window->Focus() == window->field());
+  window->slider()->SetVisible(false);
+  window->UserPressedKey(tab);
+  EXPECT_TRUE(window->Focus() == window->field());
+  window->field()->KeyDown = Delegate<bool(Ref<TextField>, std::string)>(
+      +[](Ref<TextField>, std::string) { return true; });
+  window->slider()->SetVisible(true);
+  window->UserPressedKey(tab);
+  EXPECT_TRUE(window->Focus() == window->field()) << "a swallowed tab moves nothing";
+}
+
+class MenuTest : public testing::Test {
+ protected:
+  MenuTest() {
+    const auto edit = New<MenuItem>();
+    edit->SetName("Edit");
+    edit->SetValue("Edit");
+    bar_->AddMenu(edit);
+    for (const auto& [name, shortcut] : {std::pair{"Own", "Cmd+O"}, {"EditCopy", "Cmd+C"}}) {
+      const auto item = New<MenuItem>();
+      item->SetName(name);
+      item->SetValue(name);
+      item->SetShortcut(shortcut);
+      item->SetAutoEnabled(false);
+      edit->AddMenu(item);
+    }
+    app_->SetMenuBar(bar_);
+    program_.runtime().RegisterApp(app_);
+    window_ = ImplicitInstance<TestWindow>();
+    program_.display().PressKey(Key::Character("x"));
+  }
+
+  MenuHandler Handler(bool (Log::*method)()) { return {log_, method, ReceiverFlag::kStrong}; }
+
+  TestProgram program_;
+  Ref<TestApplication> app_ = New<TestApplication>();
+  Ref<MenuBar> bar_ = New<MenuBar>();
+  Ref<Log> log_ = New<Log>();
+  Ref<TestWindow> window_;
+};
+
+TEST_F(MenuTest, AnItemIsInOneMenu) {
+  EXPECT_THROW(bar_->AddMenu(bar_->_Lookup("Own")), MenuHasParentException);
+  EXPECT_FALSE(bar_->Child("Own"));
+  EXPECT_FALSE(bar_->_Lookup("Nowhere"));
+}
+
+TEST_F(MenuTest, TheWindowsHandlerComesFirstAndCanTakeTheItem) {
+  bar_->_Lookup("Own")->SetAutoEnabled(true);
+  EnableMenuItems();
+  app_->_AddMenuHandler("Own", Handler(&Log::Take));
+  window_->_AddMenuHandler("Own", Handler(&Log::Pass));
+  UserChose(bar_->_Lookup("Own"));
+  EXPECT_EQ(log_->entries, (std::vector<std::string>{"pass", "take"}));
+  window_->Close();
+  window_ = ImplicitInstance<TestWindow>();
+  program_.display().PressKey(Key::Character("x"));
+  window_->_AddMenuHandler("Own", Handler(&Log::Take));
+  UserChose(bar_->_Lookup("Own"));
+  EXPECT_EQ(log_->entries, (std::vector<std::string>{"pass", "take", "take"}));
+}
+
+TEST_F(MenuTest, ADisabledItemsShortcutDoesNothing) {
+  window_->_AddMenuHandler("Own", Handler(&Log::Take));
+  const int enablings = window_->enablings;
+  program_.display().PressKey(Key::Command("o"));
+  EXPECT_EQ(window_->enablings, enablings + 1);
+  EXPECT_TRUE(log_->entries.empty());
+  EXPECT_FALSE(program_.display().CanChoose("Edit/Own"));
+  bar_->_Lookup("Own")->SetAutoEnabled(true);
+  program_.display().PressKey(Key::Command("o"));
+  EXPECT_EQ(log_->entries.size(), 1U);
+}
+
+TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {
+  window_->field()->SetText("text");
+  program_.display().Click(Role::kText, "field");
+  EXPECT_FALSE(program_.display().CanChoose("Edit/EditCopy"));
+  program_.display().Select("field", 0, 2);
+  EXPECT_TRUE(program_.display().Choose("Edit/EditCopy"));
+  EXPECT_EQ(program_.display().ClipboardText(), "te");
+  app_->_AddMenuHandler("EditCopy", Handler(&Log::Take));
+  program_.display().Select("field", 0, 3);
+  program_.display().PressKey(Key::Command("c"));
+  EXPECT_EQ(program_.display().ClipboardText(), "te");
+}
+
+}  // namespace
+}  // namespace vamo

@@ -1,0 +1,30 @@
+// A type of file that the program is known for.
+#include "toolkit/file_type.h"
+
+#include "toolkit/runtime.h"
+
+namespace vamo {
+
+void FileType::Register() {
+  if (registered_) return;
+  Runtime::Current().RegisterFileType(Self(this));
+  registered_ = true;
+}
+
+void FileType::Deregister() {
+  if (!registered_) return;
+  Runtime::Current().DeregisterFileType(*this);
+  registered_ = false;
+}
+
+std::string FileType::Operator_Convert() {
+  Register();
+  return name_;
+}
+
+void FileType::Write(std::string& field, std::string_view value) {
+  Deregister();
+  field = value;
+}
+
+}  // namespace vamo

@@ -1,0 +1,41 @@
+// The push button.
+#ifndef VAMO_TOOLKIT_PUSH_BUTTON_H_
+#define VAMO_TOOLKIT_PUSH_BUTTON_H_
+
+#include "toolkit/control.h"
+#include "toolkit/delegate.h"
+
+namespace vamo {
+
+// A button for the mouse and for assistive technology. It never has the keys: Space and Return do
+// nothing to it.
+class PushButton : public RectControl {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  const std::string& Caption() const { return caption_; }
+  bool Default() const { return default_; }
+  const vamo::Font& Font() const { return font_; }
+
+  // Raised when the mouse goes down on the button, with the place in the button's own coordinates.
+  // True: the handler has dealt with the press. False: the button goes on as buttons do.
+  Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)> MouseDown;
+
+  // The mouse has gone down at that place of the button. Tells what MouseDown said. A disabled
+  // button raises nothing.
+  bool UserPressed(std::int64_t x, std::int64_t y);
+  // Assistive technology has pressed the button: as the mouse at its centre.
+  bool UserPressedByAssistiveTechnology();
+
+ private:
+  static std::span<const Property> Properties();
+
+  std::string caption_;
+  bool default_ = false;
+  vamo::Font font_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_PUSH_BUTTON_H_

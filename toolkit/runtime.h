@@ -1,0 +1,127 @@
+// The run time: the one object that holds all process-wide state, and the operations that reach it.
+#ifndef VAMO_TOOLKIT_RUNTIME_H_
+#define VAMO_TOOLKIT_RUNTIME_H_
+
+#include <any>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <thread>
+#include <typeindex>
+#include <unordered_map>
+#include <vector>
+
+#include "toolkit/application.h"
+#include "toolkit/delegate.h"
+#include "toolkit/display.h"
+#include "toolkit/object.h"
+
+namespace vamo {
+
+class FileType;
+class Window;
+
+// Calls a function and gives back the RuntimeException that it raised, or nil; anything else that
+// it raises goes on to the caller.
+using ExceptionHelper = std::function<std::exception_ptr(const std::function<void()>&)>;
+
+// All process-wide state: the display, the application object, the live windows, the module-level
+// fields, the exit code. One object with one owner; while it lives, `Current` finds it. It knows
+// nothing of what the program does.
+class Runtime {
+ public:
+  explicit Runtime(std::unique_ptr<Display> display);
+  ~Runtime();
+  Runtime(const Runtime&) = delete;
+  Runtime& operator=(const Runtime&) = delete;
+
+  // Raises NilObjectException where no run time lives.
+  static Runtime& Current();
+  static bool Exists() { return current_ != nullptr; }
+
+  Display& GetDisplay() { return *display_; }
+  std::thread::id MainThread() const { return main_thread_; }
+
+  const Ref<Application>& App() const { return app_; }
+  void RegisterApp(Ref<Application> app) { app_ = std::move(app); }
+
+  // The windows that have been constructed and not closed, in the order of their construction.
+  const std::vector<Ref<Window>>& LiveWindows() const { return live_windows_; }
+  void AddLiveWindow(Ref<Window> window);
+  void RemoveLiveWindow(const Window& window);
+
+  // The window that has the user's keys, or nil.
+  const Ref<Window>& ActiveWindow() const { return active_window_; }
+  void SetActiveWindow(Ref<Window> window) { active_window_ = std::move(window); }
+
+  // The module-level fields that the struct `Fields` declares, default-constructed at their first
+  // use and gone with the run time.
+  template <class Fields>
+  Fields& ModuleFields() {
+    std::any& fields = module_fields_[std::type_index(typeid(Fields))];
+    if (!fields.has_value()) fields.emplace<Fields>();
+    return *std::any_cast<Fields>(&fields);
+  }
+  // Lets go of the windows, the module-level fields and the application object, in this order.
+  void PerformFinalizers();
+
+  // The file types of the program, in the order of their registration.
+  const std::vector<Ref<FileType>>& RegisteredFileTypes() const { return file_types_; }
+  void RegisterFileType(Ref<FileType> type);
+  void DeregisterFileType(const FileType& type);
+
+  void SetExceptionHelper(ExceptionHelper helper) { exception_helper_ = std::move(helper); }
+
+  // Runs one event. A RuntimeException that leaves it ends here: EndException and
+  // ThreadEndException silently, any other in the application's UnhandledException event or else in
+  // the default action. What is no RuntimeException ends the event loop and is raised again out of
+  // Run.
+  void Dispatch(const std::function<void()>& event);
+
+  // Takes the user's events until End; returns at once where End has been called already.
+  void Run();
+
+  // Ends the event loop. The first exit code stands.
+  void End(int exit_code);
+  int ExitCode() const { return exit_code_; }
+
+ private:
+  void TakeException(const std::exception_ptr& exception);
+
+  static Runtime* current_;
+
+  const std::unique_ptr<Display> display_;
+  const std::thread::id main_thread_ = std::this_thread::get_id();
+  std::unordered_map<std::type_index, std::any> module_fields_;
+  Ref<Application> app_;
+  std::vector<Ref<Window>> live_windows_;
+  Ref<Window> active_window_;
+  std::vector<Ref<FileType>> file_types_;
+  ExceptionHelper exception_helper_;
+  std::exception_ptr raised_again_;
+  bool ending_ = false;
+  int exit_code_ = 0;
+};
+
+// Raises ThreadAccessingUIException when an application object exists and the caller is not on the
+// main thread. Each operation on a window, a control, a menu item or a picture begins with it.
+void _UITrap();
+
+// Sounds the system alert; no other effect.
+void Beep();
+
+// Ends the event loop and with it the program. `exit_code` becomes the exit status of the process.
+void Quit(int exit_code);
+
+// The default action for an exception that nothing has taken: says its class and message in one
+// line on standard error and ends the event loop with exit code 1.
+void _UnhandledException(const std::exception_ptr& exception);
+
+// Whether the class of that name, which is the object's or one of its bases, implements the event.
+bool _RuntimeIsEventHandled(const Object& object, std::string_view class_name,
+                            std::string_view event);
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_RUNTIME_H_

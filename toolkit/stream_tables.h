@@ -1,0 +1,350 @@
+// Readable rows for the property streams: one struct a class of object, and the order of its
+// entries.
+#ifndef VAMO_TOOLKIT_STREAM_TABLES_H_
+#define VAMO_TOOLKIT_STREAM_TABLES_H_
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "toolkit/property_stream.h"
+
+namespace vamo {
+
+// A window. Lengths in logical pixels.
+struct WindowRow {
+  std::int64_t width, height;
+  std::int64_t maximum_width, maximum_height;
+  std::int64_t type;
+  std::string_view title;
+  bool has_maximize_button;
+  bool resizeable;
+  bool composite;
+  bool has_background_colour;
+};
+
+// Which sides keep their distance to the window's.
+struct LockRow {
+  bool left, top, right, bottom;
+};
+inline constexpr LockRow kAllLocked{true, true, true, true};
+
+// What every visible control begins with.
+struct PlaceRow {
+  std::string_view name;
+  std::int64_t left, top, width, height;
+  std::int64_t tab_index;
+  // The name of the control that this one lies in; empty for the window itself.
+  std::string_view parent = {};
+  LockRow locks = kAllLocked;
+};
+
+struct LabelRow {
+  PlaceRow place;
+  bool tab_stop = false;
+  std::string_view value = {};
+  float font_size = 12;
+  bool bold = false;
+  std::int64_t alignment = 0;
+  Colour colour = {};
+  bool visible = true;
+};
+
+struct TextFieldRow {
+  PlaceRow place;
+  std::int64_t alignment;
+  std::string_view validation_mask;
+  std::int64_t maximum_characters;
+  bool spell_checking;
+  bool enabled;
+  bool read_only;
+};
+
+struct SliderRow {
+  PlaceRow place;
+  std::int64_t value, minimum, maximum;
+};
+
+struct RectangleRow {
+  PlaceRow place;
+  double border_thickness;
+  Colour fill, top_left, bottom_right;
+};
+
+struct CanvasRow {
+  PlaceRow place;
+  bool tab_stop;
+  bool enabled;
+};
+
+struct PushButtonRow {
+  PlaceRow place;
+  std::string_view caption;
+  float font_size;
+  bool bold;
+  bool is_default;
+};
+
+struct TextAreaRow {
+  PlaceRow place;
+  std::string_view value;
+};
+
+struct TimerRow {
+  std::int64_t run_mode;
+  // In milliseconds.
+  std::int64_t period;
+};
+
+namespace internal {
+
+// The entries of a row, in the order of the stream. What stands here as a constant is the same for
+// every object of the class in this program.
+
+// An index that says: not a member of a control set.
+inline constexpr std::int64_t kNoIndex = INT32_MIN;
+inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
+inline constexpr Colour kBlack{0, 0, 0};
+
+constexpr PropertyEntry Text(std::string_view name, std::string_view value = {}) {
+  return {name, value};
+}
+constexpr PropertyEntry Integer(std::string_view name, std::int64_t value) { return {name, value}; }
+constexpr PropertyEntry Boolean(std::string_view name, bool value) { return {name, value}; }
+
+template <std::size_t kFirst, std::size_t kSecond>
+constexpr auto Join(const std::array<PropertyEntry, kFirst>& first,
+                    const std::array<PropertyEntry, kSecond>& second) {
+  std::array<PropertyEntry, kFirst + kSecond> joined;
+  std::copy(second.begin(), second.end(), std::copy(first.begin(), first.end(), joined.begin()));
+  return joined;
+}
+
+constexpr auto Head(const PlaceRow& row) {
+  return std::array{
+      Text("Name", row.name),
+      Integer("Index", kNoIndex),
+      Integer("Left", row.left),
+      Integer("Top", row.top),
+      Integer("Width", row.width),
+      Integer("Height", row.height),
+      Boolean("LockLeft", row.locks.left),
+      Boolean("LockTop", row.locks.top),
+      Boolean("LockRight", row.locks.right),
+      Boolean("LockBottom", row.locks.bottom),
+      Integer("TabIndex", row.tab_index),
+      Integer("TabPanelIndex", 0),
+  };
+}
+
+constexpr auto Entries(const WindowRow& row) {
+  return std::array{
+      Integer("Width", row.width),
+      Integer("Height", row.height),
+      Integer("MinimumWidth", 64),
+      Integer("MinimumHeight", 64),
+      Integer("MaximumWidth", row.maximum_width),
+      Integer("MaximumHeight", row.maximum_height),
+      Integer("Type", row.type),
+      Text("Title", row.title),
+      Boolean("HasCloseButton", true),
+      Boolean("HasMaximizeButton", row.has_maximize_button),
+      Boolean("HasMinimizeButton", true),
+      Boolean("HasFullScreenButton", false),
+      Boolean("Resizeable", row.resizeable),
+      Boolean("Composite", row.composite),
+      Integer("MacProcID", 0),
+      Boolean("FullScreen", false),
+      Integer("DefaultLocation", 0),
+      Boolean("Visible", true),
+      Boolean("HasBackgroundColor", row.has_background_colour),
+      PropertyEntry{"BackgroundColor", kWhite},
+      Boolean("MenuBarVisible", true),
+      Boolean("LiveResize", false),
+  };
+}
+
+constexpr auto Entries(const LabelRow& row) {
+  return Join(Head(row.place), std::array{
+                                   Boolean("TabStop", row.tab_stop),
+                                   Boolean("AllowAutoDeactivate", true),
+                                   Boolean("Enabled", true),
+                                   Text("Tooltip"),
+                                   Boolean("Multiline", false),
+                                   Boolean("Selectable", false),
+                                   Integer("TextAlignment", row.alignment),
+                                   PropertyEntry{"TextColor", row.colour},
+                                   Boolean("Transparent", true),
+                                   Text("Value", row.value),
+                                   Boolean("Visible", row.visible),
+                                   Boolean("Bold", row.bold),
+                                   Boolean("Italic", false),
+                                   Text("FontName", "System"),
+                                   Boolean("Underline", false),
+                                   PropertyEntry{"FontSize", row.font_size},
+                                   Boolean("FontUnit", false),
+                                   Text("DataSource"),
+                                   Text("DataField"),
+                                   Text("InitialParent", row.place.parent),
+                               });
+}
+
+constexpr auto Entries(const TextFieldRow& row) {
+  return Join(Head(row.place), std::array{
+                                   Boolean("TabStop", true),
+                                   Boolean("AllowAutoDeactivate", true),
+                                   PropertyEntry{"BackgroundColor", kWhite},
+                                   Boolean("HasBorder", true),
+                                   Boolean("Enabled", row.enabled),
+                                   Text("Format"),
+                                   Text("Tooltip"),
+                                   Boolean("Password", false),
+                                   PropertyEntry{"TextColor", kBlack},
+                                   Boolean("Transparent", true),
+                                   Boolean("AllowFocusRing", true),
+                                   Boolean("Visible", true),
+                                   Text("FontName", "System"),
+                                   PropertyEntry{"FontSize", 12.0F},
+                                   Boolean("FontUnit", false),
+                                   Boolean("Bold", false),
+                                   Boolean("Italic", false),
+                                   Boolean("Underline", false),
+                                   Text("Hint"),
+                                   Text("Value"),
+                                   Boolean("AllowTabs", false),
+                                   Integer("TextAlignment", row.alignment),
+                                   Boolean("AllowSpellChecking", row.spell_checking),
+                                   Integer("MaximumCharactersAllowed", row.maximum_characters),
+                                   Text("ValidationMask", row.validation_mask),
+                                   Boolean("ReadOnly", row.read_only),
+                                   Text("DataSource"),
+                                   Text("DataField"),
+                                   Text("InitialParent", row.place.parent),
+                               });
+}
+
+constexpr auto Entries(const TextAreaRow& row) {
+  return Join(Head(row.place), std::array{
+                                   Boolean("TabStop", false),
+                                   Boolean("AllowAutoDeactivate", true),
+                                   PropertyEntry{"BackgroundColor", kWhite},
+                                   Boolean("HasBorder", true),
+                                   Boolean("Enabled", true),
+                                   Text("Format"),
+                                   Text("Tooltip"),
+                                   Boolean("HideSelection", true),
+                                   PropertyEntry{"LineHeight", 0.0},
+                                   PropertyEntry{"LineSpacing", 1.0},
+                                   Boolean("Multiline", true),
+                                   Boolean("HasHorizontalScrollbar", false),
+                                   Boolean("HasVerticalScrollbar", false),
+                                   Boolean("AllowStyledText", true),
+                                   PropertyEntry{"TextColor", kBlack},
+                                   Boolean("Transparent", true),
+                                   Boolean("AllowFocusRing", false),
+                                   Boolean("Visible", true),
+                                   Boolean("Bold", false),
+                                   Boolean("Italic", false),
+                                   Text("FontName", "System"),
+                                   PropertyEntry{"FontSize", 12.0F},
+                                   Boolean("FontUnit", false),
+                                   Boolean("Underline", false),
+                                   Text("Value", row.value),
+                                   Boolean("AllowTabs", false),
+                                   Integer("TextAlignment", 0),
+                                   Boolean("AllowSpellChecking", false),
+                                   Integer("MaximumCharactersAllowed", 0),
+                                   Text("ValidationMask"),
+                                   Boolean("ReadOnly", true),
+                                   Text("DataSource"),
+                                   Text("DataField"),
+                                   Text("InitialParent", row.place.parent),
+                               });
+}
+
+constexpr auto Entries(const SliderRow& row) {
+  return Join(Head(row.place), std::array{
+                                   Boolean("TabStop", true),
+                                   Boolean("AllowAutoDeactivate", true),
+                                   Boolean("Enabled", true),
+                                   Text("Tooltip"),
+                                   Boolean("Transparent", true),
+                                   Boolean("Visible", true),
+                                   Integer("Value", row.value),
+                                   Integer("MinimumValue", row.minimum),
+                                   Integer("MaximumValue", row.maximum),
+                                   Integer("LineStep", 1),
+                                   Boolean("AllowLiveScrolling", true),
+                                   Integer("PageStep", 1),
+                                   Integer("TickMarkStyle", 0),
+                                   Text("InitialParent", row.place.parent),
+                               });
+}
+
+constexpr auto Entries(const RectangleRow& row) {
+  return Join(Head(row.place), std::array{
+                                   Boolean("AllowAutoDeactivate", true),
+                                   PropertyEntry{"BorderThickness", row.border_thickness},
+                                   PropertyEntry{"BottomRightColor", row.bottom_right},
+                                   Boolean("Enabled", true),
+                                   PropertyEntry{"FillColor", row.fill},
+                                   Text("Tooltip"),
+                                   PropertyEntry{"TopLeftColor", row.top_left},
+                                   Boolean("Transparent", true),
+                                   Boolean("Visible", true),
+                                   Text("InitialParent", row.place.parent),
+                               });
+}
+
+constexpr auto Entries(const CanvasRow& row) {
+  return Join(Head(row.place), std::array{
+                                   Boolean("TabStop", row.tab_stop),
+                                   Boolean("AllowAutoDeactivate", true),
+                                   Boolean("Enabled", row.enabled),
+                                   Text("Tooltip"),
+                                   Boolean("AllowFocusRing", false),
+                                   Boolean("Visible", true),
+                                   Boolean("AllowFocus", false),
+                                   Boolean("AllowTabs", false),
+                                   Boolean("Transparent", true),
+                                   Boolean("DoubleBuffer", false),
+                                   Boolean("Transparent", true),
+                                   Text("InitialParent", row.place.parent),
+                               });
+}
+
+constexpr auto Entries(const PushButtonRow& row) {
+  return Join(Head(row.place), std::array{
+                                   Boolean("TabStop", false),
+                                   Boolean("AllowAutoDeactivate", true),
+                                   Integer("MacButtonStyle", 0),
+                                   Boolean("Cancel", false),
+                                   Text("Caption", row.caption),
+                                   Boolean("Default", row.is_default),
+                                   Boolean("Enabled", true),
+                                   Text("Tooltip"),
+                                   Boolean("Transparent", false),
+                                   Boolean("Visible", true),
+                                   Text("FontName", "System"),
+                                   PropertyEntry{"FontSize", row.font_size},
+                                   Boolean("FontUnit", false),
+                                   Boolean("Bold", row.bold),
+                                   Boolean("Italic", false),
+                                   Boolean("Underline", false),
+                                   Text("InitialParent", row.place.parent),
+                               });
+}
+
+constexpr auto Entries(const TimerRow& row) {
+  return std::array{Integer("RunMode", row.run_mode), Integer("Period", row.period)};
+}
+
+}  // namespace internal
+
+// The stream of a row.
+template <const auto& kRow>
+inline constexpr PropertyStream kStreamOf = EncodeStream([] { return internal::Entries(kRow); });
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_STREAM_TABLES_H_

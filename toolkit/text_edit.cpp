@@ -1,0 +1,152 @@
+// The text, its selection, the Edit commands and the way back.
+#include "toolkit/text_edit.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "toolkit/font_properties.h"
+#include "toolkit/runtime.h"
+#include "toolkit/utf8.h"
+
+namespace vamo {
+namespace {
+
+constexpr std::size_t kHistorySteps = 100;
+constexpr std::size_t kHistoryBytes = std::size_t{1} << 24U;
+
+// Sets a flag for the length of a scope.
+class Flagged {
+ public:
+  explicit Flagged(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+  Flagged(const Flagged&) = delete;
+  Flagged& operator=(const Flagged&) = delete;
+  ~Flagged() { flag_ = before_; }
+
+ private:
+  bool& flag_;
+  const bool before_;
+};
+
+}  // namespace
+
+const ClassInfo TextEdit::kClass{"TextEdit", &RectControl::kClass, Properties()};
+
+std::span<const Property> TextEdit::Properties() {
+  static constexpr auto kProperties =
+      Join(kFontProperties<&TextEdit::font_>,
+           std::array{
+               Declare<&TextEdit::background_color_>("BackgroundColor"),
+               Declare<&TextEdit::has_border_>("HasBorder"),
+               ReadOver<std::string>("Format"),
+               Declare<&TextEdit::text_color_>("TextColor"),
+               ReadOver<bool>("AllowFocusRing"),
+               Declare<&TextEdit::SetText>("Value"),
+               ReadOver<bool>("AllowTabs"),
+               Declare<&TextEdit::alignment_>("TextAlignment"),
+               ReadOver<bool>("AllowSpellChecking"),
+               Declare<&TextEdit::read_only_>("ReadOnly"),
+               ReadOver<std::string>("DataSource"),
+               ReadOver<std::string>("DataField"),
+           });
+  return kProperties;
+}
+
+const std::string& TextEdit::Text() const {
+  _UITrap();
+  return text_;
+}
+
+void TextEdit::SetText(std::string_view text) {
+  _UITrap();
+  std::string valid = ValidUtf8(text);
+  if (valid == text_) return;
+  // What the program itself wrote cannot be undone; what it corrected in the user's edit can.
+  if (!in_users_edit_) history_.clear();
+  text_ = std::move(valid);
+  selection_ = {text_.size(), text_.size()};
+  Changed();
+  RaiseTextChange();
+}
+
+std::string_view TextEdit::SelectedText() const {
+  const auto [first, last] = std::minmax(selection_.anchor, selection_.caret);
+  return std::string_view(text_).substr(first, last - first);
+}
+
+bool TextEdit::CanPaste() const {
+  return !read_only_ && !Runtime::Current().GetDisplay().ClipboardText().empty();
+}
+
+void TextEdit::Undo() {
+  if (!CanUndo()) return;
+  State state = std::move(history_.back());
+  history_.pop_back();
+  Restore(std::move(state));
+}
+
+void TextEdit::Cut() {
+  if (!CanCut()) return;
+  Copy();
+  ReplaceSelection("");
+}
+
+void TextEdit::Copy() {
+  if (CanCopy()) Runtime::Current().GetDisplay().SetClipboardText(SelectedText());
+}
+
+void TextEdit::Paste() { UserPasted(Runtime::Current().GetDisplay().ClipboardText()); }
+
+void TextEdit::UserSelected(std::size_t anchor, std::size_t caret) {
+  const Selection selected{CharacterBoundary(text_, anchor), CharacterBoundary(text_, caret)};
+  if (selected == selection_) return;
+  selection_ = selected;
+  Changed();
+}
+
+void TextEdit::UserPasted(std::string_view text) {
+  Runtime::Current().Dispatch([this, self = Self(this), text] {
+    if (read_only_ || !Enabled()) return;
+    std::string line = ValidUtf8(text);
+    std::erase_if(line, [](char c) { return c == '\r' || c == '\n'; });
+    ReplaceSelection(line);
+  });
+}
+
+void TextEdit::ReplaceSelection(std::string_view text) {
+  const auto [first, last] = std::minmax(selection_.anchor, selection_.caret);
+  State next{text_.substr(0, first), {}};
+  next.text += text;
+  next.selection = {next.text.size(), next.text.size()};
+  next.text += std::string_view(text_).substr(last);
+  if (next.text != text_) Remember();
+  Restore(std::move(next));
+}
+
+void TextEdit::Remember() {
+  history_.push_back({text_, selection_});
+  std::size_t bytes = 0;
+  std::size_t kept = 0;
+  for (auto state = history_.rbegin(); state != history_.rend() && kept < kHistorySteps; ++state) {
+    bytes += state->text.size();
+    if (kept > 0 && bytes > kHistoryBytes) break;
+    ++kept;
+  }
+  history_.erase(history_.begin(), history_.end() - static_cast<std::ptrdiff_t>(kept));
+}
+
+void TextEdit::DeleteTo(std::size_t end) {
+  if (SelectedText().empty()) selection_.anchor = end;
+  ReplaceSelection("");
+}
+
+void TextEdit::Restore(State state) {
+  const bool changed = text_ != state.text;
+  text_ = std::move(state.text);
+  selection_ = state.selection;
+  Changed();
+  const Flagged users_edit(in_users_edit_);
+  if (changed) RaiseTextChange();
+}
+
+}  // namespace vamo

@@ -1,0 +1,53 @@
+// The timer.
+#include "toolkit/timer.h"
+
+#include <array>
+#include <chrono>
+
+#include "toolkit/runtime.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+
+const ClassInfo Timer::kClass{"Timer", nullptr, Properties()};
+
+std::span<const Property> Timer::Properties() {
+  static constexpr std::array kProperties{
+      Declare<&Timer::SetRunMode>("RunMode"),
+      Declare<&Timer::SetPeriod>("Period"),
+  };
+  return kProperties;
+}
+
+void Timer::SetRunMode(std::int64_t run_mode) {
+  run_mode_ = static_cast<RunMode>(run_mode);
+  Restart();
+}
+
+void Timer::SetPeriod(std::int64_t period) {
+  period_ = period;
+  Restart();
+}
+
+void Timer::Restart() {
+  running_ = nullptr;
+  if (run_mode_ == RunMode::kOff || period_ <= 0) return;
+  running_ = Runtime::Current().GetDisplay().StartTimer(std::chrono::milliseconds(period_),
+                                                        [this] { _CallAction(); });
+}
+
+void Timer::_CallAction() {
+  Runtime::Current().Dispatch([this, self = Self(this)] {
+    if (run_mode_ == RunMode::kOff) return;
+    if (run_mode_ == RunMode::kSingle) Stop();
+    if (Action) Action.Invoke(self);
+  });
+}
+
+void _wrapper_Timer1::_SetWindow(const Ref<class Window>& window) {
+  owner_window_ = WeakRef(window);
+}
+
+Ref<Window> _wrapper_Timer1::Window() const { return Cast<class Window>(owner_window_.Value()); }
+
+}  // namespace vamo

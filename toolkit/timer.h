@@ -1,0 +1,66 @@
+// The timer.
+#ifndef VAMO_TOOLKIT_TIMER_H_
+#define VAMO_TOOLKIT_TIMER_H_
+
+#include <cstdint>
+#include <memory>
+#include <span>
+
+#include "toolkit/class_info.h"
+#include "toolkit/control.h"
+#include "toolkit/delegate.h"
+#include "toolkit/display.h"
+#include "toolkit/object.h"
+
+namespace vamo {
+
+// Raises an event once or again and again after a period. It is no control: it has no window.
+class Timer : public Object {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  // The numbers of the property RunMode.
+  enum class RunMode { kOff = 0, kSingle = 1, kMultiple = 2 };
+
+  RunMode GetRunMode() const { return run_mode_; }
+  // A timer runs from the moment that it has both a mode other than off and a period above 0. Each
+  // write starts the period anew.
+  void SetRunMode(std::int64_t run_mode);
+  // In milliseconds.
+  std::int64_t Period() const { return period_; }
+  void SetPeriod(std::int64_t period);
+
+  // Raised when the period has passed; in single mode the timer is off by then.
+  Delegate<void(Ref<Timer>)> Action;
+
+  // Stops the timer for good. The window that holds it does so when it is closed.
+  void Stop() { SetRunMode(static_cast<std::int64_t>(RunMode::kOff)); }
+
+  void _CallAction();
+
+ private:
+  static std::span<const Property> Properties();
+  void Restart();
+
+  RunMode run_mode_ = RunMode::kOff;
+  std::int64_t period_ = 0;
+  std::unique_ptr<RunningTimer> running_;
+};
+
+// A timer that can be named among a window's controls. It keeps no window alive.
+class _wrapper_Timer1 : public Timer, public _PaneChild {
+ public:
+  void _SetWindow(const Ref<class Window>& window) override;
+  Ref<class Window> Window() const override;
+  std::int64_t _Index() const override { return index_; }
+  void _SetIndex(std::int64_t index) override { index_ = index; }
+
+ private:
+  WeakRef owner_window_;
+  std::int64_t index_ = 0;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_TIMER_H_

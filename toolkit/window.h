@@ -1,0 +1,179 @@
+// The window.
+#ifndef VAMO_TOOLKIT_WINDOW_H_
+#define VAMO_TOOLKIT_WINDOW_H_
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include "toolkit/class_info.h"
+#include "toolkit/control.h"
+#include "toolkit/display.h"
+#include "toolkit/key.h"
+#include "toolkit/menu_item.h"
+#include "toolkit/object.h"
+
+namespace vamo {
+
+// What assistive technology reads of one control, beside its text. Empty: nothing of the kind.
+struct AccessibleText {
+  std::string_view control;
+  std::string_view name;
+  std::string_view description;
+  // The label that is the control's caption.
+  std::string_view labelled_by;
+};
+
+// A window: its state, its children, its focus, and the road of the user's keys and presses through
+// it. It shows nothing by itself, and it knows nothing of what its subclasses are for.
+class Window : public Object {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+  ~Window() override { TakeOffDisplay(); }
+
+  // Builds the window: its own state, its controls, its part on the display, its menu handlers;
+  // then it is live, and comes on the screen where its state says Visible.
+  void Constructor();
+
+  // Makes the window visible, brings it to the front and gives it the focus.
+  void Show();
+  // Makes the window invisible. It stays live, with its state.
+  void Hide();
+  // Raises Close and ends the window: it is live no longer, and none of its timers fires.
+  void Close();
+  bool IsLive() const { return view_ != nullptr; }
+
+  // Makes a control of a class for this window. Its properties and its name come later.
+  template <class ControlClass>
+  Ref<ControlClass> __New() {
+    _UITrapForNew();
+    Ref<ControlClass> control = New<ControlClass>();
+    control->_SetWindow(Self(this));
+    return control;
+  }
+  // Enters a control, or another child, in the window under its name.
+  template <class Child>
+  void _AddControl(std::string_view name, const Ref<Child>& child) {
+    AddChild(name, child, &*child);
+  }
+  // The child of that name, or nil.
+  Ref<Object> _ControlByName(std::string_view name) const;
+  // The same, checked to be of a class.
+  template <class ControlClass>
+  Ref<ControlClass> ControlNamed(std::string_view name) const {
+    return Cast<ControlClass>(_ControlByName(name));
+  }
+
+  // Enters the function for the menu item of that name. The first one entered for a name stands.
+  void _AddMenuHandler(std::string_view name, MenuHandler handler);
+  const MenuHandlers& GetMenuHandlers() const { return menu_handlers_; }
+
+  const Ref<class MenuBar>& MenuBar() const { return menu_bar_; }
+  void SetMenuBar(Ref<class MenuBar> menu_bar);
+
+  // The initial state, as the window's stream gives it. Lengths in logical pixels.
+  struct State {
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    std::int64_t minimum_width = 0;
+    std::int64_t minimum_height = 0;
+    std::int64_t maximum_width = 0;
+    std::int64_t maximum_height = 0;
+    std::int64_t type = 0;
+    std::string title;
+    bool has_close_button = true;
+    bool has_maximize_button = false;
+    bool has_minimize_button = true;
+    bool resizeable = false;
+    bool visible = true;
+    bool has_background_colour = false;
+    Colour background_colour;
+  };
+  const State& GetState() const { return state_; }
+  // Type 2: a splash without a frame, in the middle of the screen.
+  bool IsSplash() const { return state_.type == 2; }
+  bool Visible() const { return visible_; }
+
+  // The controls in the order of their creation; other children are not among them.
+  std::vector<Ref<RectControl>> Controls() const;
+  // The control that has the keys while the window is active, or nil.
+  const Ref<RectControl>& Focus() const { return focus_; }
+  void SetFocus(const Ref<RectControl>& control);
+
+  // What a display reports. Each is one event.
+  //
+  // The window has become the one that the user's keys go to, or has ceased to be.
+  void UserActivated();
+  void UserDeactivated();
+  // The close button, or what stands for it.
+  void UserAskedToClose();
+  // A key. True: it has been dealt with. False: the display may do what its platform does with it.
+  bool UserPressedKey(const Key& key);
+  // Text that came as a whole, from an input method say: goes the road of the keys, one by one.
+  void UserTyped(std::string_view text);
+  // The mouse has gone down, on no enabled control that takes it. Window coordinates.
+  void UserPressedMouse(std::int64_t x, std::int64_t y);
+  // The user has brought the focus to a control with the mouse, say.
+  void UserFocused(const Ref<RectControl>& control);
+
+  // The events. A class implements one by overriding it; else the toolkit's default stands, which
+  // is to do nothing. `Layout` and `CreateControls` come while the window is constructed; `KeyDown`
+  // for every key but a bare modifier and a menu shortcut, with the empty text for a key that
+  // carries no character; True of `KeyDown` and `MouseDown` ends the event.
+  virtual void Layout() {}
+  virtual void CreateControls() {}
+  // The table that is applied once the controls are there.
+  virtual std::span<const AccessibleText> AccessibleTexts() const { return {}; }
+  virtual void AddMenuHandlers(const Ref<Window>& /*window*/) {}
+  virtual void Event_Activate() {}
+  virtual void Event_Close() {}
+  virtual void Event_EnableMenuItems() {}
+  virtual bool Event_KeyDown(std::string /*key*/) { return false; }
+  virtual bool Event_MouseDown(std::int64_t /*x*/, std::int64_t /*y*/) { return false; }
+
+ private:
+  struct Child {
+    std::string name;
+    Ref<Object> object;
+  };
+
+  static std::span<const Property> Properties();
+  static void _UITrapForNew();
+  void AddChild(std::string_view name, Ref<Object> object, _PaneChild* child);
+  void ApplyAccessibleTexts();
+  void MakeView();
+  void TakeOffDisplay();
+  bool TakeKey(const Key& key);
+  void MoveFocus(bool backwards);
+
+  State state_;
+  bool visible_ = false;
+  std::vector<Child> children_;
+  Ref<RectControl> focus_;
+  Ref<class MenuBar> menu_bar_;
+  MenuHandlers menu_handlers_;
+  std::unique_ptr<WindowView> view_;
+};
+
+// The live window whose class bears that name, hidden or not; nil where there is none.
+Ref<Window> _GetImplicitWindow(std::string_view class_name);
+
+// The one live window of a class, which is made when there is none.
+template <class WindowClass>
+Ref<WindowClass> ImplicitInstance() {
+  Ref<Window> window = _GetImplicitWindow(WindowClass::kClass.name);
+  if (!window) {
+    window = New<WindowClass>();
+    window->Constructor();
+  }
+  return Cast<WindowClass>(window);
+}
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_WINDOW_H_

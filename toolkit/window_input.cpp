@@ -1,0 +1,84 @@
+// The road of what the user does through a window: activation, keys, presses, focus.
+#include <algorithm>
+
+#include "toolkit/menu_service.h"
+#include "toolkit/runtime.h"
+#include "toolkit/utf8.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+
+void Window::UserActivated() {
+  Runtime& runtime = Runtime::Current();
+  runtime.Dispatch([this, &runtime, self = Self(this)] {
+    if (!visible_ || runtime.ActiveWindow() == self) return;
+    runtime.SetActiveWindow(self);
+    Event_Activate();
+    EnableMenuItems();
+  });
+}
+
+void Window::UserDeactivated() {
+  Runtime& runtime = Runtime::Current();
+  if (runtime.ActiveWindow() == Self(this)) runtime.SetActiveWindow(nullptr);
+}
+
+void Window::UserAskedToClose() {
+  Runtime::Current().Dispatch([this, self = Self(this)] { Close(); });
+}
+
+bool Window::UserPressedKey(const Key& key) {
+  bool dealt_with = false;
+  Runtime::Current().Dispatch([&, self = Self(this)] { dealt_with = TakeKey(key); });
+  return dealt_with;
+}
+
+void Window::UserTyped(std::string_view text) {
+  const std::string valid = ValidUtf8(text);
+  for (std::size_t at = 0; at < valid.size();) {
+    const std::size_t next = NextCharacter(valid, at);
+    UserPressedKey(Key::Character(valid.substr(at, next - at)));
+    at = next;
+  }
+}
+
+bool Window::TakeKey(const Key& key) {
+  if (key.command) return ChooseByShortcut(key);
+  if (Event_KeyDown(key.text)) return true;
+  if (focus_ && focus_->CanTakeFocus() && focus_->TakeKey(key)) return true;
+  if (key.text != std::string_view(&kTab, 1)) return false;
+  MoveFocus(key.shift);
+  return true;
+}
+
+void Window::MoveFocus(bool backwards) {
+  std::vector<Ref<RectControl>> stops = Controls();
+  std::erase_if(stops, [](const Ref<RectControl>& control) {
+    return !control->TabStop() || !control->CanTakeFocus();
+  });
+  if (stops.empty()) return;
+  std::stable_sort(stops.begin(), stops.end(), [](const auto& left, const auto& right) {
+    return left->TabIndex() < right->TabIndex();
+  });
+  if (backwards) std::reverse(stops.begin(), stops.end());
+  const auto present = std::find(stops.begin(), stops.end(), focus_);
+  const auto next = present == stops.end() ? present : present + 1;
+  SetFocus(next == stops.end() ? stops.front() : *next);
+  focus_->EnteredByTab();
+}
+
+void Window::SetFocus(const Ref<RectControl>& control) {
+  if (focus_ == control) return;
+  focus_ = control;
+  if (view_ != nullptr) view_->UpdateFocus();
+}
+
+void Window::UserPressedMouse(std::int64_t x, std::int64_t y) {
+  Runtime::Current().Dispatch([&, self = Self(this)] { Event_MouseDown(x, y); });
+}
+
+void Window::UserFocused(const Ref<RectControl>& control) {
+  if (control->CanTakeFocus()) SetFocus(control);
+}
+
+}  // namespace vamo
