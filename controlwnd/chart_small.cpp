@@ -1,0 +1,21 @@
+// The picture that the control window and the About window show.
+#include "controlwnd/chart_small.h"
+
+#include "toolkit/runtime.h"
+
+namespace vamo::_x_ChartSmall {
+namespace {
+
+struct Fields {
+  Ref<Picture> pic;
+};
+
+}  // namespace
+
+Ref<Picture> ChartSmall() {
+  Ref<Picture>& pic = Runtime::Current().ModuleFields<Fields>().pic;
+  if (!pic) pic = Picture::_OpenFromApp("ChartSmall.jpg");
+  return pic;
+}
+
+}  // namespace vamo::_x_ChartSmall

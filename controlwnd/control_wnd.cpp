@@ -1,0 +1,102 @@
+// The working window: how input becomes r and N, and how r and N become the texts that the user
+// reads.
+#include "controlwnd/control_wnd.h"
+
+#include "stats/interval.h"
+#include "stats/significance.h"
+#include "toolkit/conversions.h"
+#include "toolkit/runtime.h"
+
+namespace vamo {
+namespace {
+
+constexpr double kLowestR = 0.0;
+constexpr double kHighestR = 0.99999;
+constexpr std::int64_t kLowestN = 4;
+constexpr std::int64_t kHighestN = 1000;
+constexpr double kPositionsPerR = 100.0;
+
+bool IsDigit(std::int64_t code) { return code > 47 && code < 58; }
+
+// Backspace, tab and the control code 16 pass every filter.
+bool IsPassingControlCode(std::int64_t code) { return code == 8 || code == 9 || code == 16; }
+
+// What a key filter answers: False lets the key through, True swallows it, with a beep.
+bool Refuse(bool passes) {
+  if (passes) return false;
+  Beep();
+  return true;
+}
+
+}  // namespace
+
+void ControlWnd::DoIt(double r_arg, std::int64_t /*n_arg*/) {
+  const std::int64_t n = Truncate(Val(nEdit()->Text()));
+  if (kHighestN < n) {
+    Beep();
+    nText()->SetVisible(true);
+    tText()->SetText("");
+    pText()->SetText("");
+    ciText()->SetText("");
+    return;
+  }
+  t = ComputeT(r_arg, n);
+  tText()->SetText(Format(t, "#####.00"));
+  p = ComputeP(t, n);
+  pText()->SetText(Format(p, ".00000"));
+  const Interval interval = ComputeInterval(r_arg, n);
+  ciText()->SetText(Format(interval.lo, "+.000") + " to " + Format(interval.hi, "+.000"));
+}
+
+bool ControlWnd::rEdit_KeyDown(Ref<TextField> /*sender*/, std::string key) {
+  const std::int64_t code = Asc(key);
+  constexpr std::int64_t kPoint = 46;
+  return Refuse(IsDigit(code) || code == kPoint || IsPassingControlCode(code));
+}
+
+// A write to rEdit runs this handler again inside the write, so r is read from the property after
+// it.
+void ControlWnd::rEdit_TextChange(Ref<TextField> /*sender*/) {
+  r = Val(rEdit()->Text());
+  if (kLowestR > r) {
+    r = kLowestR;
+    rEdit()->SetText(".000");
+  }
+  if (r > kHighestR) {
+    r = kHighestR;
+    rEdit()->SetText(".99999");
+  }
+  DoIt(r, N);
+  z = FisherZ(r);
+  zFld()->SetText(Format(z, "##0.000"));
+}
+
+void ControlWnd::rSlider_ValueChanged(Ref<Slider> /*sender*/) {
+  r = static_cast<double>(rSlider()->Value()) / kPositionsPerR;
+  rEdit()->SetText(Format(r, ".000"));
+  DoIt(r, N);
+}
+
+bool ControlWnd::nEdit_KeyDown(Ref<TextField> /*sender*/, std::string key) {
+  const std::int64_t code = Asc(key);
+  return Refuse(IsDigit(code) || IsPassingControlCode(code));
+}
+
+// Above the highest N the warning is hidden here and shown again by DoIt.
+void ControlWnd::nEdit_TextChange(Ref<TextField> /*sender*/) {
+  N = Truncate(Val(nEdit()->Text()));
+  if (N < kLowestN) {
+    Beep();
+    nText()->SetVisible(true);
+  }
+  if (N > kLowestN - 1) nText()->SetVisible(false);
+  DoIt(r, N);
+}
+
+void ControlWnd::nSlider_ValueChanged(Ref<Slider> /*sender*/) {
+  N = nSlider()->Value();
+  nEdit()->SetText(Str(N, ""));
+  DoIt(r, N);
+}
+
+}  // namespace vamo

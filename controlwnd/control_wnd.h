@@ -1,0 +1,97 @@
+// The working window.
+#ifndef VAMO_CONTROLWND_CONTROL_WND_H_
+#define VAMO_CONTROLWND_CONTROL_WND_H_
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "controlwnd/accessors.h"
+#include "controlwnd/menu_items.h"
+#include "toolkit/label.h"
+#include "toolkit/picture.h"
+#include "toolkit/push_button.h"
+#include "toolkit/rectangle.h"
+#include "toolkit/slider.h"
+#include "toolkit/text_edit.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+
+// The window in which the user sets r and N and reads t, p, the interval and Fisher's z. It holds
+// the model and keeps its controls up to date with it; the mathematics is in stats/.
+class ControlWnd : public Window {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+  bool IsEventImplemented(std::string_view event) const;
+
+  // The model. r is the correlation in force; N the sample size that the handlers last took up,
+  // while the calculation takes the one in `nEdit`; t and p are those of the last calculation; z is
+  // Fisher's z of r.
+  double r = 0;
+  std::int64_t N = 0;
+  double t = 0;
+  double p = 0;
+  double z = 0;
+
+  void Layout() override;
+  void CreateControls() override;
+  virtual void _CreateControls0();
+
+  // The controls. Each accessor raises IllegalCastException for a control of another class.
+  virtual Ref<TextField> rEdit();
+  virtual Ref<TextField> nEdit();
+  virtual Ref<Rectangle> Rectangle2();
+  virtual Ref<Canvas> Canvas3();
+  virtual Ref<Label> StaticText4();
+  virtual Ref<Label> StaticText9();
+  virtual Ref<Rectangle> Rectangle1();
+  virtual Ref<Slider> rSlider();
+  virtual Ref<Slider> nSlider();
+  virtual Ref<Label> StaticText2();
+  virtual Ref<Label> StaticText3();
+  virtual Ref<Label> nText();
+  virtual Ref<Label> StaticText8();
+  virtual Ref<TextField> zFld();
+  virtual Ref<PushButton> Qbtn();
+  virtual Ref<Rectangle> Rectangle3();
+  virtual Ref<Label> StaticText5();
+  virtual Ref<Label> StaticText1();
+  virtual Ref<Label> pText();
+  virtual Ref<Label> StaticText7();
+  virtual Ref<Label> ciText();
+  virtual Ref<Label> tText();
+
+  // The way of r into the model.
+  virtual void rEdit_TextChange(Ref<TextField> sender);
+  virtual bool rEdit_KeyDown(Ref<TextField> sender, std::string key);
+  // The way of N into the model.
+  virtual void nEdit_TextChange(Ref<TextField> sender);
+  virtual bool nEdit_KeyDown(Ref<TextField> sender, std::string key);
+  virtual void rSlider_ValueChanged(Ref<Slider> sender);
+  virtual void nSlider_ValueChanged(Ref<Slider> sender);
+  virtual bool Qbtn_MouseDown(Ref<PushButton> sender, std::int64_t x, std::int64_t y);
+
+  VAMO_MENU_ACCESSORS
+
+  std::span<const AccessibleText> AccessibleTexts() const override;
+  void AddMenuHandlers(const Ref<Window>& window) override;
+  // Closing this window ends the program.
+  void Event_Close() override;
+  // Hides the About window and resets r, N and t, at each activation; no control changes.
+  void Event_Activate() override;
+  void Event_EnableMenuItems() override;
+  virtual bool _DescriptionMenuItem_Action();
+  virtual bool _AboutKEL_Action();
+
+  // Works out t, p and the interval for the correlation `r_arg` and the sample size in `nEdit`, and
+  // shows them; `n_arg` is not looked at. Above a sample size of 1000 it beeps, shows the warning
+  // and empties the results instead.
+  virtual void DoIt(double r_arg, std::int64_t n_arg);
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_CONTROLWND_CONTROL_WND_H_

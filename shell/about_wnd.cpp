@@ -1,0 +1,95 @@
+// The About window: its state, its controls, the hand-over to the control window.
+#include "shell/about_wnd.h"
+
+#include "controlwnd/chart_small.h"
+#include "shell/rights.h"
+#include "toolkit/events.h"
+#include "toolkit/runtime.h"
+#include "toolkit/stream_tables.h"
+
+namespace vamo {
+namespace {
+
+constexpr Colour kDarkRed{0x80, 0, 0};
+constexpr std::int64_t kCentred = 2;
+
+constexpr WindowRow kWindow{.width = 300,
+                            .height = 200,
+                            .maximum_width = 32000,
+                            .maximum_height = 32000,
+                            .type = 2,
+                            .title = "",
+                            .has_maximize_button = true,
+                            .resizeable = true,
+                            .composite = false,
+                            .has_background_colour = true};
+constexpr LabelRow kStaticText5{.place = {"StaticText5", 0, 181, 298, 15, 0},
+                                .tab_stop = true,
+                                .value = kRightsNotice,
+                                .font_size = 9,
+                                .alignment = kCentred,
+                                .colour = kDarkRed};
+constexpr CanvasRow kCanvas1{
+    .place = {"Canvas1", 104, 60, 92, 72, 1}, .tab_stop = false, .enabled = false};
+constexpr LabelRow kStaticText1{.place = {"StaticText1", 0, 0, 298, 55, 3},
+                                .value = "Vamo",
+                                .font_size = 42,
+                                .bold = true,
+                                .alignment = kCentred,
+                                .colour = kDarkRed};
+// Mode 1: once. The period is in milliseconds.
+constexpr TimerRow kTimer1{.run_mode = 1, .period = 4000};
+
+static_assert(kStreamOf<kCanvas1>.length == 322);
+static_assert(kStreamOf<kTimer1>.length == 31);
+
+// Both windows are reached by name, not through the object that an event came to.
+void HandOver() {
+  vamo::AboutWnd()->Hide();
+  ControlWnd()->Show();
+}
+
+}  // namespace
+
+const ClassInfo AboutWnd::kClass{
+    "AboutWnd.AboutWnd", &Window::kClass, {}, ImplementsWindowEvent<class AboutWnd>};
+
+bool AboutWnd::IsEventImplemented(std::string_view event) const {
+  return _RuntimeIsEventHandled(*this, "AboutWnd.AboutWnd", event);
+}
+
+void AboutWnd::Layout() { _SetProperties(*this, kStreamOf<kWindow>); }
+
+void AboutWnd::CreateControls() { _CreateControls0(); }
+
+void AboutWnd::_CreateControls0() {
+  _AddControl("StaticText5", __New<Label>());
+  _SetProperties(*StaticText5(), kStreamOf<kStaticText5>);
+  _AddControl("Canvas1", __New<Canvas>());
+  Canvas1()->SetBackdrop(_x_ChartSmall::ChartSmall());
+  _SetProperties(*Canvas1(), kStreamOf<kCanvas1>);
+  _AddControl("StaticText1", __New<Label>());
+  _SetProperties(*StaticText1(), kStreamOf<kStaticText1>);
+  _AddControl("Timer1", __New<_wrapper_Timer1>());
+  _SetProperties(*Timer1(), kStreamOf<kTimer1>);
+  AddHandler(Timer1()->Action, this, &AboutWnd::Timer1_Action);
+}
+
+Ref<Label> AboutWnd::StaticText5() { return ControlNamed<Label>("StaticText5"); }
+Ref<Canvas> AboutWnd::Canvas1() { return ControlNamed<Canvas>("Canvas1"); }
+Ref<Label> AboutWnd::StaticText1() { return ControlNamed<Label>("StaticText1"); }
+Ref<Timer> AboutWnd::Timer1() { return ControlNamed<Timer>("Timer1"); }
+
+void AboutWnd::Timer1_Action(Ref<Timer> /*timer*/) { HandOver(); }
+
+bool AboutWnd::Event_KeyDown(std::string /*key*/) {
+  HandOver();
+  return false;
+}
+
+bool AboutWnd::Event_MouseDown(std::int64_t /*x*/, std::int64_t /*y*/) {
+  HandOver();
+  return false;
+}
+
+}  // namespace vamo

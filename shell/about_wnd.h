@@ -1,0 +1,41 @@
+// The About window, which is the splash at the start.
+#ifndef VAMO_SHELL_ABOUT_WND_H_
+#define VAMO_SHELL_ABOUT_WND_H_
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "controlwnd/accessors.h"
+#include "toolkit/label.h"
+#include "toolkit/picture.h"
+#include "toolkit/timer.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+
+// The window that shows the program's name and rights and then makes way for the control window:
+// after its timer, a key or a press. It has no logic beyond that hand-over.
+class AboutWnd : public Window {
+ public:
+  using _wrapper_Timer1 = vamo::_wrapper_Timer1;
+
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+  bool IsEventImplemented(std::string_view event) const;
+
+  void Layout() override;
+  void CreateControls() override;
+  virtual void _CreateControls0();
+  virtual Ref<Label> StaticText5();
+  virtual Ref<Canvas> Canvas1();
+  virtual Ref<Label> StaticText1();
+  virtual Ref<Timer> Timer1();
+  virtual void Timer1_Action(Ref<Timer> timer);
+  bool Event_KeyDown(std::string key) override;
+  bool Event_MouseDown(std::int64_t x, std::int64_t y) override;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_SHELL_ABOUT_WND_H_

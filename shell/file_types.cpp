@@ -1,0 +1,52 @@
+// The file type set of the program.
+#include "shell/file_types.h"
+
+#include <string_view>
+
+#include "toolkit/runtime.h"
+
+namespace vamo::FileTypes {
+namespace {
+
+struct Fields {
+  std::vector<Ref<FileType>> pAllFileTypes;
+  Ref<FileType> pText;
+  Ref<FileType> pUntitledType;
+};
+
+Fields& ModuleFields() { return Runtime::Current().ModuleFields<Fields>(); }
+
+Ref<FileType> Make(std::string_view name, std::string_view mac_type, std::string_view mac_creator) {
+  Ref<FileType> type = New<FileType>();
+  type->SetName(name);
+  type->SetExtensions("");
+  type->SetMacType(mac_type);
+  type->SetMacCreator(mac_creator);
+  type->SetMimeType("");
+  type->SetImported(true);
+  type->SetConformsTo("");
+  return type;
+}
+
+// Only the registration counts that comes with the conversion to a text.
+void Enter(const Ref<FileType>& type) {
+  ModuleFields().pAllFileTypes.push_back(type);
+  static_cast<void>(type->Operator_Convert());
+}
+
+}  // namespace
+
+void _Initialize() {
+  ModuleFields().pText = Make("text", "TEXT", "R*ch");
+  Enter(Text());
+  ModuleFields().pUntitledType = Make("", "", "");
+  Enter(UntitledType());
+}
+
+Ref<FileType> Text() { return ModuleFields().pText; }
+
+Ref<FileType> UntitledType() { return ModuleFields().pUntitledType; }
+
+const std::vector<Ref<FileType>>& AllFileTypes() { return ModuleFields().pAllFileTypes; }
+
+}  // namespace vamo::FileTypes

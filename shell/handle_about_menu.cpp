@@ -1,0 +1,33 @@
+// The application object.
+#include "shell/handle_about_menu.h"
+
+#include "controlwnd/accessors.h"
+#include "toolkit/events.h"
+#include "toolkit/runtime.h"
+
+namespace vamo {
+
+const ClassInfo HandleAboutMenu::kClass{
+    "HandleAboutMenu", nullptr, {}, ImplementsApplicationEvent<HandleAboutMenu>};
+
+Ref<HandleAboutMenu> App() { return Cast<HandleAboutMenu>(Runtime::Current().App()); }
+
+Ref<AppleMenuItem> AboutKEL() { return Cast<AppleMenuItem>(App()->MenuBar()->_Lookup("AboutKEL")); }
+
+bool HandleAboutMenu::IsEventImplemented(std::string_view event) const {
+  return _RuntimeIsEventHandled(*this, "HandleAboutMenu", event);
+}
+
+void HandleAboutMenu::Event_EnableMenuItems() { AboutKEL()->SetEnabled(true); }
+
+bool HandleAboutMenu::_AboutKEL_Action() {
+  AboutWnd()->Show();
+  return false;
+}
+
+bool HandleAboutMenu::_AboutMenuItem_Action() {
+  AboutWnd()->Show();
+  return false;
+}
+
+}  // namespace vamo

@@ -1,0 +1,28 @@
+// The menu bar of the program.
+#ifndef VAMO_SHELL_MENU_H_
+#define VAMO_SHELL_MENU_H_
+
+#include "controlwnd/accessors.h"
+#include "toolkit/menu_item.h"
+
+namespace vamo {
+
+// The one bar that the application and its windows share. It has no handlers: they are bound by
+// name elsewhere.
+class Menu : public MenuBar {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  // Builds the five menus with their items.
+  void Constructor();
+  virtual void Untitled0();
+  virtual void Untitled1();
+  virtual void Untitled2();
+  virtual void Untitled3();
+  virtual void Untitled4();
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_SHELL_MENU_H_

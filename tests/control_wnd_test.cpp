@@ -1,0 +1,130 @@
+// The control window's own facts: its layout, its wiring, its recalculation.
+#include "controlwnd/control_wnd.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "controlwnd/chart_small.h"
+#include "test_program.h"
+
+namespace vamo {
+namespace {
+
+class ControlWndTest : public testing::Test {
+ protected:
+  TestProgram program_;
+  Ref<class ControlWnd> window_ = Cast<class ControlWnd>(ControlWnd());
+};
+
+TEST_F(ControlWndTest, HasItsControlsInOrderWithTheirParents) {
+  std::string order;
+  for (const auto& control : window_->Controls()) {
+    const auto parent = control->Parent();
+    order += control->Name() + (parent ? " in " + parent->Name() : "") + ", ";
+    EXPECT_EQ(control->_Index(), INT32_MIN);
+    EXPECT_TRUE(control->Window() == window_);
+  }
+  EXPECT_EQ(
+      order,
+      "rEdit, nEdit, Rectangle2, Canvas3 in Rectangle2, StaticText4, StaticText9, Rectangle1, "
+      "rSlider, nSlider, StaticText2, StaticText3, nText, StaticText8, zFld, Qbtn, Rectangle3, "
+      "StaticText5 in Rectangle3, StaticText1 in Rectangle3, pText in Rectangle3, "
+      "StaticText7 in Rectangle3, ciText in Rectangle3, tText in Rectangle3, ");
+}
+
+TEST_F(ControlWndTest, StreamsReachTheControls) {
+  EXPECT_EQ(window_->GetState().title, "Vamo");
+  EXPECT_EQ(window_->GetState().height, 425);
+  EXPECT_EQ(window_->StaticText4()->Bounds().top, -5);
+  EXPECT_EQ(window_->StaticText4()->Font().size, 48.0F);
+  EXPECT_EQ(window_->StaticText7()->TextColor(), (Colour{0x80, 0, 0}));
+  EXPECT_EQ(window_->nText()->Text(), "(4 - 1,1000)");
+  EXPECT_EQ(window_->rEdit()->Rule().mask, ".###");
+  EXPECT_EQ(window_->rEdit()->Rule().maximum_characters, 4);
+  EXPECT_EQ(window_->zFld()->Alignment(), TextAlignment::kLeft);
+  EXPECT_EQ(window_->nSlider()->MaximumValue(), 1000);
+  EXPECT_EQ(window_->Rectangle3()->BorderThickness(), 2.0);
+  EXPECT_FALSE(window_->Rectangle3()->GetLocks().left);
+  EXPECT_TRUE(window_->Qbtn()->Default());
+}
+
+TEST_F(ControlWndTest, SettingPropertiesHasCalledNoHandler) {
+  EXPECT_EQ(window_->nEdit()->Text(), "");
+  EXPECT_EQ(window_->tText()->Text(), "");
+  EXPECT_EQ(program_.display().Beeps(), 0);
+}
+
+TEST_F(ControlWndTest, TheSampleSizeComesFromTheFieldAndROfTheArgument) {
+  struct Case {
+    double r;
+    const char *n, *t, *p, *ci;
+  };
+  const Case kCases[] = {
+      {0.5, "30", "3.06", ".00490", "+.170 to +.729"},
+      {0.5, "31", "3.11", ".00418", "+.177 to +.726"},
+      {0.3, "10", ".89", ".39969", "-.406 to +.782"},
+      {0.7, "4", "1.39", ".30000", "-.798 to +.993"},
+      {0.7, "5", "1.70", ".18812", "-.477 to +.978"},
+      {0.5, "4", ".82", ".50000", "-.888 to +.987"},
+      {0.06, "1000", "1.90", ".05787", "-.002 to +.122"},
+      {0.1, "1000", "3.18", ".00154", "+.038 to +.161"},
+      {0.5, "1000", "18.24", ".00001", "+.452 to +.545"},
+      {0.99, "1000", "221.70", ".00001", "+.989 to +.991"},
+      {0.99999, "1000", "7063.94", ".00001", "+1.000 to +1.000"},
+      {0.001, "4", ".00", ".99900", "-.961 to +.961"},
+      {0, "4", ".00", ".99999", "-.961 to +.961"},
+      {0, "30", ".00", ".99999", "-.360 to +.360"},
+      {0, "1000", ".00", ".99999", "-.062 to +.062"},
+      {0.5, "3", ".00", ".99999", "-1.000 to n/a"},
+      {0.5, "2", ".00", ".99999", "n/a to n/a"},
+      {0.5, "-12", ".00", ".99999", "n/a to n/a"},
+      {0.5, "30.9", "3.06", ".00490", "+.170 to +.729"},
+  };
+  for (const Case& test : kCases) {
+    window_->nEdit()->SetText(test.n);
+    window_->DoIt(test.r, 77);
+    EXPECT_EQ(window_->tText()->Text(), test.t) << test.r << " " << test.n;
+    EXPECT_EQ(window_->pText()->Text(), test.p) << test.r << " " << test.n;
+    EXPECT_EQ(window_->ciText()->Text(), test.ci) << test.r << " " << test.n;
+  }
+}
+
+TEST_F(ControlWndTest, AboveTheRangeTheModelKeepsItsLastResults) {
+  window_->nEdit()->SetText("30");
+  window_->DoIt(0.5, 0);
+  const double t = window_->t;
+  const double p = window_->p;
+  for (const std::string& n : {std::string("1001"), std::string(400, '9')}) {
+    window_->nEdit()->SetText(n);
+    window_->DoIt(0.7, 0);
+    EXPECT_EQ(window_->tText()->Text() + window_->pText()->Text() + window_->ciText()->Text(), "");
+    EXPECT_TRUE(window_->nText()->Visible());
+  }
+  EXPECT_EQ(window_->N, INT64_MAX);
+  EXPECT_EQ(program_.display().Beeps(), 4);
+  EXPECT_EQ(window_->t, t);
+  EXPECT_EQ(window_->p, p);
+}
+
+TEST_F(ControlWndTest, TheControlCode16PassesBothFilters) {
+  for (const auto& field : {window_->rEdit(), window_->nEdit()}) {
+    EXPECT_FALSE(field->KeyDown.Invoke(field, "\x10"));
+    EXPECT_TRUE(field->KeyDown.Invoke(field, ""));
+  }
+  EXPECT_EQ(program_.display().Beeps(), 2);
+}
+
+TEST_F(ControlWndTest, ThePictureIsLoadedOnceAndShared) {
+  EXPECT_TRUE(window_->Canvas3()->Backdrop() == _x_ChartSmall::ChartSmall());
+  TestProgram without;
+  without.display().RemovePictures();
+  const auto window = Cast<class ControlWnd>(ControlWnd());
+  EXPECT_FALSE(window->Canvas3()->Backdrop());
+  window->nEdit()->SetText("30");
+  EXPECT_EQ(window->pText()->Text(), ".99999");
+}
+
+}  // namespace
+}  // namespace vamo
