@@ -57,6 +57,8 @@ constexpr WindowRow kWindow{.width = 450,
                             .has_background_colour = false};
 constexpr TextAreaRow kStaticText1{.place = {"StaticText1", -1, -1, 447, 358, 0},
                                    .value = std::string_view(kText.data(), kText.size())};
+constexpr std::array kAccessibleTexts{AccessibleText{"StaticText1", "About Vamo", "", ""}};
+
 static_assert(kText.size() == 911);
 static_assert(kStreamOf<kStaticText1>.length == 1592);
 
@@ -82,6 +84,8 @@ void InfoWnd::_CreateControls0() {
 }
 
 Ref<TextArea> InfoWnd::StaticText1() { return ControlNamed<TextArea>("StaticText1"); }
+
+std::span<const AccessibleText> InfoWnd::AccessibleTexts() const { return kAccessibleTexts; }
 
 void InfoWnd::Event_EnableMenuItems() { EditCopy()->SetEnabled(true); }
 

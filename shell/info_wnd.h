@@ -2,6 +2,7 @@
 #ifndef VAMO_SHELL_INFO_WND_H_
 #define VAMO_SHELL_INFO_WND_H_
 
+#include <span>
 #include <string_view>
 
 #include "controlwnd/accessors.h"
@@ -24,6 +25,7 @@ class InfoWnd : public Window {
   virtual void _CreateControls0();
   virtual Ref<TextArea> StaticText1();
   VAMO_MENU_ACCESSORS
+  std::span<const AccessibleText> AccessibleTexts() const override;
   void Event_EnableMenuItems() override;
 };
 

@@ -33,6 +33,8 @@ class Application : public Object {
   // Enters the function for the menu item of that name. The first one entered for a name stands.
   void _AddMenuHandler(std::string_view name, MenuHandler handler);
   const MenuHandlers& GetMenuHandlers() const { return menu_handlers_; }
+  // Called at the end of the process: a handler may hold this very object as its receiver.
+  void ReleaseMenuHandlers() { menu_handlers_.clear(); }
 
   void _x_SetVersionData(VersionData version) { version_ = std::move(version); }
   std::int64_t MajorVersion() const { return version_.major; }

@@ -43,8 +43,8 @@ namespace internal {
 
 constexpr std::size_t EncodedSize(const PropertyValue& value) {
   constexpr std::size_t kWidths[] = {1, 8, 8, 4, 4};
-  const auto* text = std::get_if<std::string_view>(&value);
-  return text == nullptr ? kWidths[value.index()] : 4 + text->size();
+  if (!std::holds_alternative<std::string_view>(value)) return kWidths[value.index()];
+  return 4 + std::get<std::string_view>(value).size();
 }
 
 constexpr std::size_t EncodedSize(std::span<const PropertyEntry> entries) {
@@ -62,26 +62,25 @@ class StreamWriter {
   constexpr void Write(const PropertyEntry& entry) {
     Bytes(entry.name);
     *out_++ = ' ';
-    if (const auto* boolean = std::get_if<bool>(&entry.value)) *out_++ = *boolean ? 1 : 0;
-    if (const auto* integer = std::get_if<std::int64_t>(&entry.value)) {
-      Number(static_cast<std::uint64_t>(*integer), 8);
-    }
-    if (const auto* real = std::get_if<double>(&entry.value)) {
-      Number(std::bit_cast<std::uint64_t>(*real), 8);
-    }
-    if (const auto* single = std::get_if<float>(&entry.value)) {
-      Number(std::bit_cast<std::uint32_t>(*single), 4);
-    }
-    if (const auto* colour = std::get_if<Colour>(&entry.value)) {
-      Number(colour->red | colour->green << 8U | colour->blue << 16U, 4);
-    }
-    if (const auto* text = std::get_if<std::string_view>(&entry.value)) {
-      Number(text->size(), 4);
-      Bytes(*text);
-    }
+    std::visit([this](const auto& value) { Value(value); }, entry.value);
   }
 
  private:
+  constexpr void Value(bool boolean) { Number(boolean ? 1 : 0, 1); }
+  constexpr void Value(std::int64_t integer) { Number(static_cast<std::uint64_t>(integer), 8); }
+  constexpr void Value(double real) { Number(std::bit_cast<std::uint64_t>(real), 8); }
+  constexpr void Value(float single) { Number(std::bit_cast<std::uint32_t>(single), 4); }
+  constexpr void Value(Colour colour) {
+    Number(colour.red, 1);
+    Number(colour.green, 1);
+    Number(colour.blue, 1);
+    Number(0, 1);
+  }
+  constexpr void Value(std::string_view text) {
+    Number(text.size(), 4);
+    Bytes(text);
+  }
+
   constexpr void Bytes(std::string_view bytes) {
     for (const char byte : bytes) *out_++ = byte;
   }

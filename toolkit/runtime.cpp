@@ -42,6 +42,7 @@ void Runtime::PerformFinalizers() {
   live_windows_.clear();
   module_fields_.clear();
   file_types_.clear();
+  if (app_) app_->ReleaseMenuHandlers();
   app_ = nullptr;
 }
 

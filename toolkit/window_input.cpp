@@ -43,8 +43,11 @@ void Window::UserTyped(std::string_view text) {
 }
 
 bool Window::TakeKey(const Key& key) {
-  if (key.command) return ChooseByShortcut(key);
-  if (Event_KeyDown(key.text)) return true;
+  if (key.command && ChooseByShortcut(key)) return true;
+  // With the command key held, a letter is no character.
+  const bool carries_character = key.code == KeyCode::kCharacter && !key.command;
+  if (Event_KeyDown(carries_character ? key.text : "")) return true;
+  if (key.command && key.code == KeyCode::kCharacter) return false;
   if (focus_ && focus_->CanTakeFocus() && focus_->TakeKey(key)) return true;
   if (key.text != std::string_view(&kTab, 1)) return false;
   MoveFocus(key.shift);

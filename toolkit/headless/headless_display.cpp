@@ -31,6 +31,8 @@ std::size_t MovedCaret(std::string_view text, std::size_t caret, KeyCode code) {
 }
 
 void MoveCaret(TextEdit& text, const Key& key) {
+  if (key.command && key.text == "a") return text.UserSelected(0, text.Text().size());
+  if (key.code == KeyCode::kCharacter) return;
   const auto [anchor, caret] = text.GetSelection();
   const std::size_t moved = MovedCaret(text.Text(), caret, key.code);
   text.UserSelected(key.shift ? anchor : moved, moved);

@@ -53,7 +53,8 @@ class HeadlessDisplay : public Display {
   // screen reader reads; InvalidArgumentException tells that there is none of that kind. After the
   // program has been told to end, nothing of this has an effect.
   //
-  // A key. In a text control, a key that the program leaves alone moves the caret.
+  // A key. In a text control, a key that the program leaves alone moves the caret or, with A and
+  // the command key, selects all.
   void PressKey(const Key& key);
   void Type(std::string_view text);
   void Drop(Role role, std::string_view name, std::string_view text);
