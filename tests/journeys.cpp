@@ -145,7 +145,7 @@ TEST(ControlWindowJourney, KeyFiltersBeepAndSwallow) {
   InControlWindow([](User& user) {
     Retype(user, "r", ".5");
     int beeps = user.Beeps();
-    for (const char* refused : {"-", ",", "a", " ", "é", "\r", "\x1b", "."}) {
+    for (const char* refused : {"-", ",", "a", " ", "=", "\r", "\x1b", "."}) {
       user.Type(refused);
       EXPECT_EQ(FieldText(user, "r"), ".5") << refused;
       EXPECT_EQ(user.Beeps(), ++beeps) << refused;
@@ -329,6 +329,29 @@ TEST(WindowJourney, InfoIsOneWindowThatCanBeReopened) {
   });
 }
 
+TEST(WindowJourney, TheInfoTextCanBeSelectedAndCopiedButNotChanged) {
+  InControlWindow([](User& user) {
+    user.Click(Role::kButton, "Info");
+    user.Click(Role::kText, "About Vamo");
+    user.PressKey(Key::Command("a"));
+    user.Type("x");
+    user.PressKey(kBackspaceKey);
+    user.PressKey(Key::Command("c"));
+    const std::string copied = user.Clipboard();
+    EXPECT_EQ(copied.rfind("Vamo simulates how the 95% confidence interval", 0), 0U);
+    EXPECT_EQ(copied.substr(copied.rfind(' ') - 4), "this software.");
+  });
+}
+
+TEST(WindowJourney, EveryKeyButABareShortcutEndsTheSplash) {
+  for (const Key& key : {Arrow(KeyCode::kLeft), Key::Command("b"), Arrow(KeyCode::kOther)}) {
+    FromTheStart([&](User& user) {
+      user.PressKey(key);
+      EXPECT_EQ(user.ActiveTitle(), "Vamo");
+    });
+  }
+}
+
 TEST(WindowJourney, ComingBackResetsTheModelBehindUnchangedControls) {
   InControlWindow([](User& user) {
     Retype(user, "N", "30");
@@ -356,6 +379,12 @@ TEST(EndJourney, TheProgramEndsWithStatusZero) {
             0);
   EXPECT_EQ(InControlWindow([](User& user) { user.Choose("File/Quit"); }), 0);
   EXPECT_EQ(InControlWindow([](User& user) { user.PressKey(Key::Command("q")); }), 0);
+  EXPECT_EQ(FromTheStart([](User& user) {
+              user.PressKey(Key::Command("q"));
+              user.Wait(5000ms);
+            }),
+            0)
+      << "the shortcuts work on the splash too";
 }
 
 }  // namespace

@@ -1,0 +1,33 @@
+# What the scripts of this folder share. Sourced by them.
+# shellcheck shell=bash
+set -euo pipefail
+unset CDPATH
+root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
+
+go_to_root() { cd -- "$root"; }
+
+heading() { printf '\n== %s\n' "$1"; }
+
+fail() {
+  printf '%s: %s\n' "${0##*/}" "$1" >&2
+  exit 1
+}
+
+# Does the rest of the arguments again until it succeeds, for at most so many seconds.
+within() {
+  local -r end=$((SECONDS + $1))
+  shift
+  until "$@" >/dev/null 2>&1; do
+    ((SECONDS < end)) || return 1
+    sleep 0.05
+  done
+}
+
+configure() { cmake --preset "$1"; }
+
+# build PRESET [TARGET...]
+build() {
+  local -r preset=$1
+  shift
+  cmake --build --preset "$preset" -j "$(getconf _NPROCESSORS_ONLN)" ${1+--target "$@"}
+}

@@ -1,0 +1,134 @@
+// What only the Qt display has: input methods, drops, the X selection, assistive technology, sizes.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+
+#include "user.h"
+
+namespace vamo {
+namespace {
+
+const Key kAnyKey = Key::Character("x");
+
+template <class Widget>
+Widget& Named(const char* accessible_name) {
+  for (auto* widget : QApplication::activeWindow()->findChildren<Widget*>()) {
+    if (widget->accessibleName() == QLatin1String(accessible_name)) return *widget;
+  }
+  throw std::runtime_error(accessible_name);
+}
+
+int InControlWindow(const std::function<void(User&)>& journey) {
+  bool completed = false;
+  const int status = RunProgram([&](User& user) {
+    user.PressKey(kAnyKey);
+    journey(user);
+    completed = true;
+  });
+  EXPECT_TRUE(completed);
+  return status;
+}
+
+TEST(QtDisplayTest, AnInputMethodsTextGoesTheRoadOfTheKeys) {
+  InControlWindow([](User& user) {
+    QInputMethodEvent event;
+    event.setCommitString("5x7");
+    QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &event);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
+    EXPECT_EQ(user.Beeps(), 1);
+  });
+}
+
+TEST(QtDisplayTest, ADropAndTheSelectionGoInAsAPaste) {
+  InControlWindow([](User& user) {
+    auto& field = Named<QLineEdit>("r");
+    QMimeData dropped;
+    dropped.setText("1.\n5");
+    QDragEnterEvent enter(field.rect().center(), Qt::CopyAction, &dropped, Qt::LeftButton,
+                          Qt::NoModifier);
+    QCoreApplication::sendEvent(&field, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent event(QPointF(field.rect().center()), Qt::CopyAction, &dropped, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&field, &event);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".99999");
+    EXPECT_EQ(user.Sees(Role::kText, "Fisher's z").text, "6.103");
+    // Whatever way a text gets into the widget, the program hears of it.
+    field.selectAll();
+    field.insert("0.2");
+    EXPECT_EQ(user.Sees(Role::kText, "Fisher's z").text, "0.203");
+  });
+}
+
+TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
+  InControlWindow([](User& user) {
+    auto* slider = QAccessible::queryAccessibleInterface(&Named<QSlider>("r"));
+    slider->valueInterface()->setCurrentValue(42);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".420");
+    slider->valueInterface()->setCurrentValue(1000);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".990");
+  });
+}
+
+TEST(QtDisplayTest, TheButtonLeavesTheKeysAlone) {
+  InControlWindow([](User& user) {
+    auto& button = Named<QPushButton>("Info");
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) QTest::keyClick(&button, key);
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
+    EXPECT_EQ(user.Focused().name, "r");
+  });
+}
+
+TEST(QtDisplayTest, TheContentIsExactlyAsLargeAsItSays) {
+  InControlWindow([](User&) {
+    const QWidget& window = *QApplication::activeWindow();
+    const int bar = window.findChild<QMenuBar*>()->height();
+    EXPECT_EQ(window.size(), QSize(500, 425 + bar));
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+    const auto& slider = Named<QSlider>("r");
+    EXPECT_EQ(slider.mapTo(&window, QPoint()), QPoint(25, 220 + bar));
+    EXPECT_EQ(slider.size(), QSize(450, 15));
+  });
+}
+
+TEST(QtDisplayTest, TheSplashStretchesItsControls) {
+  RunProgram([](User&) {
+    QWidget& window = *QApplication::activeWindow();
+    EXPECT_EQ(window.size(), QSize(300, 200));
+    const auto notice = [&] {
+      for (const auto* label : window.findChildren<QLabel*>()) {
+        if (label->text().contains("2026")) return label->geometry();
+      }
+      return QRect();
+    };
+    EXPECT_EQ(notice(), QRect(0, 181, 298, 15));
+    window.resize(360, 250);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(notice(), QRect(0, 181, 358, 65));
+  });
+}
+
+TEST(QtDisplayTest, ClosingTheSplashEndsAProgramThatNothingCouldReach) {
+  bool reached = false;
+  EXPECT_EQ(RunProgram([&](User& user) {
+              user.Close("");
+              user.Wait(std::chrono::milliseconds(5000));
+              reached = !user.Windows().empty();
+            }),
+            0);
+  EXPECT_FALSE(reached);
+}
+
+}  // namespace
+}  // namespace vamo

@@ -1,0 +1,28 @@
+// The push button on the screen.
+#ifndef VAMO_TOOLKIT_QT_QT_BUTTON_H_
+#define VAMO_TOOLKIT_QT_QT_BUTTON_H_
+
+#include <QPushButton>
+
+#include "qt_control.h"
+#include "toolkit/push_button.h"
+
+namespace vamo {
+
+// Shows a push button and reports presses by the mouse and by assistive technology. It never has
+// the keys.
+class ButtonWidget : public WidgetFor<QPushButton, PushButton> {
+ public:
+  ButtonWidget(PushButton& button, QWidget& parent);
+
+ protected:
+  void ShowState() override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  bool in_mouse_press_ = false;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_QT_QT_BUTTON_H_

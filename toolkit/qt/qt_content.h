@@ -1,0 +1,40 @@
+// What a window shows below its menu bar.
+#ifndef VAMO_TOOLKIT_QT_QT_CONTENT_H_
+#define VAMO_TOOLKIT_QT_QT_CONTENT_H_
+
+#include <QWidget>
+#include <vector>
+
+#include "qt_control.h"
+
+namespace vamo {
+
+class Window;
+class WindowWidget;
+
+// The area of a window that holds its controls: places them, draws the background, and reports the
+// presses that no control takes.
+class ContentWidget : public QWidget {
+ public:
+  explicit ContentWidget(WindowWidget& parent);
+
+  ControlWidget& AddControl(RectControl& control);
+  // The widget of a control, or nil.
+  QWidget* Find(const RectControl* control) const;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void Place(ControlWidget& widget);
+
+  WindowWidget& window_;
+  const QSize designed_size_;
+  std::vector<ControlWidget*> controls_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_QT_QT_CONTENT_H_

@@ -1,0 +1,93 @@
+// The display on Qt 6 Widgets: loop, clock, clipboard, alert.
+#include "qt_display.h"
+
+#include <QClipboard>
+#include <QTimer>
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "qt_accessible.h"
+#include "qt_activation.h"
+#include "qt_convert.h"
+#include "qt_menu.h"
+#include "qt_picture.h"
+#include "qt_start.h"
+#include "qt_window.h"
+
+namespace vamo {
+namespace {
+
+class QtTimer : public RunningTimer {
+ public:
+  QtTimer(std::chrono::milliseconds period, std::function<void()> fire) : timer_(new QTimer) {
+    timer_->setTimerType(Qt::PreciseTimer);
+    // A copy runs, since what fires may destroy this object.
+    QObject::connect(timer_, &QTimer::timeout, timer_, [fire = std::move(fire)] {
+      const std::function<void()> running = fire;
+      running();
+    });
+    timer_->start(
+        static_cast<int>(std::min<std::int64_t>(period.count(), std::numeric_limits<int>::max())));
+  }
+  ~QtTimer() override {
+    timer_->stop();
+    timer_->deleteLater();
+  }
+
+ private:
+  QTimer* timer_;
+};
+
+}  // namespace
+
+struct QtDisplay::Parts {
+  Parts(int& argc, char** argv) : application(StartApplication(argc, argv)) {
+    QAccessible::installFactory(MakeAccessible);
+  }
+  ~Parts() {
+    QAccessible::removeFactory(MakeAccessible);
+    // Windows and timers that have been given up since the loop ended.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  std::unique_ptr<QApplication> application;
+  Activation activation;
+};
+
+QtDisplay::QtDisplay(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {}
+QtDisplay::~QtDisplay() = default;
+
+void QtDisplay::Run() { QApplication::exec(); }
+
+// Not quit(), which asks every window first whether it agrees.
+void QtDisplay::Stop() { QCoreApplication::exit(0); }
+
+std::unique_ptr<WindowView> QtDisplay::OpenWindow(Window& window) {
+  return std::make_unique<QtWindowView>(window, parts_->activation);
+}
+
+void QtDisplay::Beep() { QApplication::beep(); }
+
+std::shared_ptr<DisplayPicture> QtDisplay::OpenPicture(std::string_view file_name) {
+  return FindPicture(file_name);
+}
+
+std::unique_ptr<RunningTimer> QtDisplay::StartTimer(std::chrono::milliseconds period,
+                                                    std::function<void()> fire) {
+  return std::make_unique<QtTimer>(period, std::move(fire));
+}
+
+std::string QtDisplay::ClipboardText() { return ToUtf8(QGuiApplication::clipboard()->text()); }
+
+void QtDisplay::SetClipboardText(std::string_view text) {
+  QGuiApplication::clipboard()->setText(ToQString(text));
+}
+
+bool QtDisplay::MenuBarsLiveInWindows() const { return !kOneMenuBarOnScreen; }
+
+std::unique_ptr<Display> MakeQtDisplay(int& argc, char** argv) {
+  return std::make_unique<QtDisplay>(argc, argv);
+}
+
+}  // namespace vamo

@@ -1,0 +1,25 @@
+// The label on the screen.
+#ifndef VAMO_TOOLKIT_QT_QT_LABEL_H_
+#define VAMO_TOOLKIT_QT_QT_LABEL_H_
+
+#include <QLabel>
+
+#include "qt_control.h"
+#include "toolkit/label.h"
+
+namespace vamo {
+
+// Draws a label's text in its box: narrower where it is too wide, and never cut off. What
+// assistive technology needs to know of it, QLabel tells.
+class LabelWidget : public WidgetFor<QLabel, Label> {
+ public:
+  LabelWidget(Label& label, QWidget& parent);
+
+ protected:
+  void ShowState() override;
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_QT_QT_LABEL_H_

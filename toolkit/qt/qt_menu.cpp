@@ -1,0 +1,96 @@
+// The menus on the screen.
+#include "qt_menu.h"
+
+#include <QAction>
+#include <QMenu>
+#include <vector>
+
+#include "qt_convert.h"
+#include "toolkit/menu_service.h"
+
+namespace vamo {
+namespace {
+
+QString Escaped(const QString& title) { return QString(title).replace(u'&', QStringLiteral("&&")); }
+
+// The title of a menu on the bar, with the first letter that is not yet in use as its mnemonic.
+QString WithMnemonic(const QString& title, QString& letters_in_use) {
+  for (qsizetype i = 0; i < title.size(); ++i) {
+    if (!title[i].isLetter() || letters_in_use.contains(title[i], Qt::CaseInsensitive)) continue;
+    letters_in_use += title[i];
+    return Escaped(title.left(i)) + u'&' + Escaped(title.mid(i));
+  }
+  return Escaped(title);
+}
+
+QAction::MenuRole Role(const MenuItem& item) {
+  if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return QAction::QuitRole;
+  const bool about = dynamic_cast<const AppleMenuItem*>(&item) != nullptr;
+  return about && !item.Value().empty() ? QAction::AboutRole : QAction::NoRole;
+}
+
+// One menu and the items that its entries stand for.
+class Menu : public QMenu {
+ public:
+  explicit Menu(QMenuBar& bar) : QMenu(&bar) {
+    connect(this, &QMenu::aboutToShow, this, [this] {
+      UserOpensMenu();
+      Refresh();
+    });
+  }
+
+  void Add(const Ref<MenuItem>& item) {
+    QAction* action = addAction(QString());
+    action->setMenuRole(Role(*item));
+    action->setShortcut(QKeySequence(
+        ToQString(item->Shortcut()).replace(QStringLiteral("Cmd"), QStringLiteral("Ctrl"))));
+    // Only to be seen: the toolkit knows what the key does, and a key must not act twice.
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, [item] { UserChose(item); });
+    entries_.push_back({action, item});
+  }
+
+  void Refresh() {
+    for (const auto& [action, item] : entries_) {
+      action->setSeparator(item->Value() == "-");
+      // A style may write a separator's text beside its line.
+      action->setText(action->isSeparator() ? QString() : Escaped(ToQString(item->Value())));
+      action->setVisible(item->Visible() && !item->Value().empty());
+      action->setEnabled(item->Enabled());
+    }
+  }
+
+ private:
+  struct Entry {
+    QAction* action;
+    Ref<MenuItem> item;
+  };
+  std::vector<Entry> entries_;
+};
+
+bool GoesToApplicationMenu(const MenuItem& item) {
+  return !kOneMenuBarOnScreen && dynamic_cast<const AppleMenuItem*>(&item) != nullptr;
+}
+
+}  // namespace
+
+void FillMenuBar(QMenuBar& bar, const MenuItem& tree) {
+  QString letters_in_use;
+  auto* help = new Menu(bar);
+  const auto add = [&](Menu& menu, const QString& title) {
+    menu.Refresh();
+    menu.setTitle(WithMnemonic(title, letters_in_use));
+    if (!menu.isEmpty()) bar.addMenu(&menu);
+  };
+  for (const Ref<MenuItem>& top : tree.Children()) {
+    if (top->Value().empty() || !top->Visible()) continue;
+    auto* menu = new Menu(bar);
+    for (const Ref<MenuItem>& item : top->Children()) {
+      (GoesToApplicationMenu(*item) ? help : menu)->Add(item);
+    }
+    add(*menu, ToQString(top->Value()));
+  }
+  add(*help, QStringLiteral("Help"));
+}
+
+}  // namespace vamo

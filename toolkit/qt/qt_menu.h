@@ -1,0 +1,25 @@
+// The menus on the screen.
+#ifndef VAMO_TOOLKIT_QT_QT_MENU_H_
+#define VAMO_TOOLKIT_QT_QT_MENU_H_
+
+#include <QMenuBar>
+
+#include "toolkit/menu_item.h"
+
+namespace vamo {
+
+// Whether there is one menu bar for all windows, at the edge of the screen.
+#ifdef Q_OS_MACOS
+inline constexpr bool kOneMenuBarOnScreen = true;
+#else
+inline constexpr bool kOneMenuBarOnScreen = false;
+#endif
+
+// Fills an empty bar with the menus of a tree: what has a text, with "-" as a separator. Where the
+// bar lives in a window, the items for the application menu get a menu of their own at the end.
+// The items' state is fetched each time that a menu opens.
+void FillMenuBar(QMenuBar& bar, const MenuItem& tree);
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_QT_QT_MENU_H_

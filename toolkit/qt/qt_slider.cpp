@@ -1,0 +1,96 @@
+// The slider on the screen.
+#include "qt_slider.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QWheelEvent>
+
+#include "qt_convert.h"
+
+namespace vamo {
+namespace {
+
+// What Qt counts for one notch of a wheel.
+constexpr int kAnglePerNotch = 120;
+
+}  // namespace
+
+SliderWidget::SliderWidget(Slider& slider, QWidget& parent) : WidgetFor(slider, parent) {
+  setOrientation(Qt::Horizontal);
+  setFocusPolicy(Qt::StrongFocus);
+  // The mouse and the wheel are taken below, so what comes this way is assistive technology.
+  connect(this, &QSlider::valueChanged, this, [this](int position) {
+    if (IsUsersDoing()) Report(position);
+  });
+}
+
+void SliderWidget::ShowState() {
+  const Slider& slider = TheControl();
+  setRange(ToInt(slider.MinimumValue()), ToInt(slider.MaximumValue()));
+  setSingleStep(ToInt(slider.LineStep()));
+  setPageStep(ToInt(slider.PageStep()));
+  setValue(ToInt(slider.Value()));
+}
+
+void SliderWidget::Report(int position) {
+  TheControl().UserMovedTo(position);
+  Refresh();
+}
+
+void SliderWidget::MoveKnobTo(int x) {
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  const auto part = [&](QStyle::SubControl which) {
+    return style()->subControlRect(QStyle::CC_Slider, &option, which, this);
+  };
+  const QRect groove = part(QStyle::SC_SliderGroove);
+  const int knob = part(QStyle::SC_SliderHandle).width();
+  Report(QStyle::sliderValueFromPosition(minimum(), maximum(), x - groove.left() - knob / 2,
+                                         groove.width() - knob, option.upsideDown));
+}
+
+void SliderWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !IsUsersDoing()) {
+    event->ignore();
+    return;
+  }
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  const QRect knob =
+      style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+  const QPoint at = event->position().toPoint();
+  setSliderDown(true);
+  grip_ = knob.contains(at) ? at.x() - knob.center().x() : 0;
+  if (!knob.contains(at)) MoveKnobTo(at.x());
+}
+
+void SliderWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (isSliderDown() && IsUsersDoing()) MoveKnobTo(event->position().toPoint().x() - grip_);
+}
+
+void SliderWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) setSliderDown(false);
+}
+
+void SliderWidget::wheelEvent(QWheelEvent* event) {
+  event->accept();
+  if (!IsUsersDoing()) return;
+  const QPoint turned = event->angleDelta();
+  // A wheel that is turned to the right takes the knob to the right.
+  wheel_angle_ += turned.y() != 0 ? turned.y() : -turned.x();
+  const int notches = wheel_angle_ / kAnglePerNotch;
+  wheel_angle_ %= kAnglePerNotch;
+  if (notches != 0) TheControl().UserTurnedWheel(notches);
+}
+
+void SliderWidget::keyPressEvent(QKeyEvent* event) { event->accept(); }
+
+void SliderWidget::focusInEvent(QFocusEvent* event) {
+  QSlider::focusInEvent(event);
+  ReportFocus(event->reason());
+}
+
+}  // namespace vamo

@@ -1,0 +1,160 @@
+// The text field on the screen.
+#include "qt_text_field.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <limits>
+
+#include "qt_convert.h"
+#include "qt_text_commands.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+
+FieldWidget::FieldWidget(TextField& field, QWidget& parent) : WidgetFor(field, parent) {
+  setMaxLength(std::numeric_limits<int>::max());
+  setFocusPolicy(Qt::StrongFocus);
+  const auto report_selection = [this] {
+    if (IsUsersDoing()) ReportSelection();
+  };
+  connect(this, &QLineEdit::selectionChanged, this, report_selection);
+  connect(this, &QLineEdit::cursorPositionChanged, this, report_selection);
+  connect(this, &QLineEdit::textChanged, this, [this](const QString& foreign) {
+    if (IsUsersDoing()) ReportForeignText(foreign);
+  });
+}
+
+void FieldWidget::ShowState() {
+  const TextField& field = TheControl();
+  setFont(ToQFont(field.Font()));
+  setAlignment(ToQtAlignment(field.Alignment()));
+  setFrame(field.HasBorder());
+  setReadOnly(field.ReadOnly());
+  setEchoMode(field.Password() ? QLineEdit::Password : QLineEdit::Normal);
+  setPlaceholderText(ToQString(field.Hint()));
+  ShowColours();
+  ShowCaption();
+  const QString shown = ToQString(field.Text());
+  if (text() != shown) setText(shown);
+  ShowSelection();
+}
+
+void FieldWidget::ShowColours() {
+  const QColor background = ToQColor(TheControl().BackgroundColor());
+  QPalette colours = palette();
+  colours.setColor(QPalette::Text, ToQColor(TheControl().TextColor()));
+  colours.setColor(QPalette::Base, background);
+  // A little darker shows that nothing can be typed here; the text stays as legible as any.
+  colours.setColor(QPalette::Disabled, QPalette::Base, background.darker(104));
+  if (colours != palette()) setPalette(colours);
+}
+
+void FieldWidget::ShowCaption() {
+  if (GetControl() == nullptr) return;
+  const Ref<Label> caption = TheControl().LabelledBy();
+  if (!caption) return;
+  auto* label = parentWidget()->findChild<QLabel*>(ToQString(caption->Name()));
+  if (label != nullptr && label->buddy() != this) label->setBuddy(this);
+}
+
+void FieldWidget::ShowSelection() {
+  const auto [anchor, caret] = TheControl().GetSelection();
+  const int from = Utf16Position(TheControl().Text(), anchor);
+  const int to = Utf16Position(TheControl().Text(), caret);
+  const bool shown = cursorPosition() == to && selectionLength() == std::abs(to - from);
+  if (shown) return;
+  if (from == to) {
+    setCursorPosition(to);
+  } else {
+    setSelection(from, to - from);
+  }
+}
+
+void FieldWidget::ReportSelection() {
+  const int caret = cursorPosition();
+  int anchor = caret;
+  if (hasSelectedText()) anchor = selectionStart() == caret ? selectionEnd() : selectionStart();
+  TextField& field = TheControl();
+  field.UserSelected(ByteOffset(field.Text(), anchor), ByteOffset(field.Text(), caret));
+}
+
+void FieldWidget::ReportPaste(const QString& pasted) {
+  TheControl().UserPasted(ToUtf8(pasted));
+  Refresh();
+}
+
+void FieldWidget::ReportForeignText(const QString& foreign) {
+  TheControl().UserSelected(0, TheControl().Text().size());
+  ReportPaste(foreign);
+}
+
+void FieldWidget::PrepareKey(const QKeyEvent& event) {
+  if (!IsUsersDoing() || hasSelectedText() || isReadOnly()) return;
+  if (event.matches(QKeySequence::DeleteStartOfWord)) cursorWordBackward(true);
+  if (event.matches(QKeySequence::DeleteEndOfWord)) cursorWordForward(true);
+}
+
+void FieldWidget::keyPressEvent(QKeyEvent* event) {
+  if (GetControl() != nullptr && !DoEditKey(TheControl(), *event) && IsCaretKey(*event)) {
+    QLineEdit::keyPressEvent(event);
+  }
+  event->accept();
+}
+
+void FieldWidget::inputMethodEvent(QInputMethodEvent* event) {
+  const QString committed = event->commitString();
+  const int replaced = event->replacementLength();
+  if (GetControl() != nullptr && (replaced > 0 || !committed.isEmpty())) {
+    QInputMethodEvent nothing_being_composed;
+    QLineEdit::inputMethodEvent(&nothing_being_composed);
+    const Ref<Window> window = TheControl().Window();
+    if (replaced > 0) {
+      setSelection(cursorPosition() + event->replacementStart(), replaced);
+      if (committed.isEmpty()) window->UserPressedKey(Key::Character(std::string(1, kBackspace)));
+    }
+    window->UserTyped(ToUtf8(committed));
+  }
+  QInputMethodEvent composed(event->preeditString(), event->attributes());
+  QLineEdit::inputMethodEvent(&composed);
+  event->accept();
+}
+
+void FieldWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const QClipboard* clipboard = QGuiApplication::clipboard();
+  if (event->button() != Qt::MiddleButton) {
+    QLineEdit::mouseReleaseEvent(event);
+  } else if (IsUsersDoing() && clipboard->supportsSelection()) {
+    ReportPaste(clipboard->text(QClipboard::Selection));
+  }
+}
+
+void FieldWidget::contextMenuEvent(QContextMenuEvent* event) {
+  if (GetControl() == nullptr) return;
+  OpenTextMenu(*this, TheControl(), event->globalPos(), [this] { selectAll(); });
+}
+
+void FieldWidget::dropEvent(QDropEvent* event) {
+  if (!IsUsersDoing() || isReadOnly() || !event->mimeData()->hasText()) return;
+  setCursorPosition(cursorPositionAt(event->position().toPoint()));
+  ReportPaste(event->mimeData()->text());
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+}
+
+void FieldWidget::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  ReportFocus(event->reason());
+}
+
+void FieldWidget::showEvent(QShowEvent* event) {
+  QLineEdit::showEvent(event);
+  ShowCaption();
+}
+
+}  // namespace vamo

@@ -1,0 +1,45 @@
+// The text field on the screen.
+#ifndef VAMO_TOOLKIT_QT_QT_TEXT_FIELD_H_
+#define VAMO_TOOLKIT_QT_QT_TEXT_FIELD_H_
+
+#include <QLineEdit>
+#include <string_view>
+
+#include "qt_control.h"
+#include "toolkit/text_edit.h"
+
+namespace vamo {
+
+// Shows a text field; moves the caret and selects as the platform does and reports it. It edits no
+// text itself: typing, pasting and dropping are reported, and what comes of them is shown.
+class FieldWidget : public WidgetFor<QLineEdit, TextField> {
+ public:
+  FieldWidget(TextField& field, QWidget& parent);
+
+  // Selects the word that the key deletes.
+  void PrepareKey(const QKeyEvent& event) override;
+
+ protected:
+  void ShowState() override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  // The caption may have been created behind the field; by now it is there.
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void ShowColours();
+  void ShowCaption();
+  void ShowSelection();
+  void ReportSelection();
+  void ReportPaste(const QString& pasted);
+  // Something other than the toolkit has put a text in: takes it as a paste over the whole.
+  void ReportForeignText(const QString& foreign);
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_QT_QT_TEXT_FIELD_H_

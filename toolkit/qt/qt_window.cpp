@@ -1,0 +1,153 @@
+// A window on the screen.
+#include "qt_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "qt_convert.h"
+#include "qt_menu.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+namespace {
+
+Qt::WindowFlags Flags(const Window& window) {
+  if (window.IsSplash()) return Qt::Window | Qt::FramelessWindowHint;
+  const Window::State& state = window.GetState();
+  Qt::WindowFlags flags =
+      Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+  flags.setFlag(Qt::WindowCloseButtonHint, state.has_close_button);
+  flags.setFlag(Qt::WindowMinimizeButtonHint, state.has_minimize_button);
+  // A window of a fixed size has nothing to maximise.
+  flags.setFlag(Qt::WindowMaximizeButtonHint, state.has_maximize_button && state.resizeable);
+  return flags;
+}
+
+int Maximum(std::int64_t length, int extra) {
+  if (length <= 0) return QWIDGETSIZE_MAX;
+  return std::min(ToInt(length), QWIDGETSIZE_MAX - extra) + extra;
+}
+
+}  // namespace
+
+WindowWidget::WindowWidget(Window& window, Activation& activation)
+    : QWidget(nullptr, Flags(window)),
+      window_(&window),
+      activation_(activation),
+      content_(new ContentWidget(*this)),
+      keys_(*this) {
+  const Window::State& state = window.GetState();
+  // A task bar shows the title, so there is always one.
+  setWindowTitle(state.title.empty() ? QGuiApplication::applicationDisplayName()
+                                     : ToQString(state.title));
+  setObjectName(ToQString(window.Class()->name));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(content_);
+  AddMenuBar();
+  SetSizes();
+}
+
+void WindowWidget::AddMenuBar() {
+  if (!window_->MenuBar()) return;
+  menu_bar_ = new QMenuBar(this);
+  menu_bar_->setNativeMenuBar(kOneMenuBarOnScreen);
+  FillMenuBar(*menu_bar_, *window_->MenuBar());
+  layout()->setMenuBar(menu_bar_);
+}
+
+void WindowWidget::SetSizes() {
+  const Window::State& state = window_->GetState();
+  const int width = ToInt(state.width);
+  const int height = ToInt(state.height);
+  if (!state.resizeable) {
+    content_->setFixedSize(width, height);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    return;
+  }
+  const bool bar_above = menu_bar_ != nullptr && !kOneMenuBarOnScreen;
+  const int bar = bar_above ? menu_bar_->heightForWidth(width) : 0;
+  content_->setMinimumSize(ToInt(state.minimum_width), ToInt(state.minimum_height));
+  setMaximumSize(Maximum(state.maximum_width, 0), Maximum(state.maximum_height, bar));
+  resize(width, height + bar);
+}
+
+ControlWidget& WindowWidget::AddControl(RectControl& control) {
+  ControlWidget& widget = content_->AddControl(control);
+  keys_.Watch(widget.AsWidget());
+  return widget;
+}
+
+void WindowWidget::PlaceAtFirst() {
+  if (placed_) return;
+  placed_ = true;
+  // Where other windows go, the window manager knows best.
+  if (!window_->IsSplash()) return;
+  const QRect available = screen()->availableGeometry();
+  move(available.center() - rect().center());
+}
+
+void WindowWidget::BringToFront() {
+  PlaceAtFirst();
+  ShowFocus();
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+  // Qt can take a window for active all through a quick Hide and Show, and then reports no change.
+  const bool has_keys = windowHandle() == QGuiApplication::focusWindow();
+  if (has_keys && !isActiveWindow()) QApplication::setActiveWindow(this);
+}
+
+void WindowWidget::TakeAway() {
+  const QPoint at = pos();
+  hide();
+  move(at);
+}
+
+void WindowWidget::ShowFocus() {
+  if (window_ == nullptr) return;
+  const Ref<RectControl>& focus = window_->Focus();
+  QWidget* widget = focus ? content_->Find(&*focus) : nullptr;
+  if (widget == nullptr) widget = this;
+  if (widget->hasFocus()) return;
+  // It was not the mouse, so the style must show where the keys go.
+  if (isVisible()) setAttribute(Qt::WA_KeyboardFocusChange);
+  widget->setFocus(Qt::OtherFocusReason);
+}
+
+bool WindowWidget::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) activation_.Activated(*this);
+  if (event->type() == QEvent::WindowDeactivate) activation_.Deactivated(*this);
+  return QWidget::event(event);
+}
+
+void WindowWidget::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (window_ != nullptr) window_->UserAskedToClose();
+}
+
+QtWindowView::QtWindowView(Window& window, Activation& activation)
+    : activation_(activation), widget_(new WindowWidget(window, activation)) {}
+
+QtWindowView::~QtWindowView() {
+  if (widget_ == nullptr) return;
+  widget_->Detach();
+  widget_->hide();
+  // The view may go while one of its widgets still has an event to finish.
+  widget_->deleteLater();
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(RectControl& control) {
+  return std::make_unique<QtControlView>(widget_->AddControl(control));
+}
+
+void QtWindowView::Show() {
+  widget_->BringToFront();
+  activation_.Await(*widget_);
+}
+
+}  // namespace vamo
