@@ -118,7 +118,7 @@ class QtUser : public User {
     }
   }
   void Paste(std::string_view text) override {
-    QGuiApplication::clipboard()->setText(QString::fromUtf8(text.data(), text.size()));
+    QGuiApplication::clipboard()->setText(QString::fromStdString(std::string(text)));
     PressKey(Key::Command("v"));
   }
   void Click(Role role, std::string_view name) override {
@@ -275,8 +275,9 @@ class QtUser : public User {
 
   // Opens the menu of a path with the mouse and gives the item in it.
   std::pair<QMenu*, QAction*> Open(std::string_view path) {
-    const QString menu_text = QString::fromUtf8(path.data(), path.find('/'));
-    const QString item_text = QString::fromUtf8(path.substr(path.find('/') + 1).data());
+    const std::size_t slash = path.find('/');
+    const QString menu_text = QString::fromStdString(std::string(path.substr(0, slash)));
+    const QString item_text = QString::fromStdString(std::string(path.substr(slash + 1)));
     const auto called = [](const QList<QAction*>& actions, const QString& text) {
       for (QAction* action : actions) {
         if (action->text().remove('&').section('\t', 0, 0) == text) return action;

@@ -353,6 +353,8 @@ TEST_F(MenuTest, ADisabledItemsShortcutDoesNothing) {
   bar_->_Lookup("Own")->SetAutoEnabled(true);
   program_.display().PressKey(Key::Command("o"));
   EXPECT_EQ(log_->entries.size(), 1U);
+  program_.display().PressKey({KeyCode::kCharacter, "o", /*shift=*/true, /*command=*/true});
+  EXPECT_EQ(log_->entries.size(), 1U) << "with shift it is another key";
 }
 
 TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {

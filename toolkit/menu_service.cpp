@@ -119,7 +119,7 @@ void UserChose(const Ref<MenuItem>& item) {
 
 bool ChooseByShortcut(const Key& key) {
   const Ref<MenuBar> bar = ActiveMenuBar();
-  if (!bar || key.text.size() != 1) return false;
+  if (!bar || key.shift || key.text.size() != 1) return false;
   const int letter = std::toupper(static_cast<unsigned char>(key.text[0]));
   std::string shortcut(kCommandPrefix);
   shortcut += static_cast<char>(letter);

@@ -52,7 +52,7 @@ class Menu : public QMenu {
 
   void Refresh() {
     for (const auto& [action, item] : entries_) {
-      action->setSeparator(item->Value() == "-");
+      action->setSeparator(IsSeparator(*item));
       // A style may write a separator's text beside its line.
       action->setText(action->isSeparator() ? QString() : Escaped(ToQString(item->Value())));
       action->setVisible(item->Visible() && !item->Value().empty());
@@ -68,29 +68,17 @@ class Menu : public QMenu {
   std::vector<Entry> entries_;
 };
 
-bool GoesToApplicationMenu(const MenuItem& item) {
-  return !kOneMenuBarOnScreen && dynamic_cast<const AppleMenuItem*>(&item) != nullptr;
-}
-
 }  // namespace
 
-void FillMenuBar(QMenuBar& bar, const MenuItem& tree) {
+void FillMenuBar(QMenuBar& bar, const MenuBar& tree) {
   QString letters_in_use;
-  auto* help = new Menu(bar);
-  const auto add = [&](Menu& menu, const QString& title) {
-    menu.Refresh();
-    menu.setTitle(WithMnemonic(title, letters_in_use));
-    if (!menu.isEmpty()) bar.addMenu(&menu);
-  };
-  for (const Ref<MenuItem>& top : tree.Children()) {
-    if (top->Value().empty() || !top->Visible()) continue;
+  for (const DrawnMenu& drawn : DrawnMenus(tree)) {
     auto* menu = new Menu(bar);
-    for (const Ref<MenuItem>& item : top->Children()) {
-      (GoesToApplicationMenu(*item) ? help : menu)->Add(item);
-    }
-    add(*menu, ToQString(top->Value()));
+    for (const Ref<MenuItem>& item : drawn.items) menu->Add(item);
+    menu->Refresh();
+    menu->setTitle(WithMnemonic(ToQString(drawn.text), letters_in_use));
+    bar.addMenu(menu);
   }
-  add(*help, QStringLiteral("Help"));
 }
 
 }  // namespace vamo

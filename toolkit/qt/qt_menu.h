@@ -15,10 +15,9 @@ inline constexpr bool kOneMenuBarOnScreen = true;
 inline constexpr bool kOneMenuBarOnScreen = false;
 #endif
 
-// Fills an empty bar with the menus of a tree: what has a text, with "-" as a separator. Where the
-// bar lives in a window, the items for the application menu get a menu of their own at the end.
-// The items' state is fetched each time that a menu opens.
-void FillMenuBar(QMenuBar& bar, const MenuItem& tree);
+// Fills an empty bar with the menus to be drawn of a tree. The items' state is fetched each time
+// that a menu opens. On macOS Qt takes the items for the application menu there, by their roles.
+void FillMenuBar(QMenuBar& bar, const MenuBar& tree);
 
 }  // namespace vamo
 
