@@ -22,6 +22,9 @@ class HeadlessUser : public User {
   void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) override {
     display_.DragSlider(name, positions);
   }
+  void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) override {
+    display_.DragSlider(name, {at, drag_to});
+  }
   void TurnWheel(std::string_view slider, std::int64_t notches) override {
     display_.TurnWheel(slider, notches);
   }

@@ -115,6 +115,15 @@ TEST(ControlWindowJourney, DraggingTheSlidersShowsTheResults) {
   });
 }
 
+TEST(ControlWindowJourney, APressInTheGrooveTakesTheKnobThere) {
+  InControlWindow([](User& user) {
+    user.PressGroove("r", 80, 80);
+    EXPECT_EQ(FieldText(user, "r"), ".800");
+    user.PressGroove("r", 20, 35);
+    EXPECT_EQ(FieldText(user, "r"), ".350");
+  });
+}
+
 TEST(ControlWindowJourney, SlidersFollowTheKeysAndTheWheel) {
   InControlWindow([](User& user) {
     user.DragSlider("r", {37});

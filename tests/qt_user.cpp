@@ -126,16 +126,11 @@ class QtUser : public User {
   }
   void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) override {
     QAccessibleInterface& slider = Find(Role::kSlider, name);
-    input_->MoveTo(KnobAt(slider, slider.valueInterface()->currentValue().toLongLong()));
-    input_->Press();
-    Settle();
-    for (const std::int64_t position : positions) {
-      input_->MoveTo(KnobAt(slider, position));
-      Settle();
-    }
-    input_->Release();
-    Settle();
+    Drag(slider, slider.valueInterface()->currentValue().toLongLong(), positions);
     NudgeTo(name, positions.back());
+  }
+  void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) override {
+    Drag(Find(Role::kSlider, name), at, {drag_to});
   }
   void TurnWheel(std::string_view slider, std::int64_t notches) override {
     input_->MoveTo(Find(Role::kSlider, slider).rect().center());
@@ -254,6 +249,18 @@ class QtUser : public User {
     const QRect rect = slider.rect();
     const auto offset = (position - least) * (rect.width() - kKnob) / (most - least);
     return {rect.left() + kKnob / 2 + static_cast<int>(offset), rect.center().y()};
+  }
+  void Drag(QAccessibleInterface& slider, std::int64_t from,
+            const std::vector<std::int64_t>& positions) {
+    input_->MoveTo(KnobAt(slider, from));
+    input_->Press();
+    Settle();
+    for (const std::int64_t position : positions) {
+      input_->MoveTo(KnobAt(slider, position));
+      Settle();
+    }
+    input_->Release();
+    Settle();
   }
   // Where a position is narrower than a pixel, a user ends a drag with the arrow keys.
   void NudgeTo(std::string_view name, std::int64_t position) {

@@ -27,6 +27,8 @@ class User {
   virtual void Click(Role role, std::string_view name) = 0;
   // Presses the slider's knob and takes it to each of the positions in turn.
   virtual void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) = 0;
+  // Presses the slider beside its knob, at the place of a position, and goes on from there.
+  virtual void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) = 0;
   virtual void TurnWheel(std::string_view slider, std::int64_t notches) = 0;
   virtual void PressByAssistiveTechnology(std::string_view button) = 0;
   // A menu item by its texts, such as "Edit/Copy".

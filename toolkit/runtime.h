@@ -8,7 +8,6 @@
 #include <memory>
 #include <string_view>
 #include <thread>
-#include <typeindex>
 #include <unordered_map>
 #include <vector>
 
@@ -59,7 +58,7 @@ class Runtime {
   // use and gone with the run time.
   template <class Fields>
   Fields& ModuleFields() {
-    std::any& fields = module_fields_[std::type_index(typeid(Fields))];
+    std::any& fields = module_fields_[&module_key_<Fields>];
     if (!fields.has_value()) fields.emplace<Fields>();
     return *std::any_cast<Fields>(&fields);
   }
@@ -89,11 +88,16 @@ class Runtime {
  private:
   void TakeException(const std::exception_ptr& exception);
 
+  // Its address tells the structs of different files apart even where they have the same name, which
+  // type_info does not with every compiler.
+  template <class Fields>
+  inline static char module_key_ = 0;
+
   static Runtime* current_;
 
   const std::unique_ptr<Display> display_;
   const std::thread::id main_thread_ = std::this_thread::get_id();
-  std::unordered_map<std::type_index, std::any> module_fields_;
+  std::unordered_map<const void*, std::any> module_fields_;
   Ref<Application> app_;
   std::vector<Ref<Window>> live_windows_;
   Ref<Window> active_window_;
