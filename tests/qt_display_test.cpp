@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QImage>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -99,6 +100,36 @@ TEST(QtDisplayTest, TheContentIsExactlyAsLargeAsItSays) {
     const auto& slider = Named<QSlider>("r");
     EXPECT_EQ(slider.mapTo(&window, QPoint()), QPoint(25, 220 + bar));
     EXPECT_EQ(slider.size(), QSize(450, 15));
+  });
+}
+
+// The smallest rectangle that holds all that a label has drawn.
+QRect Ink(QLabel& label) {
+  QImage image(label.size(), QImage::Format_RGB32);
+  image.fill(Qt::white);
+  label.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+  QRect ink;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, y) != Qt::white) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  return ink;
+}
+
+TEST(QtDisplayTest, NoTextIsCutOff) {
+  InControlWindow([](User& user) {
+    user.Type("99");
+    user.Click(Role::kText, "N");
+    user.Type("1000");
+    for (auto* label : QApplication::activeWindow()->findChildren<QLabel*>()) {
+      const QRect ink = Ink(*label);
+      const std::string text = label->text().toStdString();
+      ASSERT_FALSE(text.empty() || ink.isEmpty()) << text;
+      // A text that begins at the left begins in the first column.
+      const int left = label->alignment().testFlag(Qt::AlignHCenter) ? 1 : 0;
+      EXPECT_TRUE(label->rect().adjusted(left, 0, -1, 0).contains(ink)) << text;
+    }
   });
 }
 
