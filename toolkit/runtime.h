@@ -88,8 +88,8 @@ class Runtime {
  private:
   void TakeException(const std::exception_ptr& exception);
 
-  // Its address tells the structs of different files apart even where they have the same name, which
-  // type_info does not with every compiler.
+  // Its address tells the structs of different files apart even where they have the same name,
+  // which type_info does not with every compiler.
   template <class Fields>
   inline static char module_key_ = 0;
 
