@@ -49,6 +49,9 @@ std::unique_ptr<QApplication> StartApplication(int& argc, char** argv) {
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication::setPalette(LightColours());
   QApplication::setQuitOnLastWindowClosed(false);
+  // An installed program is known to the desktop by its desktop file, and its icon by the theme.
+  QGuiApplication::setDesktopFileName(QStringLiteral("vamo"));
+  QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("vamo")));
   return application;
 }
 
