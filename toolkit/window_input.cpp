@@ -34,8 +34,10 @@ bool Window::UserPressedKey(const Key& key) {
 }
 
 void Window::UserTyped(std::string_view text) {
+  // A key may close the window; then the rest of the text has nowhere to go.
+  const Ref<Window> self = Self(this);
   const std::string valid = ValidUtf8(text);
-  for (std::size_t at = 0; at < valid.size();) {
+  for (std::size_t at = 0; at < valid.size() && IsLive();) {
     const std::size_t next = NextCharacter(valid, at);
     UserPressedKey(Key::Character(valid.substr(at, next - at)));
     at = next;

@@ -74,9 +74,10 @@ void HeadlessDisplay::Act(const std::function<void()>& act) {
 
 void HeadlessDisplay::PressKey(const Key& key) {
   Act([&] {
-    vamo::Window& window = ActiveView().Window();
-    if (window.UserPressedKey(key) || !window.Focus()) return;
-    if (auto* text = dynamic_cast<TextEdit*>(&*window.Focus())) MoveCaret(*text, key);
+    // Held, since the key may close it.
+    const Ref<vamo::Window> window = Self(&ActiveView().Window());
+    if (window->UserPressedKey(key) || !window->Focus()) return;
+    if (auto* text = dynamic_cast<TextEdit*>(&*window->Focus())) MoveCaret(*text, key);
   });
 }
 

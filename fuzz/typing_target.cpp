@@ -1,0 +1,76 @@
+// Insertion of any character into any text under any rule, against a rule of whole code points.
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "target.h"
+#include "toolkit/typing_rule.h"
+#include "toolkit/utf8.h"
+
+namespace vamo {
+namespace {
+
+// The characters of valid UTF-8.
+std::u32string CodePoints(std::string_view text) {
+  std::u32string points;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if ((byte & 0xC0U) == 0x80U) {
+      points.back() = points.back() << 6U | (byte & 0x3FU);
+    } else {
+      points += byte < 0x80 ? byte : byte < 0xE0 ? byte & 0x1FU : byte & 0x0FU;
+    }
+  }
+  return points;
+}
+
+bool IsDigit(char32_t c) { return c >= U'0' && c <= U'9'; }
+
+bool Fits(const std::u32string& text, const std::u32string& mask) {
+  if (text.size() > mask.size()) return false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (mask[i] == U'#' ? !IsDigit(text[i]) : text[i] != mask[i]) return false;
+  }
+  return true;
+}
+
+// What may be inserted: the character or, for a digit, the character behind the fewest literals of
+// the mask with which it fits.
+std::optional<std::u32string> Expected(const std::u32string& before, const std::u32string& after,
+                                       char32_t character, const std::u32string& mask,
+                                       std::int64_t maximum) {
+  std::u32string inserted(1, character);
+  if (!mask.empty()) {
+    for (std::size_t at = before.size(); !Fits(before + inserted, mask); ++at) {
+      if (!IsDigit(character) || at >= mask.size() || mask[at] == U'#') return std::nullopt;
+      inserted.insert(inserted.size() - 1, 1, mask[at]);
+    }
+  }
+  const std::u32string whole = before + inserted + after;
+  if (!mask.empty() && !Fits(whole, mask)) return std::nullopt;
+  if (maximum > 0 && whole.size() > static_cast<std::size_t>(maximum)) return std::nullopt;
+  return inserted;
+}
+
+}  // namespace
+}  // namespace vamo
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace vamo;  // NOLINT(google-build-using-namespace)
+  Input input(data, size);
+  TypingRule rule;
+  rule.maximum_characters = static_cast<std::int8_t>(input.Byte());
+  rule.mask = ValidUtf8(input.ShortText());
+  const std::string before = ValidUtf8(input.ShortText());
+  const std::string after = ValidUtf8(input.ShortText());
+  std::string character = ValidUtf8(input.Rest());
+  character.resize(NextCharacter(character, 0));
+  if (character.empty()) return 0;
+
+  const auto inserted = Insertion(before, after, character, rule);
+  const auto expected = Expected(CodePoints(before), CodePoints(after), CodePoints(character)[0],
+                                 CodePoints(rule.mask), rule.maximum_characters);
+  Require(inserted.has_value() == expected.has_value(), "typed where it fits, and only there");
+  if (inserted) Require(CodePoints(*inserted) == *expected, "what is inserted");
+  return 0;
+}

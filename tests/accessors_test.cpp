@@ -1,0 +1,57 @@
+// The windows' own names for their controls, and what is asked of them by name alone.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "controlwnd/control_wnd.h"
+#include "test_program.h"
+#include "toolkit/runtime.h"
+
+namespace vamo {
+namespace {
+
+class AccessorsTest : public testing::Test {
+ protected:
+  // The names of what the accessors give, each with a comma behind it.
+  template <class... Accessors>
+  std::string NamesOf(Accessors... accessors) {
+    return (... + (((*window_).*accessors)()->Name() + ","));
+  }
+
+  TestProgram program_;
+  Ref<class ControlWnd> window_ = Cast<class ControlWnd>(ControlWnd());
+};
+
+// Most controls are fixed, so nothing else of the program would miss them.
+TEST_F(AccessorsTest, EachControlIsFoundUnderItsOwnName) {
+  using W = class ControlWnd;
+  EXPECT_EQ(NamesOf(&W::rEdit, &W::nEdit, &W::zFld, &W::rSlider, &W::nSlider, &W::Qbtn),
+            "rEdit,nEdit,zFld,rSlider,nSlider,Qbtn,");
+  EXPECT_EQ(NamesOf(&W::Rectangle1, &W::Rectangle2, &W::Rectangle3, &W::Canvas3),
+            "Rectangle1,Rectangle2,Rectangle3,Canvas3,");
+  EXPECT_EQ(NamesOf(&W::StaticText1, &W::StaticText2, &W::StaticText3, &W::StaticText4,
+                    &W::StaticText5, &W::StaticText7, &W::StaticText8, &W::StaticText9),
+            "StaticText1,StaticText2,StaticText3,StaticText4,StaticText5,StaticText7,StaticText8,"
+            "StaticText9,");
+  EXPECT_EQ(NamesOf(&W::tText, &W::pText, &W::ciText, &W::nText), "tText,pText,ciText,nText,");
+}
+
+TEST_F(AccessorsTest, EachMenuItemIsFoundUnderItsOwnName) {
+  using W = class ControlWnd;
+  EXPECT_EQ(NamesOf(&W::FileQuit, &W::EditUndo, &W::EditCut, &W::EditCopy, &W::EditPaste,
+                    &W::EditClear, &W::ControlMenuItem, &W::AboutMenuItem, &W::AboutKEL),
+            "FileQuit,EditUndo,EditCut,EditCopy,EditPaste,EditClear,ControlMenuItem,AboutMenuItem,"
+            "AboutKEL,");
+}
+
+TEST_F(AccessorsTest, TheDescriptionItemIsPassedOn) {
+  EXPECT_FALSE(window_->GetMenuHandlers().at("DescriptionMenuItem").Invoke());
+}
+
+TEST_F(AccessorsTest, AClassThatIsNoneOfTheObjectsHandlesNoEvent) {
+  EXPECT_TRUE(_RuntimeIsEventHandled(*window_, "ControlWnd.ControlWnd", "Layout"));
+  EXPECT_FALSE(_RuntimeIsEventHandled(*window_, "InfoWnd.InfoWnd", "Layout"));
+}
+
+}  // namespace
+}  // namespace vamo
