@@ -3,6 +3,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QTextOption>
 #include <algorithm>
 #include <cmath>
 
@@ -11,17 +12,9 @@
 namespace vamo {
 namespace {
 
-// What a line of text covers, from its starting point on the base line: at least its advance, and
-// more where glyphs stand out of it.
-QRectF Extent(const QFontMetricsF& metrics, const QString& text) {
-  const QRectF ink = metrics.tightBoundingRect(text);
-  const QRectF advance(0, ink.top(), metrics.horizontalAdvance(text), ink.height());
-  return ink.united(advance);
-}
-
 // The base line for which the line lies in the middle of the box; moved where ink would stand out.
-double BaseLine(const QFontMetricsF& metrics, const QRectF& extent, double height) {
-  const double middle = (height - metrics.ascent() - metrics.descent()) / 2 + metrics.ascent();
+double BaseLine(const QTextLine& line, const QRectF& extent, double height) {
+  const double middle = (height - line.ascent() - line.descent()) / 2 + line.ascent();
   const double highest = -extent.top();
   const double lowest = height - extent.bottom();
   if (lowest < highest) return (lowest + highest) / 2;
@@ -43,33 +36,48 @@ double Left(Qt::Alignment alignment, double free) {
 
 LabelWidget::LabelWidget(Label& label, QWidget& parent) : WidgetFor(label, parent) {
   setTextFormat(Qt::PlainText);
-}
-
-void LabelWidget::ShowState() {
-  const Label& label = TheControl();
   setFont(ToQFont(label.Font()));
   setAlignment(ToQtAlignment(label.Alignment()));
   QPalette colours = palette();
   colours.setColor(QPalette::WindowText, ToQColor(label.TextColor()));
   setPalette(colours);
-  const QString shown = ToQString(label.Text());
+}
+
+void LabelWidget::ShowState() {
+  const QString shown = ToQString(TheControl().Text());
   if (text() != shown) setText(shown);
+}
+
+void LabelWidget::LayOut() {
+  line_.setText(text());
+  line_.setFont(font());
+  line_.setTextOption(QTextOption(Qt::AlignLeft | Qt::AlignAbsolute));
+  line_.setCacheEnabled(true);
+  line_.beginLayout();
+  const QTextLine line = line_.createLine();
+  line_.endLayout();
+  // At least the advance, and more where glyphs stand out of it.
+  const QRectF ink = QFontMetricsF(font(), this).tightBoundingRect(text());
+  extent_ = ink.united(QRectF(0, ink.top(), line.naturalTextWidth(), ink.height()));
 }
 
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   if (text().isEmpty()) return;
+  // What lies beside a changing text is painted with it, and measuring costs more than painting.
+  if (line_.text() != text() || line_.font() != font()) LayOut();
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
-  const QFontMetricsF metrics(font(), this);
-  const QRectF extent = Extent(metrics, text());
-  const double x_scale = std::min(1.0, Room(width()) / extent.width());
-  const double y_scale = std::min(1.0, height() / extent.height());
+  const QTextLine line = line_.lineAt(0);
+  const double x_scale = std::min(1.0, Room(width()) / extent_.width());
+  const double y_scale = std::min(1.0, height() / extent_.height());
   const double box = height() / y_scale;
-  const double left = Left(alignment(), width() - extent.width() * x_scale);
+  const double left = Left(alignment(), width() - extent_.width() * x_scale);
   const double pixels = devicePixelRatioF();
-  const double base = std::round(BaseLine(metrics, extent, box) * pixels) / pixels;
+  const double base = std::round(BaseLine(line, extent_, box) * pixels) / pixels;
   painter.scale(x_scale, y_scale);
-  painter.drawText(QPointF(left / x_scale - extent.left(), base), text());
+  // A line's own place is in sixty-fourths, which would miss the whole pixel.
+  painter.translate(0, base);
+  line.draw(&painter, QPointF(left / x_scale - extent_.left(), -line.ascent()));
 }
 
 }  // namespace vamo

@@ -3,6 +3,8 @@
 #define VAMO_TOOLKIT_QT_QT_LABEL_H_
 
 #include <QLabel>
+#include <QRectF>
+#include <QTextLayout>
 
 #include "qt_control.h"
 #include "toolkit/label.h"
@@ -18,6 +20,13 @@ class LabelWidget : public WidgetFor<QLabel, Label> {
  protected:
   void ShowState() override;
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void LayOut();
+
+  // The text as it was last laid out, and what it covers from its starting point on the base line.
+  QTextLayout line_;
+  QRectF extent_;
 };
 
 }  // namespace vamo

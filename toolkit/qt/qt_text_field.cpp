@@ -20,6 +20,7 @@ namespace vamo {
 FieldWidget::FieldWidget(TextField& field, QWidget& parent) : WidgetFor(field, parent) {
   setMaxLength(std::numeric_limits<int>::max());
   setFocusPolicy(Qt::StrongFocus);
+  ShowLook();
   const auto report_selection = [this] {
     if (IsUsersDoing()) ReportSelection();
   };
@@ -30,7 +31,7 @@ FieldWidget::FieldWidget(TextField& field, QWidget& parent) : WidgetFor(field, p
   });
 }
 
-void FieldWidget::ShowState() {
+void FieldWidget::ShowLook() {
   const TextField& field = TheControl();
   setFont(ToQFont(field.Font()));
   setAlignment(ToQtAlignment(field.Alignment()));
@@ -38,21 +39,20 @@ void FieldWidget::ShowState() {
   setReadOnly(field.ReadOnly());
   setEchoMode(field.Password() ? QLineEdit::Password : QLineEdit::Normal);
   setPlaceholderText(ToQString(field.Hint()));
-  ShowColours();
-  ShowCaption();
-  const QString shown = ToQString(field.Text());
-  if (text() != shown) setText(shown);
-  ShowSelection();
-}
-
-void FieldWidget::ShowColours() {
-  const QColor background = ToQColor(TheControl().BackgroundColor());
+  const QColor background = ToQColor(field.BackgroundColor());
   QPalette colours = palette();
-  colours.setColor(QPalette::Text, ToQColor(TheControl().TextColor()));
+  colours.setColor(QPalette::Text, ToQColor(field.TextColor()));
   colours.setColor(QPalette::Base, background);
   // A little darker shows that nothing can be typed here; the text stays as legible as any.
   colours.setColor(QPalette::Disabled, QPalette::Base, background.darker(104));
-  if (colours != palette()) setPalette(colours);
+  setPalette(colours);
+}
+
+void FieldWidget::ShowState() {
+  ShowCaption();
+  const QString shown = ToQString(TheControl().Text());
+  if (text() != shown) setText(shown);
+  ShowSelection();
 }
 
 void FieldWidget::ShowCaption() {

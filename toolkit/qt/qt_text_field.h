@@ -31,7 +31,8 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
   void showEvent(QShowEvent* event) override;
 
  private:
-  void ShowColours();
+  // What the field's stream has settled for good.
+  void ShowLook();
   void ShowCaption();
   void ShowSelection();
   void ReportSelection();
