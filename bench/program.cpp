@@ -1,0 +1,10 @@
+// The program itself, with a probe in it.
+#include "probe.h"
+#include "shell/startup.h"
+#include "toolkit/qt/qt_display.h"
+
+int main(int argc, char** argv) {
+  auto display = vamo::MakeQtDisplay(argc, argv);
+  const vamo::Probe probe(argc, argv);
+  return vamo::Main(std::move(display));
+}
