@@ -1,0 +1,48 @@
+// Programs that a test starts.
+#ifndef VAMO_TESTS_OUTSIDE_CHILD_H_
+#define VAMO_TESTS_OUTSIDE_CHILD_H_
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vamo {
+
+using Environment = std::map<std::string, std::string>;
+
+// A program that runs beside the test. It is killed when the object goes.
+class Child {
+ public:
+  // `settings` are added to the environment of the test.
+  Child(const std::vector<std::string>& command, const Environment& settings);
+  ~Child();
+  Child(const Child&) = delete;
+  Child& operator=(const Child&) = delete;
+
+  pid_t id() const { return id_; }
+  bool Running();
+  // The exit status, or 256 and the signal that has ended it; nothing while it runs.
+  std::optional<int> ExitStatus();
+
+ private:
+  pid_t id_;
+  std::optional<int> status_;
+};
+
+// What a program says on its standard output, which gets `input`. Throws where it fails.
+std::string Output(const std::vector<std::string>& command, std::string_view input = {},
+                   const Environment& settings = {});
+
+// Asks again until it is so; false when `patience` is over.
+bool Await(const std::function<bool()>& so,
+           std::chrono::milliseconds patience = std::chrono::seconds(10));
+
+}  // namespace vamo
+
+#endif  // VAMO_TESTS_OUTSIDE_CHILD_H_

@@ -1,0 +1,80 @@
+// From outside: the program on other desktops than the tests' own, and its ends there.
+#include <gtest/gtest.h>
+
+#include "steps.h"
+
+namespace vamo {
+namespace {
+
+// The same act gives the same texts wherever the program runs.
+void WorkTheWindow(OutsideUser& user) {
+  Retype(user, "N", "30");
+  Retype(user, "r", ".5");
+  EXPECT_EQ(FieldText(user, "r"), ".5");
+  EXPECT_EQ(ShownResults(user), (Results{"3.06", ".00490", "+.170 to +.729", "0.549"}));
+  const int beeps = user.Beeps();
+  user.Type(",");
+  EXPECT_EQ(user.Beeps(), beeps + 1);
+  user.PressKey(Key::Command("a"));
+  user.Paste(".25");
+  EXPECT_EQ(ShownResults(user), ExpectedResults(.25, 30));
+  user.DragSlider("r", {12, 80, 37});
+  EXPECT_EQ(FieldText(user, "r"), ".370");
+  EXPECT_EQ(ShownResults(user), ExpectedResults(.37, 30));
+  user.DragSlider("N", {600, 31});
+  EXPECT_EQ(FieldText(user, "N"), "31");
+  EXPECT_EQ(ShownResults(user), ExpectedResults(.37, 31));
+  user.PressGroove("r", 0, 0);
+  EXPECT_EQ(FieldText(user, "r"), ".000");
+  user.Click(Role::kButton, "Info");
+  EXPECT_EQ(user.ActiveTitle(), "Info");
+}
+
+TEST(Desktop, WithADecimalComma) {
+  const Environment german{{"LC_ALL", "de_DE.UTF-8"}, {"LOCPATH", VAMO_LOCALES}};
+  if (Output({"locale", "decimal_point"}, {}, german) != ",\n") {
+    GTEST_SKIP() << "this machine has no locale with a decimal comma";
+  }
+  InControlWindow(german, WorkTheWindow);
+}
+
+TEST(Desktop, AtTwiceTheSize) {
+  InControlWindow({{"QT_SCALE_FACTOR", "2"}}, [](OutsideUser& user) {
+    if (user.ScreenHeight() < 960) GTEST_SKIP() << "the screen is too low";
+    EXPECT_EQ(user.WindowTitled("Vamo").width, 1000);
+    WorkTheWindow(user);
+  });
+}
+
+TEST(Desktop, OffersTheMenus) {
+  InControlWindow({}, [](OutsideUser& user) {
+    for (const char* item : {"File/Quit", "Window/About Vamo", "Help/About Vamo"}) {
+      EXPECT_TRUE(user.CanChoose(item)) << item;
+    }
+    EXPECT_FALSE(user.CanChoose("Window/Control"));
+    EXPECT_FALSE(user.CanChoose("Edit/Copy")) << "nothing is selected";
+    Retype(user, "r", ".5");
+    user.PressKey(Key::Command("a"));
+    EXPECT_TRUE(user.CanChoose("Edit/Copy"));
+    user.Choose("Edit/Cut");
+    EXPECT_EQ(FieldText(user, "r"), "");
+    EXPECT_EQ(user.Clipboard(), ".5");
+    user.Choose("Edit/Undo");
+    EXPECT_EQ(FieldText(user, "r"), ".5");
+  });
+}
+
+TEST(Desktop, TheCloseButtonEndsTheProgram) {
+  EXPECT_EQ(InControlWindow({},
+                            [](OutsideUser& user) {
+                              user.Click(Role::kButton, "Info");
+                              user.ClickCloseButton("Info");
+                              EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
+                              user.ClickCloseButton("Vamo");
+                              EXPECT_FALSE(user.Running());
+                            }),
+            0);
+}
+
+}  // namespace
+}  // namespace vamo

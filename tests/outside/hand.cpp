@@ -1,0 +1,76 @@
+// The hands of a user, by way of xdotool and xclip.
+#include "hand.h"
+
+#include <cstdlib>
+#include <map>
+#include <stdexcept>
+
+#include "child.h"
+
+namespace vamo::hand {
+namespace {
+
+template <typename... Arguments>
+void Xdotool(const Arguments&... arguments) {
+  Output({"xdotool", std::string(arguments)...});
+}
+
+// The X name of a key that types no character; empty for the others.
+std::string NameOf(const Key& key) {
+  static const std::map<KeyCode, std::string> kCoded{
+      {KeyCode::kLeft, "Left"}, {KeyCode::kRight, "Right"},  {KeyCode::kUp, "Up"},
+      {KeyCode::kDown, "Down"}, {KeyCode::kPageUp, "Prior"}, {KeyCode::kPageDown, "Next"},
+      {KeyCode::kHome, "Home"}, {KeyCode::kEnd, "End"},      {KeyCode::kOther, "F5"},
+  };
+  static const std::map<std::string, std::string> kControls{
+      {"\b", "BackSpace"}, {"\t", "Tab"}, {"\r", "Return"}, {"\x1b", "Escape"}, {"\x7f", "Delete"},
+  };
+  if (key.code != KeyCode::kCharacter) return kCoded.at(key.code);
+  const auto control = kControls.find(key.text);
+  return control == kControls.end() ? "" : control->second;
+}
+
+const std::vector<std::string> kXclip{"xclip", "-selection", "clipboard", "-t", "UTF8_STRING"};
+
+std::vector<std::string> Xclip(const std::string& direction) {
+  std::vector<std::string> command = kXclip;
+  command.push_back(direction);
+  return command;
+}
+
+}  // namespace
+
+void PressKey(const Key& key) {
+  std::string name = NameOf(key);
+  if (name.empty() && !key.command) return Type(key.text);
+  if (name.empty()) name = key.text;
+  PressNamed((key.command ? "ctrl+" : "") + std::string(key.shift ? "shift+" : "") + name);
+}
+
+void PressNamed(const std::string& keys) { Xdotool("key", keys); }
+
+void Type(std::string_view printable) { Xdotool("type", "--delay", "1", "--", printable); }
+
+void MoveTo(int x, int y) { Xdotool("mousemove", std::to_string(x), std::to_string(y)); }
+
+void Press() { Xdotool("mousedown", "1"); }
+
+void Release() { Xdotool("mouseup", "1"); }
+
+void TurnWheel(int notches_up) {
+  Xdotool("click", "--repeat", std::to_string(std::abs(notches_up)), notches_up > 0 ? "4" : "5");
+}
+
+void Activate(unsigned long window) { Xdotool("windowactivate", std::to_string(window)); }
+
+void SetClipboard(std::string_view text) {
+  Output(Xclip("-i"), text);
+  // It goes to the background before the server knows of it.
+  if (!Await([&] { return Clipboard() == text; })) {
+    throw std::runtime_error("the clipboard does not take the text");
+  }
+}
+
+std::string Clipboard() { return Output(Xclip("-o")); }
+
+}  // namespace vamo::hand

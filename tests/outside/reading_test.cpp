@@ -1,0 +1,111 @@
+// From outside: what assistive technology reads and works.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <tuple>
+
+#include "steps.h"
+
+namespace vamo {
+namespace {
+
+struct ReadOut {
+  std::string role, name, description, caption;
+  bool enabled = true;
+  bool showing = true;
+
+  auto AsTuple() const { return std::tie(role, name, description, caption, enabled, showing); }
+  bool operator==(const ReadOut& other) const { return AsTuple() == other.AsTuple(); }
+  bool operator<(const ReadOut& other) const { return AsTuple() < other.AsTuple(); }
+};
+
+std::ostream& operator<<(std::ostream& stream, const ReadOut& read) {
+  return stream << read.role << " '" << read.name << "' (" << read.description << ", "
+                << read.caption << (read.enabled ? "" : ", disabled")
+                << (read.showing ? ")" : ", hidden)");
+}
+
+// All that is read out of the active window, in alphabetical order; boxes, pictures and hidden
+// scroll bars, which have nothing to say, are left out.
+std::vector<ReadOut> ReadAll(OutsideUser& user) {
+  std::vector<ReadOut> all;
+  for (const Element& element : user.Elements()) {
+    const std::string role = element.RoleName();
+    if (role == "filler" || role == "scroll bar") continue;
+    all.push_back({role, element.Name(), element.Description(), element.LabelledBy(),
+                   element.HasState(ATSPI_STATE_ENABLED), element.HasState(ATSPI_STATE_SHOWING)});
+  }
+  std::sort(all.begin(), all.end());
+  return all;
+}
+
+TEST(Reading, TheControlWindow) {
+  std::vector<ReadOut> expected{
+      {"label", "3.06", "Student's t", ""},
+      {"label", ".00490", "two-tailed p", ""},
+      {"label", "+.170 to +.729", "95% confidence interval of r", ""},
+      {"label", "(4 - 1,1000)", "range of N", "", true, false},
+      {"label", "Vamo", "", ""},
+      {"label", "by Halden Q. Orrin", "", ""},
+      {"label", "r =", "", ""},
+      {"label", "N =", "", ""},
+      {"label", "Fisher's z =", "", ""},
+      {"label", "t =", "", ""},
+      {"label", "p =", "", ""},
+      {"label", "95% CI of r =", "", ""},
+      {"text", "r", "", "r ="},
+      {"text", "N", "", "N ="},
+      {"text", "Fisher's z", "", "Fisher's z =", false},
+      {"slider", "r", "", "r ="},
+      {"slider", "N", "", "N ="},
+      {"push button", "Info", "", ""},
+  };
+  std::sort(expected.begin(), expected.end());
+  InControlWindow({}, [&](OutsideUser& user) {
+    Retype(user, "N", "30");
+    Retype(user, "r", ".5");
+    EXPECT_EQ(ReadAll(user), expected);
+    EXPECT_TRUE(user.Find(Role::kText, "Fisher's z").HasState(ATSPI_STATE_READ_ONLY));
+    EXPECT_TRUE(user.Find(Role::kText, "r").HasState(ATSPI_STATE_EDITABLE));
+  });
+}
+
+TEST(Reading, AndWorkingTheSliders) {
+  InControlWindow({}, [](OutsideUser& user) {
+    const Element& r = user.Find(Role::kSlider, "r");
+    const Element& n = user.Find(Role::kSlider, "N");
+    EXPECT_EQ(r.LeastValue(), 0);
+    EXPECT_EQ(r.GreatestValue(), 99);
+    EXPECT_EQ(n.LeastValue(), 4);
+    EXPECT_EQ(n.GreatestValue(), 1000);
+    n.Set("30");
+    r.Set("50");
+    user.Wait(std::chrono::milliseconds(0));
+    EXPECT_EQ(FieldText(user, "r") + FieldText(user, "N"), ".50030");
+    EXPECT_EQ(ShownResults(user), ExpectedResults(.5, 30));
+  });
+}
+
+TEST(Reading, TheSplashAndTheInfoWindow) {
+  RunProgramWith({}, [](OutsideUser& user) {
+    const std::vector<ReadOut> splash = ReadAll(user);
+    ASSERT_EQ(splash.size(), 2U);
+    EXPECT_EQ(splash[0].name, "Vamo");
+    EXPECT_EQ(splash[1].name.rfind("©", 0), 0U);
+    user.PressNamed("space");
+    user.Click(Role::kButton, "Info");
+    ASSERT_EQ(user.ActiveTitle(), "Info");
+    EXPECT_EQ(ReadAll(user), (std::vector<ReadOut>{{"text", "About Vamo", "", ""}}));
+    const Element& text = user.Find(Role::kText, "About Vamo");
+    EXPECT_TRUE(text.HasState(ATSPI_STATE_READ_ONLY));
+    EXPECT_FALSE(text.HasState(ATSPI_STATE_EDITABLE));
+    const std::string content = text.Text();
+    EXPECT_EQ(content.rfind("Vamo simulates how the 95% confidence interval", 0), 0U);
+    EXPECT_NE(content.find("accordingly.\n\nCopyright"), std::string::npos)
+        << "an empty line between paragraphs";
+    EXPECT_NE(content.find("(p ≠ 0)"), std::string::npos);
+  });
+}
+
+}  // namespace
+}  // namespace vamo

@@ -1,0 +1,170 @@
+// The screen of an X server, as its window manager keeps it.
+#include "x_screen.h"
+
+#include <X11/XKBlib.h>
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+
+#include <array>
+#include <chrono>
+#include <stdexcept>
+
+#include "child.h"
+
+namespace vamo {
+namespace {
+
+// A window may go at any time between two questions about it.
+int IgnoreError(Display* /*display*/, XErrorEvent* /*error*/) { return 0; }
+
+}  // namespace
+
+struct XScreen::Parts {
+  Display* display = nullptr;
+  Window root = 0;
+  // A window that is never shown, for the window manager's answers.
+  Window own = 0;
+  int xkb_event = 0;
+  int bells = 0;
+  long pings = 0;
+  long pong = 0;
+  bool manager_answered = false;
+
+  Atom AtomOf(const char* name) const { return XInternAtom(display, name, False); }
+
+  std::string Property(Window window, const char* name) const {
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long rest = 0;
+    unsigned char* data = nullptr;
+    XGetWindowProperty(display, window, AtomOf(name), 0, 1024, False, AnyPropertyType, &type,
+                       &format, &count, &rest, &data);
+    // The library gives each number of 32 bits as a long.
+    const std::size_t unit = format == 32 ? sizeof(long) : 1;
+    std::string bytes;
+    if (data != nullptr) bytes.assign(reinterpret_cast<char*>(data), count * unit);
+    if (data != nullptr) XFree(data);
+    return bytes;
+  }
+  std::vector<unsigned long> Numbers(Window window, const char* name) const {
+    const std::string bytes = Property(window, name);
+    std::vector<unsigned long> numbers(bytes.size() / sizeof(long));
+    bytes.copy(reinterpret_cast<char*>(numbers.data()), numbers.size() * sizeof(long));
+    return numbers;
+  }
+
+  void Send(Window to, Window about, const char* type, std::array<long, 4> data, long mask) const {
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = about;
+    event.xclient.message_type = AtomOf(type);
+    event.xclient.format = 32;
+    for (std::size_t i = 0; i < data.size(); ++i) event.xclient.data.l[i] = data[i];
+    XSendEvent(display, to, False, mask, &event);
+  }
+
+  void ReadEvents() {
+    XSync(display, False);
+    while (XPending(display) > 0) {
+      XEvent event;
+      XNextEvent(display, &event);
+      if (event.type == xkb_event) {
+        if (reinterpret_cast<XkbEvent&>(event).any.xkb_type == XkbBellNotify) ++bells;
+      } else if (event.type == ClientMessage && event.xclient.data.l[0] == Ping()) {
+        pong = event.xclient.data.l[1];
+      } else if (event.type == PropertyNotify && event.xproperty.window == own) {
+        manager_answered = true;
+      }
+    }
+  }
+  long Ping() const { return static_cast<long>(AtomOf("_NET_WM_PING")); }
+
+  WindowOnScreen Describe(Window window) const {
+    WindowOnScreen shown;
+    shown.id = window;
+    XWindowAttributes attributes{};
+    XGetWindowAttributes(display, window, &attributes);
+    Window child = 0;
+    XTranslateCoordinates(display, window, root, 0, 0, &shown.x, &shown.y, &child);
+    shown.width = attributes.width;
+    shown.height = attributes.height;
+    const std::vector<unsigned long> frame = Numbers(window, "_NET_FRAME_EXTENTS");
+    if (frame.size() == 4) {
+      shown.frame_right = static_cast<int>(frame[1]);
+      shown.frame_top = static_cast<int>(frame[2]);
+    }
+    if (shown.frame_top > 0) shown.title = Property(window, "_NET_WM_NAME");
+    const std::vector<unsigned long> active = Numbers(root, "_NET_ACTIVE_WINDOW");
+    shown.active = !active.empty() && active[0] == window;
+    return shown;
+  }
+};
+
+XScreen::XScreen() : parts_(std::make_unique<Parts>()) {
+  XSetErrorHandler(IgnoreError);
+  parts_->display = XOpenDisplay(nullptr);
+  if (parts_->display == nullptr) throw std::runtime_error("there is no X server");
+  parts_->root = DefaultRootWindow(parts_->display);
+  // A program answers a ping to the root window.
+  XSelectInput(parts_->display, parts_->root, StructureNotifyMask | SubstructureNotifyMask);
+  parts_->own = XCreateSimpleWindow(parts_->display, parts_->root, 0, 0, 1, 1, 0, 0, 0);
+  XSelectInput(parts_->display, parts_->own, PropertyChangeMask);
+  int opcode = 0;
+  int error = 0;
+  int major = XkbMajorVersion;
+  int minor = XkbMinorVersion;
+  if (!XkbQueryExtension(parts_->display, &opcode, &parts_->xkb_event, &error, &major, &minor)) {
+    throw std::runtime_error("the X server tells of no bell");
+  }
+  XkbSelectEvents(parts_->display, XkbUseCoreKbd, XkbBellNotifyMask, XkbBellNotifyMask);
+  XSync(parts_->display, False);
+}
+
+XScreen::~XScreen() { XCloseDisplay(parts_->display); }
+
+std::vector<WindowOnScreen> XScreen::WindowsOf(pid_t process) {
+  std::vector<WindowOnScreen> windows;
+  for (const unsigned long window : parts_->Numbers(parts_->root, "_NET_CLIENT_LIST")) {
+    const std::vector<unsigned long> owner = parts_->Numbers(window, "_NET_WM_PID");
+    if (owner.empty() || static_cast<pid_t>(owner[0]) != process) continue;
+    windows.push_back(parts_->Describe(window));
+  }
+  return windows;
+}
+
+bool XScreen::RoundTrip(unsigned long window, const std::function<bool()>& runs) {
+  Parts& x = *parts_;
+  const auto answered = [&](const auto& has_come) {
+    Await([&] {
+      x.ReadEvents();
+      return has_come() || !runs();
+    });
+    return has_come();
+  };
+  const auto ping_program = [&] {
+    ++x.pings;
+    x.Send(window, window, "WM_PROTOCOLS", {x.Ping(), x.pings, static_cast<long>(window), 0},
+           NoEventMask);
+    return answered([&] { return x.pong == x.pings; });
+  };
+  const auto ask_manager = [&] {
+    x.manager_answered = false;
+    x.Send(x.root, x.own, "_NET_REQUEST_FRAME_EXTENTS", {},
+           SubstructureNotifyMask | SubstructureRedirectMask);
+    return answered([&] { return x.manager_answered; });
+  };
+  return ping_program() && ask_manager() && ping_program();
+}
+
+int XScreen::Bells() {
+  parts_->ReadEvents();
+  return parts_->bells;
+}
+
+int XScreen::Height() const {
+  return DisplayHeight(parts_->display, DefaultScreen(parts_->display));
+}
+
+}  // namespace vamo

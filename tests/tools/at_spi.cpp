@@ -1,0 +1,206 @@
+// What assistive technology sees of a program, read by way of libatspi.
+#include "at_spi.h"
+
+#include <array>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+
+namespace vamo {
+namespace {
+
+struct UnrefAny {
+  void operator()(gpointer object) const { g_object_unref(object); }
+};
+struct Free {
+  void operator()(gpointer memory) const { g_free(memory); }
+};
+struct FreeArray {
+  void operator()(GArray* array) const { g_array_free(array, TRUE); }
+};
+template <typename T>
+using Held = std::unique_ptr<T, UnrefAny>;
+template <typename T>
+using Memory = std::unique_ptr<T, Free>;
+
+// Calls an AT-SPI function that takes its error as the last argument. Throws what the error says:
+// most often that the element has gone, or that the program does not answer.
+template <typename Function, typename... Args>
+auto Call(Function function, Args... args) {
+  GError* error = nullptr;
+  auto result = function(args..., &error);
+  if (error != nullptr) {
+    const std::string message = error->message;
+    g_error_free(error);
+    throw std::runtime_error(message);
+  }
+  return result;
+}
+
+template <typename Function, typename... Args>
+std::string CallForText(Function function, Args... args) {
+  const Memory<gchar> text(Call(function, args...));
+  return text ? text.get() : "";
+}
+
+std::string NumberText(double number) {
+  std::ostringstream text;
+  text << number;
+  return text.str();
+}
+
+template <typename Function>
+double Number(AtspiAccessible* accessible, Function function) {
+  const Held<AtspiValue> value(atspi_accessible_get_value_iface(accessible));
+  if (!value) throw std::runtime_error("it has no value");
+  return Call(function, value.get());
+}
+
+bool Visit(const Element& parent, bool only_showing,
+           const std::function<bool(const Element&)>& visit) {
+  for (const Element& child : parent.Children()) {
+    if (only_showing && !child.HasState(ATSPI_STATE_SHOWING)) continue;
+    if (visit(child) || Visit(child, only_showing, visit)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string Element::RoleName() const { return CallForText(atspi_accessible_get_role_name, Get()); }
+std::string Element::Name() const { return CallForText(atspi_accessible_get_name, Get()); }
+std::string Element::Description() const {
+  return CallForText(atspi_accessible_get_description, Get());
+}
+
+std::vector<Element> Element::Children() const {
+  std::vector<Element> children;
+  const int count = Call(atspi_accessible_get_child_count, Get());
+  for (int i = 0; i < count; ++i) {
+    if (AtspiAccessible* child = Call(atspi_accessible_get_child_at_index, Get(), i)) {
+      children.emplace_back(child);
+    }
+  }
+  return children;
+}
+
+bool Element::HasState(AtspiStateType state) const {
+  const Held<AtspiStateSet> states(atspi_accessible_get_state_set(Get()));
+  return states && atspi_state_set_contains(states.get(), state);
+}
+
+std::string Element::States() const {
+  constexpr std::array<std::pair<AtspiStateType, const char*>, 7> kNames{{
+      {ATSPI_STATE_ACTIVE, "active"},
+      {ATSPI_STATE_FOCUSED, "focused"},
+      {ATSPI_STATE_FOCUSABLE, "focusable"},
+      {ATSPI_STATE_ENABLED, "enabled"},
+      {ATSPI_STATE_EDITABLE, "editable"},
+      {ATSPI_STATE_READ_ONLY, "read-only"},
+      {ATSPI_STATE_IS_DEFAULT, "default"},
+  }};
+  std::string text;
+  for (const auto& [state, name] : kNames) {
+    if (!HasState(state)) continue;
+    if (!text.empty()) text += ' ';
+    text += name;
+  }
+  return text;
+}
+
+std::string Element::Text() const {
+  if (const Held<AtspiText> text{atspi_accessible_get_text_iface(Get())}) {
+    return CallForText(atspi_text_get_text, text.get(), 0, -1);
+  }
+  return HasValue() ? NumberText(Value()) : Name();
+}
+
+std::string Element::SelectedText() const {
+  const Held<AtspiText> text{atspi_accessible_get_text_iface(Get())};
+  if (!text || Call(atspi_text_get_n_selections, text.get()) == 0) return "";
+  const Memory<AtspiRange> range(Call(atspi_text_get_selection, text.get(), 0));
+  return CallForText(atspi_text_get_text, text.get(), range->start_offset, range->end_offset);
+}
+
+std::string Element::LabelledBy() const {
+  const std::unique_ptr<GArray, FreeArray> relations(
+      Call(atspi_accessible_get_relation_set, Get()));
+  std::string name;
+  for (guint i = 0; relations && i < relations->len; ++i) {
+    const Held<AtspiRelation> relation(g_array_index(relations.get(), AtspiRelation*, i));
+    if (atspi_relation_get_relation_type(relation.get()) != ATSPI_RELATION_LABELLED_BY) continue;
+    name = Element(atspi_relation_get_target(relation.get(), 0)).Name();
+  }
+  return name;
+}
+
+double Element::Value() const { return Number(Get(), atspi_value_get_current_value); }
+double Element::LeastValue() const { return Number(Get(), atspi_value_get_minimum_value); }
+double Element::GreatestValue() const { return Number(Get(), atspi_value_get_maximum_value); }
+
+Element::Place Element::Extents() const {
+  const Held<AtspiComponent> component(atspi_accessible_get_component_iface(Get()));
+  if (!component) throw std::runtime_error("it has no place on the screen");
+  const Memory<AtspiRect> rect(
+      Call(atspi_component_get_extents, component.get(), ATSPI_COORD_TYPE_SCREEN));
+  return {rect->x, rect->y, rect->width, rect->height};
+}
+
+void Element::Do(std::string_view wanted) const {
+  const Held<AtspiAction> action(atspi_accessible_get_action_iface(Get()));
+  const int count = action ? Call(atspi_action_get_n_actions, action.get()) : 0;
+  for (int i = 0; i < count; ++i) {
+    const bool is_it =
+        wanted.empty() || CallForText(atspi_action_get_action_name, action.get(), i) == wanted;
+    if (!is_it) continue;
+    if (Call(atspi_action_do_action, action.get(), i)) return;
+    throw std::runtime_error("it refuses the action");
+  }
+  throw std::runtime_error("it has no such action");
+}
+
+void Element::Set(const std::string& content) const {
+  if (const Held<AtspiEditableText> text{atspi_accessible_get_editable_text_iface(Get())}) {
+    if (Call(atspi_editable_text_set_text_contents, text.get(), content.c_str())) return;
+  } else if (const Held<AtspiValue> value{atspi_accessible_get_value_iface(Get())}) {
+    if (Call(atspi_value_set_current_value, value.get(), std::stod(content))) return;
+  }
+  throw std::runtime_error("it takes no content");
+}
+
+bool Element::HasValue() const {
+  return Held<AtspiValue>(atspi_accessible_get_value_iface(Get())) != nullptr;
+}
+bool Element::HasText() const {
+  return Held<AtspiText>(atspi_accessible_get_text_iface(Get())) != nullptr;
+}
+unsigned Element::Process() const { return Call(atspi_accessible_get_process_id, Get()); }
+
+std::vector<Element> Applications() {
+  AtspiAccessible* desktop = atspi_get_desktop(0);
+  if (desktop == nullptr) throw std::runtime_error("there is no accessibility bus");
+  // The library keeps what it has read until its main loop brings news; no program here runs one.
+  atspi_accessible_clear_cache(desktop);
+  return Element(desktop).Children();
+}
+
+std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted) {
+  for (Element& application : Applications()) {
+    try {
+      if (wanted(application)) return std::move(application);
+    } catch (const std::runtime_error&) {
+      continue;
+    }
+  }
+  return std::nullopt;
+}
+
+bool Walk(const Element& parent, const std::function<bool(const Element&)>& visit) {
+  return Visit(parent, true, visit);
+}
+
+bool WalkAll(const Element& parent, const std::function<bool(const Element&)>& visit) {
+  return Visit(parent, false, visit);
+}
+
+}  // namespace vamo
