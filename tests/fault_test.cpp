@@ -140,12 +140,21 @@ TEST(FaultTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
   EXPECT_TRUE(program.runtime().LiveWindows().empty());
 }
 
-TEST(FaultTest, AClosedWindowCannotBeShownAgain) {
+// A window that counts its ends.
+class CountingWindow : public Window {
+ public:
+  void Event_Close() override { ++ends; }
+  int ends = 0;
+};
+
+TEST(FaultTest, AClosedWindowIsNeitherShownNorClosedAgain) {
   TestProgram program;
-  const auto window = New<Window>();
+  const auto window = New<CountingWindow>();
   window->Constructor();
   window->Close();
   window->Show();
+  window->Close();
+  EXPECT_EQ(window->ends, 1);
   EXPECT_FALSE(window->Visible());
   EXPECT_TRUE(program.display().Windows().empty());
 }
