@@ -77,24 +77,28 @@ std::optional<int> Child::ExitStatus() {
   return status_;
 }
 
-// Files, not pipes: what goes to the background, as the holder of a clipboard does, would keep the
-// end of a pipe open.
+// Files, not pipes, and none of the test's own: what goes to the background, as the holder of a
+// clipboard does, would keep the end of a pipe open, and whoever reads it waiting.
 std::string Output(const std::vector<std::string>& command, std::string_view input,
                    const Environment& settings) {
   const File in(std::tmpfile());
   const File out(std::tmpfile());
-  if (!in || !out) throw std::runtime_error("no room for temporary files");
+  const File err(std::tmpfile());
+  if (!in || !out || !err) throw std::runtime_error("no room for temporary files");
   std::fwrite(input.data(), 1, input.size(), in.get());
   std::rewind(in.get());
   posix_spawn_file_actions_t files;
   posix_spawn_file_actions_init(&files);
   posix_spawn_file_actions_adddup2(&files, fileno(in.get()), STDIN_FILENO);
   posix_spawn_file_actions_adddup2(&files, fileno(out.get()), STDOUT_FILENO);
+  posix_spawn_file_actions_adddup2(&files, fileno(err.get()), STDERR_FILENO);
   const pid_t id = Start(command, settings, &files);
   posix_spawn_file_actions_destroy(&files);
   int status = 0;
   waitpid(id, &status, 0);
-  if (Decode(status) != 0) throw std::runtime_error(command.front() + " has failed");
+  if (Decode(status) != 0) {
+    throw std::runtime_error(command.front() + " has failed: " + Contents(err.get()));
+  }
   return Contents(out.get());
 }
 

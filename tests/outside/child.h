@@ -41,7 +41,7 @@ std::string Output(const std::vector<std::string>& command, std::string_view inp
 
 // Asks again until it is so; false when `patience` is over.
 bool Await(const std::function<bool()>& so,
-           std::chrono::milliseconds patience = std::chrono::seconds(10));
+           std::chrono::milliseconds patience = std::chrono::seconds(15));
 
 }  // namespace vamo
 

@@ -1,6 +1,8 @@
 // From outside: the program on other desktops than the tests' own, and its ends there.
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include "steps.h"
 
 namespace vamo {
@@ -61,6 +63,20 @@ TEST(Desktop, OffersTheMenus) {
     EXPECT_EQ(user.Clipboard(), ".5");
     user.Choose("Edit/Undo");
     EXPECT_EQ(FieldText(user, "r"), ".5");
+  });
+}
+
+TEST(Desktop, TheSplashStaysForFourSeconds) {
+  using Clock = std::chrono::steady_clock;
+  const Clock::time_point start = Clock::now();
+  RunProgramWith({}, [&](OutsideUser& user) {
+    EXPECT_EQ(user.ActiveTitle(), "");
+    EXPECT_TRUE(Await([&] {
+      user.Wait(std::chrono::milliseconds(0));
+      return user.ActiveTitle() == "Vamo";
+    }));
+    // The program has started later than this clock.
+    EXPECT_GE(Clock::now() - start, std::chrono::seconds(4));
   });
 }
 

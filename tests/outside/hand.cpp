@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <map>
 #include <stdexcept>
+#include <vector>
 
 #include "child.h"
 

@@ -201,10 +201,13 @@ void OutsideUser::Settle() {
   const bool settled = Await([&] { return !program_.Running() || (IsSettled() && IsSettled()); });
   if (titles != frames_.titles || active != frames_.active) elements_.clear();
   if (settled) return;
-  std::string windows;
+  std::string windows = "the windows do not come to rest; read out:";
   for (const std::string& title : frames_.titles) windows += " '" + title + "'";
-  throw std::runtime_error("the windows do not come to rest; read out are" + windows +
-                           ", active is " + frames_.active);
+  windows += ", active '" + frames_.active + "'; on the screen:";
+  for (const WindowOnScreen& window : screen_.WindowsOf(program_.id())) {
+    windows += (window.active ? " active '" : " '") + window.title + "'";
+  }
+  throw std::runtime_error(windows);
 }
 
 int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey) {

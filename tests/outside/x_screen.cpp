@@ -137,10 +137,13 @@ std::vector<WindowOnScreen> XScreen::WindowsOf(pid_t process) {
 bool XScreen::RoundTrip(unsigned long window, const std::function<bool()>& runs) {
   Parts& x = *parts_;
   const auto answered = [&](const auto& has_come) {
-    Await([&] {
-      x.ReadEvents();
-      return has_come() || !runs();
-    });
+    // A window that has gone meanwhile never answers; the caller then asks another.
+    Await(
+        [&] {
+          x.ReadEvents();
+          return has_come() || !runs();
+        },
+        std::chrono::seconds(1));
     return has_come();
   };
   const auto ping_program = [&] {

@@ -35,7 +35,7 @@ class XScreen {
 
   std::vector<WindowOnScreen> WindowsOf(pid_t process);
   // Returns when the program has read, and the window manager has dealt with, all that had been
-  // sent to them. False when one of them does not answer within some seconds, or the program ends.
+  // sent to them. False when one of them does not answer within a second, or the program ends.
   bool RoundTrip(unsigned long window, const std::function<bool()>& runs);
   // How often the bell has rung since the start.
   int Bells();
