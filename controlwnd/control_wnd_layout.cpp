@@ -10,16 +10,12 @@
 namespace vamo {
 namespace {
 
-constexpr Colour kBlack{0, 0, 0};
-constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
 constexpr Colour kDarkRed{0x80, 0, 0};
 constexpr Colour kLightRed{0xFF, 0x66, 0x66};
 constexpr Colour kOrange{0xFF, 0x80, 0};
 constexpr Colour kDarkGrey{0x66, 0x66, 0x66};
 constexpr Colour kGrey{0x80, 0x80, 0x80};
 constexpr Colour kLightGrey{0xE6, 0xE6, 0xE6};
-
-constexpr std::int64_t kCentred = 2;
 
 constexpr WindowRow kWindow{.width = 500,
                             .height = 425,

@@ -11,7 +11,6 @@ namespace vamo {
 namespace {
 
 constexpr Colour kDarkRed{0x80, 0, 0};
-constexpr std::int64_t kCentred = 2;
 
 constexpr WindowRow kWindow{.width = 300,
                             .height = 200,

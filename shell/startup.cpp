@@ -26,16 +26,6 @@ void Step(std::string_view name, StepFunction&& step) {
   step();
 }
 
-// The helper through which the toolkit calls every event.
-std::exception_ptr _CallFunctionWithExceptionHandling(const std::function<void()>& function) {
-  try {
-    function();
-  } catch (const RuntimeException&) {
-    return std::current_exception();
-  }
-  return nullptr;
-}
-
 // The menu bar is there before the object is registered, and App works from the registration on.
 void _NewAppInstance() {
   const Ref<HandleAboutMenu> app = New<HandleAboutMenu>();

@@ -109,11 +109,11 @@ constexpr Property ReadOver(std::string_view name) {
   return {name, internal::TypeOf<T>(), nullptr};
 }
 
-// Two tables of properties as one.
-template <std::size_t kFirst, std::size_t kSecond>
-constexpr std::array<Property, kFirst + kSecond> Join(const std::array<Property, kFirst>& first,
-                                                      const std::array<Property, kSecond>& second) {
-  std::array<Property, kFirst + kSecond> joined;
+// Two tables as one.
+template <class Row, std::size_t kFirst, std::size_t kSecond>
+constexpr std::array<Row, kFirst + kSecond> Join(const std::array<Row, kFirst>& first,
+                                                 const std::array<Row, kSecond>& second) {
+  std::array<Row, kFirst + kSecond> joined;
   std::copy(second.begin(), second.end(), std::copy(first.begin(), first.end(), joined.begin()));
   return joined;
 }

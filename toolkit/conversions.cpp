@@ -11,6 +11,8 @@
 #include <cstdlib>
 #include <limits>
 
+#include "toolkit/utf8.h"
+
 namespace vamo {
 namespace {
 
@@ -133,30 +135,23 @@ double UnsignedVal(std::string_view text) {
   return decimal.Value();
 }
 
-// U+FFFD for what is no well-formed character: cut off, overlong, a surrogate, beyond the last one.
+// U+FFFD for what is no well-formed character.
 std::int64_t FirstCodePoint(std::string_view text) {
-  constexpr std::int64_t kBroken = 0xFFFD;
-  constexpr std::array<std::int64_t, 4> kSmallestOfLength{0, 0x80, 0x800, 0x10000};
-  const auto lead = static_cast<unsigned char>(text.front());
-  if (lead < 0x80) {
-    return lead;
+  const std::size_t length = SequenceLength(text);
+  if (length == 0) {
+    return 0xFFFD;
   }
-  if (lead < 0xC0 || lead > 0xF7) {
-    return kBroken;
+  const auto byte = [&](std::size_t i) -> std::int64_t {
+    return static_cast<unsigned char>(text[i]);
+  };
+  if (length == 1) {
+    return byte(0);
   }
-
-  const std::size_t more = lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-  std::int64_t code = lead & (0x3F >> more);
-  for (std::size_t i = 1; i <= more; ++i) {
-    const int byte = i < text.size() ? static_cast<unsigned char>(text[i]) : 0;
-    if ((byte & 0xC0) != 0x80) {
-      return kBroken;
-    }
-    code = code << 6 | (byte & 0x3F);
+  std::int64_t code = byte(0) & (0x7F >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    code = code << 6 | (byte(i) & 0x3F);
   }
-  const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-  const bool too_long = code < kSmallestOfLength[more];
-  return surrogate || too_long || code > 0x10FFFF ? kBroken : code;
+  return code;
 }
 
 }  // namespace

@@ -11,9 +11,8 @@
 #include "toolkit/window.h"
 
 namespace vamo {
-namespace {
 
-std::exception_ptr CallCatchingRuntimeExceptions(const std::function<void()>& function) {
+std::exception_ptr _CallFunctionWithExceptionHandling(const std::function<void()>& function) {
   try {
     function();
   } catch (const RuntimeException&) {
@@ -22,12 +21,10 @@ std::exception_ptr CallCatchingRuntimeExceptions(const std::function<void()>& fu
   return nullptr;
 }
 
-}  // namespace
-
 Runtime* Runtime::current_ = nullptr;
 
 Runtime::Runtime(std::unique_ptr<Display> display)
-    : display_(std::move(display)), exception_helper_(CallCatchingRuntimeExceptions) {
+    : display_(std::move(display)), exception_helper_(_CallFunctionWithExceptionHandling) {
   current_ = this;
 }
 

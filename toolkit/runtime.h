@@ -25,6 +25,9 @@ class Window;
 // it raises goes on to the caller.
 using ExceptionHelper = std::function<std::exception_ptr(const std::function<void()>&)>;
 
+// The helper that the run time has from the start, and that start-up hands to it.
+std::exception_ptr _CallFunctionWithExceptionHandling(const std::function<void()>& function);
+
 // All process-wide state: the display, the application object, the live windows, the module-level
 // fields, the exit code. One object with one owner; while it lives, `Current` finds it. It knows
 // nothing of what the program does.

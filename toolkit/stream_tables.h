@@ -11,6 +11,10 @@
 
 namespace vamo {
 
+inline constexpr Colour kBlack{0, 0, 0};
+inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
+inline constexpr std::int64_t kCentred = 2;
+
 // A window. Lengths in logical pixels.
 struct WindowRow {
   std::int64_t width, height;
@@ -103,22 +107,12 @@ namespace internal {
 
 // An index that says: not a member of a control set.
 inline constexpr std::int64_t kNoIndex = INT32_MIN;
-inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
-inline constexpr Colour kBlack{0, 0, 0};
 
 constexpr PropertyEntry Text(std::string_view name, std::string_view value = {}) {
   return {name, value};
 }
 constexpr PropertyEntry Integer(std::string_view name, std::int64_t value) { return {name, value}; }
 constexpr PropertyEntry Boolean(std::string_view name, bool value) { return {name, value}; }
-
-template <std::size_t kFirst, std::size_t kSecond>
-constexpr auto Join(const std::array<PropertyEntry, kFirst>& first,
-                    const std::array<PropertyEntry, kSecond>& second) {
-  std::array<PropertyEntry, kFirst + kSecond> joined;
-  std::copy(second.begin(), second.end(), std::copy(first.begin(), first.end(), joined.begin()));
-  return joined;
-}
 
 constexpr auto Head(const PlaceRow& row) {
   return std::array{

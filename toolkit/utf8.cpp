@@ -1,4 +1,4 @@
-// The few things that the text controls must know about UTF-8.
+// The few things that must be known about UTF-8.
 #include "toolkit/utf8.h"
 
 #include <algorithm>
@@ -12,8 +12,8 @@ unsigned char Byte(char c) { return static_cast<unsigned char>(c); }
 
 bool IsContinuation(char c) { return (Byte(c) & 0xC0) == 0x80; }
 
-// The length of the well-formed sequence at the start of `text`, or 0 where it is broken: a stray
-// or missing continuation byte, an overlong form, a surrogate, a code point above U+10FFFF.
+}  // namespace
+
 std::size_t SequenceLength(std::string_view text) {
   const unsigned char lead = Byte(text[0]);
   if (lead < 0x80) return 1;
@@ -27,8 +27,6 @@ std::size_t SequenceLength(std::string_view text) {
   const bool outside = (lead == 0xED && second >= 0xA0) || (lead == 0xF4 && second >= 0x90);
   return overlong || outside ? 0 : length;
 }
-
-}  // namespace
 
 std::string ValidUtf8(std::string_view text) {
   std::string valid;

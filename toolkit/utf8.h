@@ -1,4 +1,4 @@
-// The few things that the text controls must know about UTF-8.
+// The few things that must be known about UTF-8.
 #ifndef VAMO_TOOLKIT_UTF8_H_
 #define VAMO_TOOLKIT_UTF8_H_
 
@@ -7,6 +7,11 @@
 #include <string_view>
 
 namespace vamo {
+
+// The length in bytes of the character at the start of `text`, which is not empty; 0 where it is
+// not well-formed: a stray or missing continuation byte, an overlong form, a surrogate, a code
+// point above U+10FFFF.
+std::size_t SequenceLength(std::string_view text);
 
 // `text` with every broken sequence replaced by U+FFFD. What comes from outside, a paste say,
 // passes through here, so that all other code can count on whole characters. Linear in the length.

@@ -107,8 +107,6 @@ void Window::TakeOffDisplay() {
   view_ = nullptr;
 }
 
-void Window::_UITrapForNew() { _UITrap(); }
-
 void Window::AddChild(std::string_view name, Ref<Object> object, _PaneChild* child) {
   _UITrap();
   child->_SetWindow(Self(this));

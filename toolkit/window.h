@@ -19,6 +19,9 @@
 
 namespace vamo {
 
+// Declared in runtime.h, which needs this header.
+void _UITrap();
+
 // What assistive technology reads of one control, beside its text. Empty: nothing of the kind.
 struct AccessibleText {
   std::string_view control;
@@ -51,7 +54,7 @@ class Window : public Object {
   // Makes a control of a class for this window. Its properties and its name come later.
   template <class ControlClass>
   Ref<ControlClass> __New() {
-    _UITrapForNew();
+    _UITrap();
     Ref<ControlClass> control = New<ControlClass>();
     control->_SetWindow(Self(this));
     return control;
@@ -143,7 +146,6 @@ class Window : public Object {
   };
 
   static std::span<const Property> Properties();
-  static void _UITrapForNew();
   void AddChild(std::string_view name, Ref<Object> object, _PaneChild* child);
   void ApplyAccessibleTexts();
   void MakeView();

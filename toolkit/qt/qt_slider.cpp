@@ -40,14 +40,17 @@ void SliderWidget::Report(int position) {
   Refresh();
 }
 
+QRect SliderWidget::Part(QStyle::SubControl which) const {
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  return style()->subControlRect(QStyle::CC_Slider, &option, which, this);
+}
+
 void SliderWidget::MoveKnobTo(int x) {
   QStyleOptionSlider option;
   initStyleOption(&option);
-  const auto part = [&](QStyle::SubControl which) {
-    return style()->subControlRect(QStyle::CC_Slider, &option, which, this);
-  };
-  const QRect groove = part(QStyle::SC_SliderGroove);
-  const int knob = part(QStyle::SC_SliderHandle).width();
+  const QRect groove = Part(QStyle::SC_SliderGroove);
+  const int knob = Part(QStyle::SC_SliderHandle).width();
   Report(QStyle::sliderValueFromPosition(minimum(), maximum(), x - groove.left() - knob / 2,
                                          groove.width() - knob, option.upsideDown));
 }
@@ -57,10 +60,7 @@ void SliderWidget::mousePressEvent(QMouseEvent* event) {
     event->ignore();
     return;
   }
-  QStyleOptionSlider option;
-  initStyleOption(&option);
-  const QRect knob =
-      style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+  const QRect knob = Part(QStyle::SC_SliderHandle);
   const QPoint at = event->position().toPoint();
   setSliderDown(true);
   grip_ = knob.contains(at) ? at.x() - knob.center().x() : 0;

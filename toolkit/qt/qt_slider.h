@@ -2,7 +2,9 @@
 #ifndef VAMO_TOOLKIT_QT_QT_SLIDER_H_
 #define VAMO_TOOLKIT_QT_QT_SLIDER_H_
 
+#include <QRect>
 #include <QSlider>
+#include <QStyle>
 
 #include "qt_control.h"
 #include "toolkit/slider.h"
@@ -26,6 +28,7 @@ class SliderWidget : public WidgetFor<QSlider, Slider> {
  private:
   void Report(int position);
   // Takes the knob's middle to a place, in the widget's own coordinates.
+  QRect Part(QStyle::SubControl which) const;
   void MoveKnobTo(int x);
 
   // From the knob's middle to where the mouse holds it.
