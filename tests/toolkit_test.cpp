@@ -2,6 +2,7 @@
 // menus.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -12,6 +13,7 @@
 #include "toolkit/label.h"
 #include "toolkit/menu_service.h"
 #include "toolkit/picture.h"
+#include "toolkit/property_stream.h"
 #include "toolkit/push_button.h"
 #include "toolkit/slider.h"
 #include "toolkit/text_edit.h"
@@ -214,6 +216,36 @@ TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
   EXPECT_EQ(log->entries, (std::vector<std::string>{"3", "100", "0"}));
 }
 
+TEST(SliderTest, StepsOfAnySizeEndAtTheEnds) {
+  TestProgram program;
+  const auto slider = New<Slider>();
+  _SetProperties(*slider, EncodeStream([] {
+    return std::array{PropertyEntry{"LineStep", INT64_MIN}, PropertyEntry{"PageStep", INT64_MAX}};
+  }));
+  const auto reached = [&](KeyCode key) {
+    slider->UserMovedTo(50);
+    EXPECT_TRUE(slider->TakeKey({key, "", false, false}));
+    return slider->Value();
+  };
+  EXPECT_EQ(reached(KeyCode::kLeft), 100);
+  EXPECT_EQ(reached(KeyCode::kRight), 0);
+  EXPECT_EQ(reached(KeyCode::kPageDown), 0);
+  EXPECT_EQ(reached(KeyCode::kPageUp), 100);
+  slider->UserTurnedWheel(-3);
+  EXPECT_EQ(slider->Value(), 100);
+}
+
+TEST(PushButtonTest, OnlyAnEnabledButtonAsksItsHandler) {
+  TestProgram program;
+  const auto button = New<PushButton>();
+  EXPECT_FALSE(button->UserPressed(3, 4)) << "there is no handler";
+  button->MouseDown = Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)>(
+      +[](Ref<PushButton>, std::int64_t x, std::int64_t y) { return x == 3 && y == 4; });
+  EXPECT_TRUE(button->UserPressed(3, 4));
+  button->SetEnabled(false);
+  EXPECT_FALSE(button->UserPressed(3, 4));
+}
+
 TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   TestProgram program;
   const auto log = New<Log>();
@@ -290,6 +322,9 @@ TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
   window->slider()->SetVisible(true);
   window->UserPressedKey(tab);
   EXPECT_TRUE(window->Focus() == window->field()) << "a swallowed tab moves nothing";
+  window->slider()->SetEnabled(false);
+  window->UserFocused(window->slider());
+  EXPECT_TRUE(window->Focus() == window->field());
 }
 
 class MenuTest : public testing::Test {

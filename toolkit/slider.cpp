@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "toolkit/conversions.h"
 #include "toolkit/runtime.h"
 
 namespace vamo {
@@ -37,23 +38,23 @@ void Slider::UserMovedTo(std::int64_t position) {
   });
 }
 
-void Slider::UserTurnedWheel(std::int64_t notches) { MoveBy(notches * line_step_); }
+void Slider::UserTurnedWheel(std::int64_t notches) { MoveBy(notches, line_step_); }
 
 bool Slider::TakeKey(const Key& key) {
   switch (key.code) {
     case KeyCode::kLeft:
     case KeyCode::kDown:
-      MoveBy(-line_step_);
+      MoveBy(-1, line_step_);
       return true;
     case KeyCode::kRight:
     case KeyCode::kUp:
-      MoveBy(line_step_);
+      MoveBy(1, line_step_);
       return true;
     case KeyCode::kPageDown:
-      MoveBy(-page_step_);
+      MoveBy(-1, page_step_);
       return true;
     case KeyCode::kPageUp:
-      MoveBy(page_step_);
+      MoveBy(1, page_step_);
       return true;
     case KeyCode::kHome:
       UserMovedTo(minimum_);
@@ -66,6 +67,10 @@ bool Slider::TakeKey(const Key& key) {
   }
 }
 
-void Slider::MoveBy(std::int64_t step) { UserMovedTo(Value() + step); }
+// A stream may set any step, so this is reckoned where nothing overflows.
+void Slider::MoveBy(std::int64_t times, std::int64_t step) {
+  const double way = static_cast<double>(times) * static_cast<double>(step);
+  UserMovedTo(Truncate(static_cast<double>(Value()) + way));
+}
 
 }  // namespace vamo

@@ -37,7 +37,7 @@ class Slider : public RectControl {
 
  private:
   static std::span<const Property> Properties();
-  void MoveBy(std::int64_t step);
+  void MoveBy(std::int64_t times, std::int64_t step);
 
   std::int64_t value_ = 0;
   std::int64_t minimum_ = 0;
