@@ -65,8 +65,12 @@ TEST(Reading, TheControlWindow) {
     Retype(user, "N", "30");
     Retype(user, "r", ".5");
     EXPECT_EQ(ReadAll(user), expected);
-    EXPECT_TRUE(user.Find(Role::kText, "Fisher's z").HasState(ATSPI_STATE_READ_ONLY));
-    EXPECT_TRUE(user.Find(Role::kText, "r").HasState(ATSPI_STATE_EDITABLE));
+    const Element& z = user.Find(Role::kText, "Fisher's z");
+    EXPECT_TRUE(z.HasState(ATSPI_STATE_READ_ONLY));
+    EXPECT_FALSE(z.HasState(ATSPI_STATE_FOCUSABLE));
+    const Element& r = user.Find(Role::kText, "r");
+    EXPECT_TRUE(r.HasState(ATSPI_STATE_EDITABLE));
+    EXPECT_TRUE(r.HasState(ATSPI_STATE_FOCUSABLE));
   });
 }
 

@@ -9,7 +9,6 @@
 namespace vamo {
 
 ButtonWidget::ButtonWidget(PushButton& button, QWidget& parent) : WidgetFor(button, parent) {
-  setFocusPolicy(Qt::NoFocus);
   setAutoDefault(false);
   // Without the mouse and the keys, only assistive technology is left to press it.
   connect(this, &QPushButton::pressed, this, [this] {

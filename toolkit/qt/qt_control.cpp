@@ -39,6 +39,7 @@ void ControlWidget::ShowCommonState() {
   if (widget.accessibleDescription() != description) widget.setAccessibleDescription(description);
   widget.setToolTip(ToQString(control_->Tooltip()));
   widget.setEnabled(control_->Enabled());
+  widget.setFocusPolicy(control_->CanTakeFocus() ? Qt::StrongFocus : Qt::NoFocus);
   widget.setVisible(control_->Visible());
 }
 

@@ -20,7 +20,6 @@ constexpr int kAnglePerNotch = 120;
 
 SliderWidget::SliderWidget(Slider& slider, QWidget& parent) : WidgetFor(slider, parent) {
   setOrientation(Qt::Horizontal);
-  setFocusPolicy(Qt::StrongFocus);
   // The mouse and the wheel are taken below, so what comes this way is assistive technology.
   connect(this, &QSlider::valueChanged, this, [this](int position) {
     if (IsUsersDoing()) Report(position);

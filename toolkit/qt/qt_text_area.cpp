@@ -25,7 +25,6 @@ QString DocumentText(const std::string& utf8) {
 }  // namespace
 
 AreaWidget::AreaWidget(TextArea& area, QWidget& parent) : WidgetFor(area, parent) {
-  setFocusPolicy(Qt::StrongFocus);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -19,7 +19,6 @@ namespace vamo {
 
 FieldWidget::FieldWidget(TextField& field, QWidget& parent) : WidgetFor(field, parent) {
   setMaxLength(std::numeric_limits<int>::max());
-  setFocusPolicy(Qt::StrongFocus);
   ShowLook();
   const auto report_selection = [this] {
     if (IsUsersDoing()) ReportSelection();
