@@ -40,7 +40,7 @@ using WayToP = double (*)(double t, std::int64_t N);
 // p alone, by one of the ways to it.
 void P(benchmark::State& state, WayToP way, Sample sample) {
   double t = ComputeT(sample.r, sample.N);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(t);
     benchmark::DoNotOptimize(way(t, sample.N));
   }
@@ -52,7 +52,7 @@ void ChainAlone(benchmark::State& state) {
   double c = Cos(ATan(ComputeT(kFlat.r, kFlat.N) / Sqrt(static_cast<double>(kFlat.N - 2))));
   double denominator = 997.0 / 3.0;
   double numerator = denominator / (c * c);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(c);
     benchmark::DoNotOptimize(numerator);
     benchmark::DoNotOptimize(denominator);
@@ -62,7 +62,7 @@ void ChainAlone(benchmark::State& state) {
 
 // All results and their texts.
 void Texts(benchmark::State& state, Sample sample) {
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(sample);
     const double t = ComputeT(sample.r, sample.N);
     const Interval interval = ComputeInterval(sample.r, sample.N);
@@ -77,7 +77,7 @@ void Texts(benchmark::State& state, Sample sample) {
 void FlatEvent(benchmark::State& state, const char* n) {
   FlatWindow window(n);
   std::int64_t position = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     position = (position + 1) % kPositions;
     window.MoveR(position);
   }
@@ -98,7 +98,7 @@ void WithControlWindow(const char* n, const Function& function) {
 void SliderEvent(benchmark::State& state, const char* n) {
   WithControlWindow(n, [&](class ControlWnd& window) {
     const Ref<Slider> slider = window.rSlider();
-    for (auto _ : state) slider->UserMovedTo((slider->Value() + 1) % kPositions);
+    for ([[maybe_unused]] auto _ : state) slider->UserMovedTo((slider->Value() + 1) % kPositions);
   });
 }
 

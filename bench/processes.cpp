@@ -50,7 +50,7 @@ std::string Run(const std::string& folder, const std::string& program, const std
   }
   posix_spawn_file_actions_destroy(&actions);
   close(ends[1]);
-  const std::string text = ReadAll(ends[0]);
+  std::string text = ReadAll(ends[0]);
   close(ends[0]);
   int status = 0;
   waitpid(child, &status, 0);

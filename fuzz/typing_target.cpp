@@ -59,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace vamo;  // NOLINT(google-build-using-namespace)
   Input input(data, size);
   TypingRule rule;
-  rule.maximum_characters = static_cast<std::int8_t>(input.Byte());
+  rule.maximum_characters = (input.Byte() ^ 0x80) - 0x80;  // Below zero as well.
   rule.mask = ValidUtf8(input.ShortText());
   const std::string before = ValidUtf8(input.ShortText());
   const std::string after = ValidUtf8(input.ShortText());

@@ -107,7 +107,7 @@ TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {
   const std::string top = "Top \x07\0\0\0\0\0\0\0"s;
   const Case kCases[] = {
       {top + "Nonsense \x01"s, "\"Nonsense\"", "offset 12"},
-      {top + "Left \x01\0\0", "\"Left\"", "offset 12"},
+      {top + "Left \x01\0\0"s, "\"Left\"", "offset 12"},
       {top + "Tooltip \x05\0\0\0ab"s, "\"Tooltip\"", "offset 12"},
       {top + "Tooltip \xFF\xFF\xFF\xFF"s, "\"Tooltip\"", "offset 12"},
       {top + "Visib"s, "\"Visib\"", "offset 12"},

@@ -85,6 +85,16 @@ constexpr PropertyType TypeOf() {
   return static_cast<PropertyType>(PropertyValue(StoredAs<T>{}).index());
 }
 
+// The member of an object that a path of members leads to.
+template <class T, class Member, class... Path>
+auto& Follow(T& object, Member member, Path... path) {
+  if constexpr (sizeof...(path) == 0) {
+    return object.*member;
+  } else {
+    return Follow(object.*member, path...);
+  }
+}
+
 }  // namespace internal
 
 // A property whose type follows from its setter, or from the member that keeps it: `kMember` is the
@@ -98,7 +108,7 @@ constexpr Property Declare(std::string_view name) {
             if constexpr (std::is_member_function_pointer_v<decltype(kMember)>) {
               (target.*kMember)(std::get<Type>(value));
             } else {
-              ((target.*kMember).*....*kPath) = std::get<Type>(value);
+              internal::Follow(target, kMember, kPath...) = std::get<Type>(value);
             }
           }};
 }

@@ -101,8 +101,9 @@ void Window::Close() {
 // the display.
 void Window::TakeOffDisplay() {
   for (const Child& child : children_) {
-    if (auto* timer = dynamic_cast<Timer*>(&*child.object)) timer->Stop();
-    if (auto* control = dynamic_cast<RectControl*>(&*child.object)) control->ReleaseView();
+    Object* object = child.object.Share().get();
+    if (auto* timer = dynamic_cast<Timer*>(object)) timer->Stop();
+    if (auto* control = dynamic_cast<RectControl*>(object)) control->ReleaseView();
   }
   view_ = nullptr;
 }

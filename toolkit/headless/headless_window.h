@@ -13,7 +13,7 @@
 namespace vamo {
 
 // A control as it is shown: the copy of its state.
-class HeadlessControl : public ControlView {
+class HeadlessControl final : public ControlView {
  public:
   HeadlessControl(HeadlessWindow& window, RectControl& control);
   ~HeadlessControl() override;

@@ -40,7 +40,7 @@ void Activation::Activated(WindowWidget& window) {
   Report(window);
 }
 
-void Activation::Deactivated(WindowWidget& window) {
+void Activation::Deactivated(const WindowWidget& window) {
   if (Window* deactivated = window.GetWindow()) deactivated->UserDeactivated();
 }
 

@@ -20,7 +20,7 @@ class Activation {
   void Await(WindowWidget& window);
   // What the platform says.
   void Activated(WindowWidget& window);
-  void Deactivated(WindowWidget& window);
+  void Deactivated(const WindowWidget& window);
 
  private:
   // The platform has given the keys to no window, or has left them where they were.

@@ -34,6 +34,8 @@ class QtTimer : public RunningTimer {
     timer_->stop();
     timer_->deleteLater();
   }
+  QtTimer(const QtTimer&) = delete;
+  QtTimer& operator=(const QtTimer&) = delete;
 
  private:
   QTimer* timer_;
