@@ -21,6 +21,7 @@ using File = std::unique_ptr<std::FILE, Close>;
 
 std::vector<char*> Pointers(const std::vector<std::string>& texts) {
   std::vector<char*> pointers;
+  pointers.reserve(texts.size() + 1);
   for (const std::string& text : texts) pointers.push_back(const_cast<char*>(text.c_str()));
   pointers.push_back(nullptr);
   return pointers;
@@ -79,8 +80,8 @@ std::optional<int> Child::ExitStatus() {
 
 // Files, not pipes, and none of the test's own: what goes to the background, as the holder of a
 // clipboard does, would keep the end of a pipe open, and whoever reads it waiting.
-std::string Output(const std::vector<std::string>& command, std::string_view input,
-                   const Environment& settings) {
+Ended RunToEnd(const std::vector<std::string>& command, std::string_view input,
+               const Environment& settings) {
   const File in(std::tmpfile());
   const File out(std::tmpfile());
   const File err(std::tmpfile());
@@ -96,10 +97,14 @@ std::string Output(const std::vector<std::string>& command, std::string_view inp
   posix_spawn_file_actions_destroy(&files);
   int status = 0;
   waitpid(id, &status, 0);
-  if (Decode(status) != 0) {
-    throw std::runtime_error(command.front() + " has failed: " + Contents(err.get()));
-  }
-  return Contents(out.get());
+  return {Decode(status), Contents(out.get()), Contents(err.get())};
+}
+
+std::string Output(const std::vector<std::string>& command, std::string_view input,
+                   const Environment& settings) {
+  Ended ended = RunToEnd(command, input, settings);
+  if (ended.status == 0) return std::move(ended.out);
+  throw std::runtime_error(command.front() + " has failed: " + ended.err);
 }
 
 bool Await(const std::function<bool()>& so, std::chrono::milliseconds patience) {

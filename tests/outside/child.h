@@ -35,7 +35,17 @@ class Child {
   std::optional<int> status_;
 };
 
-// What a program says on its standard output, which gets `input`. Throws where it fails.
+// What has come of a program that has run to its end.
+struct Ended {
+  // As Child::ExitStatus gives it.
+  int status = -1;
+  std::string out;
+  std::string err;
+};
+// Runs a program whose standard input is `input`.
+Ended RunToEnd(const std::vector<std::string>& command, std::string_view input = {},
+               const Environment& settings = {});
+// What a program says on its standard output. Throws where it fails.
 std::string Output(const std::vector<std::string>& command, std::string_view input = {},
                    const Environment& settings = {});
 

@@ -82,14 +82,16 @@ void Retype(OutsideUser& user, std::string_view field, std::string_view text) {
   user.Type(text);
 }
 
-int InControlWindow(const Environment& settings, const std::function<void(OutsideUser&)>& journey) {
+int InControlWindow(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
+                    const std::vector<std::string>& command) {
   bool completed = false;
-  const int status = RunProgramWith(settings, [&](OutsideUser& user) {
+  const auto dismiss_splash_and_go_on = [&](OutsideUser& user) {
     user.PressKey(kEscapeKey);
     ASSERT_EQ(user.ActiveTitle(), "Vamo");
     journey(user);
     completed = true;
-  });
+  };
+  const int status = RunProgramWith(settings, dismiss_splash_and_go_on, command);
   EXPECT_TRUE(completed);
   return status;
 }

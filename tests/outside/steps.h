@@ -36,7 +36,8 @@ void Retype(OutsideUser& user, std::string_view field, std::string_view text);
 
 // A journey through the control window, by a user who has dismissed the splash with a key. One that
 // breaks off has failed. Gives what RunProgramWith gives.
-int InControlWindow(const Environment& settings, const std::function<void(OutsideUser&)>& journey);
+int InControlWindow(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
+                    const std::vector<std::string>& command = {ProgramPath()});
 
 }  // namespace vamo
 

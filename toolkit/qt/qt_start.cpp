@@ -7,6 +7,11 @@
 #include <cstdio>
 #include <cstdlib>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 namespace vamo {
 namespace {
 
@@ -40,9 +45,20 @@ QPalette LightColours() {
   return colours;
 }
 
+// Whoever starts the program may have closed the standard streams. The next file to be opened, such
+// as the connection to the display, would take the place of one and get what is written to it.
+void KeepStandardStreams() {
+#ifdef Q_OS_UNIX
+  int file = open("/dev/null", O_RDWR);
+  while (file >= 0 && file <= STDERR_FILENO) file = dup(file);
+  if (file >= 0) close(file);
+#endif
+}
+
 }  // namespace
 
 std::unique_ptr<QApplication> StartApplication(int& argc, char** argv) {
+  KeepStandardStreams();
   const QtMessageHandler usual = qInstallMessageHandler(SayNoDisplay);
   auto application = std::make_unique<QApplication>(argc, argv);
   qInstallMessageHandler(usual);

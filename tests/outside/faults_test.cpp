@@ -1,0 +1,149 @@
+// From outside: what is wrong around the program, and what the program then does.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "hand.h"
+#include "steps.h"
+
+namespace vamo {
+namespace {
+
+namespace fs = std::filesystem;
+
+void ExpectResultsAfterTyping(OutsideUser& user) {
+  Retype(user, "N", "30");
+  Retype(user, "r", ".5");
+  EXPECT_EQ(ShownResults(user), ExpectedResults(.5, 30));
+}
+
+void AwaitEnd(OutsideUser& user) {
+  Await([&] { return !user.Running(); });
+}
+
+// How many colours the picture's place in the control window has.
+std::string ColoursOfThePicture(OutsideUser& user) {
+  const WindowOnScreen window = user.WindowTitled("Vamo");
+  // The content is 425 high, below the menu bar; the picture is 92 by 72 at 9, 9 of it.
+  const std::string place = "92x72+9+" + std::to_string(window.height - 425 + 9);
+  return Output({"convert", "x:" + std::to_string(window.id), "-crop", place, "+repage", "-format",
+                 "%k", "info:"});
+}
+
+// The program with a picture of its own beside it, in a folder that goes with the object.
+class Copy {
+ public:
+  Copy() {
+    fs::create_directories(folder_);
+    fs::copy_file(ProgramPath(), Program());
+  }
+  ~Copy() { fs::remove_all(folder_); }
+  Copy(const Copy&) = delete;
+  Copy& operator=(const Copy&) = delete;
+
+  fs::path Program() const { return folder_ / "vamo"; }
+  fs::path Picture() const { return folder_ / "ChartSmall.jpg"; }
+
+ private:
+  const fs::path folder_ = fs::path(testing::TempDir()) / "vamo_copy" / "bin";
+};
+
+void WritePicture(const Copy& copy, std::size_t length) {
+  std::ifstream whole(VAMO_CHART, std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(whole), {}};
+  ASSERT_GT(bytes.size(), length);
+  std::ofstream(copy.Picture(), std::ios::binary) << bytes.substr(0, length);
+}
+
+TEST(Faults, APictureThatIsNotOneLeavesItsPlaceEmpty) {
+  struct Case {
+    const char* what;
+    std::function<void(const Copy&)> make;
+    bool shown;
+  };
+  const Case kCases[] = {
+      {"as it should be", [](const Copy& copy) { fs::copy_file(VAMO_CHART, copy.Picture()); },
+       true},
+      {"missing", [](const Copy&) {}, false},
+      {"empty", [](const Copy& copy) { WritePicture(copy, 0); }, false},
+      {"cut short", [](const Copy& copy) { WritePicture(copy, 6000); }, false},
+      {"a folder", [](const Copy& copy) { fs::create_directory(copy.Picture()); }, false},
+  };
+  for (const Case& test : kCases) {
+    SCOPED_TRACE(test.what);
+    const Copy copy;
+    test.make(copy);
+    const auto journey = [&](OutsideUser& user) {
+      EXPECT_EQ(ColoursOfThePicture(user) != "1", test.shown);
+      ExpectResultsAfterTyping(user);
+      user.Close("Vamo");
+    };
+    EXPECT_EQ(InControlWindow({}, journey, {copy.Program()}), 0);
+  }
+}
+
+TEST(Faults, WithoutADisplayOneLineSaysWhatToDo) {
+  const auto expect_line = [](const Environment& settings, const std::string& advice) {
+    const Ended ended = RunToEnd({ProgramPath()}, {}, settings);
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.err, "vamo: no display to connect to; " + advice + ".\n");
+  };
+  expect_line({{"DISPLAY", ""}}, "start it in a desktop session or set DISPLAY");
+  expect_line({{"DISPLAY", ":9999"}}, "start it in a desktop session or set DISPLAY");
+  expect_line({{"QT_QPA_PLATFORM", "nonsense"}}, "QT_QPA_PLATFORM may not fit this desktop");
+}
+
+TEST(Faults, ADisplayThatGoesEndsTheProgram) {
+  const auto journey = [](OutsideUser& user) {
+    hand::Disconnect(user.WindowTitled("Vamo").id);
+    AwaitEnd(user);
+  };
+  EXPECT_EQ(InControlWindow({}, journey), 1);
+}
+
+TEST(Faults, TheSystemsRequestToEndIsFollowedAtOnce) {
+  const auto journey = [](OutsideUser& user) {
+    ExpectResultsAfterTyping(user);
+    kill(user.Process(), SIGTERM);
+    AwaitEnd(user);
+  };
+  EXPECT_EQ(InControlWindow({}, journey), 256 + SIGTERM);
+}
+
+TEST(Faults, ClosedStandardStreamsAreNobodyElses) {
+  const auto journey = [](OutsideUser& user) {
+    const fs::path files = "/proc/" + std::to_string(user.Process()) + "/fd";
+    for (const char* stream : {"0", "1", "2"}) {
+      EXPECT_EQ(fs::read_symlink(files / stream), "/dev/null") << stream;
+    }
+    ExpectResultsAfterTyping(user);
+    user.Close("Vamo");
+  };
+  const std::vector<std::string> without{"sh", "-c", "exec \"$0\" <&- >&- 2>&-", ProgramPath()};
+  EXPECT_EQ(InControlWindow({}, journey, without), 0);
+}
+
+TEST(Faults, TwoProgramsBesideEachOtherKeepTheirOwnNumbers) {
+  InControlWindow({}, [](OutsideUser& first) {
+    ExpectResultsAfterTyping(first);
+    const auto journey = [](OutsideUser& second) {
+      EXPECT_EQ(FieldText(second, "r"), "");
+      Retype(second, "r", ".9");
+      second.Close("Vamo");
+    };
+    EXPECT_EQ(InControlWindow({}, journey), 0);
+    first.Wait(std::chrono::milliseconds(0));
+    first.ActivateWindow("Vamo");
+    EXPECT_EQ(FieldText(first, "r") + FieldText(first, "N"), ".530");
+    EXPECT_EQ(ShownResults(first), ExpectedResults(.5, 30));
+    ExpectResultsAfterTyping(first);
+  });
+}
+
+}  // namespace
+}  // namespace vamo
