@@ -42,6 +42,7 @@ class Probe : public QObject {
   void MeasureSlide();
   void MeasureMemory();
   void MeasureGrowth();
+  void PrintMemoryOfAThousand();
   void PrintTexts();
 
   // Takes the knob through the whole range and back, over and over, for so many moves. The window
