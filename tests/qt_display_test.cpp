@@ -1,9 +1,8 @@
-// What only the Qt display has: input methods, drops, the X selection, assistive technology, sizes.
+// What only the Qt display has: input methods, drops, assistive technology, sizes.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
 #include <QApplication>
-#include <QClipboard>
 #include <QDropEvent>
 #include <QImage>
 #include <QInputMethodEvent>
@@ -51,7 +50,7 @@ TEST(QtDisplayTest, AnInputMethodsTextGoesTheRoadOfTheKeys) {
   });
 }
 
-TEST(QtDisplayTest, ADropAndTheSelectionGoInAsAPaste) {
+TEST(QtDisplayTest, ADropGoesInAsAPaste) {
   InControlWindow([](User& user) {
     auto& field = Named<QLineEdit>("r");
     QMimeData dropped;

@@ -3,30 +3,27 @@
 #define VAMO_TESTS_QT_INPUT_H_
 
 #include <QPoint>
-#include <memory>
+#include <QTest>
 
 #include "toolkit/key.h"
 
-class QWidget;
-
 namespace vamo {
 
-// A keyboard, a mouse and a hand for the window manager. Points are on the screen, in logical
-// pixels.
+// A keyboard and a mouse at Qt's own queue of window system events. Points are on the screen, in
+// logical pixels.
 class QtInput {
  public:
-  virtual ~QtInput() = default;
-  virtual void PressKey(const Key& key) = 0;
-  virtual void MoveTo(const QPoint& point) = 0;
-  virtual void Press() = 0;
-  virtual void Release() = 0;
-  virtual void TurnWheel(int notches) = 0;
-  virtual void Activate(QWidget& window) = 0;
-  virtual void CloseActiveWindow() = 0;
-};
+  void PressKey(const Key& key);
+  void MoveTo(const QPoint& point);
+  void Press() { Mouse(QTest::MousePress, Qt::LeftButton); }
+  void Release() { Mouse(QTest::MouseRelease, Qt::LeftButton); }
+  void TurnWheel(int notches);
 
-// The one that the environment asks for: VAMO_TEST_INPUT=xdotool for events of an X server.
-std::unique_ptr<QtInput> MakeQtInput();
+ private:
+  void Mouse(QTest::MouseAction action, Qt::MouseButton button);
+
+  QPoint point_;
+};
 
 }  // namespace vamo
 

@@ -1,8 +1,5 @@
-// The user of the Qt display: sends real events and reads what a screen reader reads.
-//
-// On an X server (VAMO_TEST_INPUT=xdotool) the events come from outside, through the server and its
-// window manager; on Qt's offscreen platform they come through Qt's own queue of window system
-// events.
+// The user of the Qt display, in the program's own process: sends events through Qt's queue and
+// reads what a screen reader reads.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -11,10 +8,8 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QMenuBar>
-#include <QProcess>
 #include <QTest>
 #include <QTimer>
-#include <QWheelEvent>
 #include <QWindow>
 #include <algorithm>
 #include <cstdlib>
@@ -106,10 +101,10 @@ class CountingDisplay : public QtDisplay {
 
 class QtUser : public User {
  public:
-  explicit QtUser(CountingDisplay& display) : display_(display), input_(MakeQtInput()) { Settle(); }
+  explicit QtUser(CountingDisplay& display) : display_(display) { Settle(); }
 
   void PressKey(const Key& key) override {
-    input_->PressKey(key);
+    input_.PressKey(key);
     Settle();
   }
   void Type(std::string_view text) override {
@@ -133,8 +128,8 @@ class QtUser : public User {
     Drag(Find(Role::kSlider, name), at, {drag_to});
   }
   void TurnWheel(std::string_view slider, std::int64_t notches) override {
-    input_->MoveTo(Find(Role::kSlider, slider).rect().center());
-    input_->TurnWheel(static_cast<int>(notches));
+    input_.MoveTo(Find(Role::kSlider, slider).rect().center());
+    input_.TurnWheel(static_cast<int>(notches));
     Settle();
   }
   void PressByAssistiveTechnology(std::string_view button) override {
@@ -156,13 +151,13 @@ class QtUser : public User {
   }
   void Close(std::string_view title) override {
     ActivateWindow(title);
-    input_->CloseActiveWindow();
+    QApplication::activeWindow()->windowHandle()->close();
     Settle();
   }
   void ActivateWindow(std::string_view title) override {
     QWidget& window = Titled(title);
     if (window.isActiveWindow()) return;
-    input_->Activate(window);
+    window.windowHandle()->requestActivate();
     Settle([&] { return window.isActiveWindow() && IsSettled(); });
   }
   void Wait(std::chrono::milliseconds time) override {
@@ -252,14 +247,14 @@ class QtUser : public User {
   }
   void Drag(QAccessibleInterface& slider, std::int64_t from,
             const std::vector<std::int64_t>& positions) {
-    input_->MoveTo(KnobAt(slider, from));
-    input_->Press();
+    input_.MoveTo(KnobAt(slider, from));
+    input_.Press();
     Settle();
     for (const std::int64_t position : positions) {
-      input_->MoveTo(KnobAt(slider, position));
+      input_.MoveTo(KnobAt(slider, position));
       Settle();
     }
-    input_->Release();
+    input_.Release();
     Settle();
   }
   // Where a position is narrower than a pixel, a user ends a drag with the arrow keys.
@@ -272,11 +267,11 @@ class QtUser : public User {
   }
 
   void ClickAt(const QPoint& point) {
-    input_->MoveTo(point);
-    input_->Press();
+    input_.MoveTo(point);
+    input_.Press();
     Settle();
     if (display_.stopped()) return;
-    input_->Release();
+    input_.Release();
     Settle();
   }
 
@@ -317,7 +312,7 @@ class QtUser : public User {
   }
 
   CountingDisplay& display_;
-  std::unique_ptr<QtInput> input_;
+  QtInput input_;
 };
 
 }  // namespace

@@ -66,6 +66,17 @@ TEST(Desktop, OffersTheMenus) {
   });
 }
 
+TEST(Desktop, TheMiddleButtonPastesWhatIsSelectedElsewhere) {
+  InControlWindow({}, [](OutsideUser& user) {
+    Retype(user, "N", "30");
+    user.PasteSelection(Role::kText, "r", "1.5");
+    EXPECT_EQ(FieldText(user, "r"), ".99999");
+    user.PasteSelection(Role::kText, "Fisher's z", "7");
+    EXPECT_EQ(FieldText(user, "Fisher's z"), "6.103");
+    EXPECT_EQ(FieldText(user, "r"), ".99999");
+  });
+}
+
 TEST(Desktop, TheSplashStaysForFourSeconds) {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point start = Clock::now();

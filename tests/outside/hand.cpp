@@ -31,12 +31,16 @@ std::string NameOf(const Key& key) {
   return control == kControls.end() ? "" : control->second;
 }
 
-const std::vector<std::string> kXclip{"xclip", "-selection", "clipboard", "-t", "UTF8_STRING"};
+std::vector<std::string> Xclip(const std::string& selection, const std::string& direction) {
+  return {"xclip", "-selection", selection, "-t", "UTF8_STRING", direction};
+}
 
-std::vector<std::string> Xclip(const std::string& direction) {
-  std::vector<std::string> command = kXclip;
-  command.push_back(direction);
-  return command;
+void Offer(const std::string& selection, std::string_view text) {
+  Output(Xclip(selection, "-i"), text);
+  // It goes to the background before the server knows of it.
+  if (!Await([&] { return Output(Xclip(selection, "-o")) == text; })) {
+    throw std::runtime_error("nobody takes the text that is offered");
+  }
 }
 
 }  // namespace
@@ -64,14 +68,15 @@ void TurnWheel(int notches_up) {
 
 void Activate(unsigned long window) { Xdotool("windowactivate", std::to_string(window)); }
 
-void SetClipboard(std::string_view text) {
-  Output(Xclip("-i"), text);
-  // It goes to the background before the server knows of it.
-  if (!Await([&] { return Clipboard() == text; })) {
-    throw std::runtime_error("the clipboard does not take the text");
-  }
-}
+void Disconnect(unsigned long window) { Xdotool("windowkill", std::to_string(window)); }
 
-std::string Clipboard() { return Output(Xclip("-o")); }
+void SetClipboard(std::string_view text) { Offer("clipboard", text); }
+
+std::string Clipboard() { return Output(Xclip("clipboard", "-o")); }
+
+void PasteSelection(std::string_view text) {
+  Offer("primary", text);
+  Xdotool("click", "2");
+}
 
 }  // namespace vamo::hand

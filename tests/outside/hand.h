@@ -20,9 +20,13 @@ void Press();
 void Release();
 void TurnWheel(int notches_up);
 void Activate(unsigned long window);
+// Cuts the connection of a window's program to the X server.
+void Disconnect(unsigned long window);
 
 void SetClipboard(std::string_view text);
 std::string Clipboard();
+// Has a text selected elsewhere, and clicks the middle button.
+void PasteSelection(std::string_view text);
 
 }  // namespace vamo::hand
 

@@ -36,7 +36,8 @@ ShownControl Read(const Element& element) {
   throw std::runtime_error("not on the screen: " + std::string(what));
 }
 
-std::optional<Element> FindBelow(Element& parent, std::string_view role, std::string_view name) {
+std::optional<Element> FindBelow(const Element& parent, std::string_view role,
+                                 std::string_view name) {
   for (Element& child : parent.Children()) {
     if (!child.HasState(ATSPI_STATE_SHOWING)) continue;
     if (child.RoleName() == role && (name.empty() || child.Name() == name)) return std::move(child);

@@ -65,6 +65,11 @@ void OutsideUser::Paste(std::string_view text) {
   PressKey(Key::Command("v"));
 }
 
+void OutsideUser::PasteSelection(Role role, std::string_view name, std::string_view text) {
+  Click(role, name);
+  Act([&] { hand::PasteSelection(text); });
+}
+
 void OutsideUser::Click(Role role, std::string_view name) { ClickAt(Find(role, name)); }
 
 void OutsideUser::DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) {
@@ -210,12 +215,17 @@ void OutsideUser::Settle() {
   throw std::runtime_error(windows);
 }
 
-int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey) {
+std::string ProgramPath() {
+  const char* program = std::getenv("VAMO_PROGRAM");
+  return program != nullptr ? program : VAMO_DEFAULT_PROGRAM;
+}
+
+int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
+                   const std::vector<std::string>& command) {
   static const int initialised = atspi_init();
   if (initialised > 1) throw std::runtime_error("there is no accessibility bus");
-  const char* program = std::getenv("VAMO_PROGRAM");
   XScreen screen;
-  Child child({program != nullptr ? program : VAMO_DEFAULT_PROGRAM}, settings);
+  Child child(command, settings);
   OutsideUser user(child, screen);
   journey(user);
   return child.ExitStatus().value_or(kStillRunning);

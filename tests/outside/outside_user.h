@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "at_spi.h"
 #include "child.h"
-#include "tools/at_spi.h"
 #include "user.h"
 #include "x_screen.h"
 
@@ -51,6 +51,7 @@ class OutsideUser : public User {
   // A combination of keys by their X names.
   void PressNamed(const std::string& keys);
   void ClickCloseButton(std::string_view title);
+  void PasteSelection(Role role, std::string_view name, std::string_view text);
   void PressKnob(std::string_view slider, std::int64_t at);
   void MoveKnob(std::string_view slider, std::int64_t to);
   void ReleaseKnob();
@@ -62,6 +63,7 @@ class OutsideUser : public User {
   const std::vector<Element>& Elements();
   int ScreenHeight() const { return screen_.Height(); }
   bool Running() { return program_.Running(); }
+  pid_t Process() const { return program_.id(); }
 
  private:
   // The program's windows as assistive technology tells of them.
@@ -90,10 +92,14 @@ class OutsideUser : public User {
   std::chrono::steady_clock::time_point now_;
 };
 
+// Where the program is: VAMO_PROGRAM in the environment, or else that of this build.
+std::string ProgramPath();
+
 // Runs the program from its start to its end, with settings in its environment, and gives its exit
 // status; kStillRunning when the journey has left it running.
 inline constexpr int kStillRunning = -1;
-int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey);
+int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
+                   const std::vector<std::string>& command = {ProgramPath()});
 
 }  // namespace vamo
 

@@ -187,7 +187,7 @@ std::vector<Element> Applications() {
 std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted) {
   for (Element& application : Applications()) {
     try {
-      if (wanted(application)) return std::move(application);
+      if (wanted(application)) return {std::move(application)};
     } catch (const std::runtime_error&) {
       continue;
     }

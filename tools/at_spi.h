@@ -1,6 +1,6 @@
 // What assistive technology sees of a program, as a tree of elements.
-#ifndef VAMO_TESTS_TOOLS_AT_SPI_H_
-#define VAMO_TESTS_TOOLS_AT_SPI_H_
+#ifndef VAMO_TOOLS_AT_SPI_H_
+#define VAMO_TOOLS_AT_SPI_H_
 
 #include <atspi/atspi.h>
 
@@ -77,4 +77,4 @@ bool WalkAll(const Element& parent, const std::function<bool(const Element&)>& v
 
 }  // namespace vamo
 
-#endif  // VAMO_TESTS_TOOLS_AT_SPI_H_
+#endif  // VAMO_TOOLS_AT_SPI_H_
