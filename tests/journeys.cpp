@@ -273,6 +273,24 @@ TEST(ControlWindowJourney, TheCaretAndTheSelectionAreTheUsers) {
   });
 }
 
+TEST(ControlWindowJourney, AWordIsDeletedOrLeftAsItWas) {
+  InControlWindow([](User& user) {
+    Key word = kDeleteKey;
+    word.word = true;
+    Retype(user, "N", "500");
+    user.PressKey(Arrow(KeyCode::kHome));
+    const int beeps = user.Beeps();
+    user.PressKey(word);
+    EXPECT_EQ(user.Beeps(), beeps + 1) << "the filter of N refuses it";
+    user.Type("1");
+    EXPECT_EQ(FieldText(user, "N"), "1500");
+    user.PressKey(Arrow(KeyCode::kEnd));
+    word.text = kBackspace;
+    user.PressKey(word);
+    EXPECT_EQ(FieldText(user, "N"), "");
+  });
+}
+
 TEST(ControlWindowJourney, TabGoesAroundFieldsAndSliders) {
   InControlWindow([](User& user) {
     const std::pair<Role, const char*> kStops[] = {
@@ -352,7 +370,7 @@ TEST(WindowJourney, TheInfoTextCanBeSelectedAndCopiedButNotChanged) {
   });
 }
 
-TEST(WindowJourney, EveryKeyButABareShortcutEndsTheSplash) {
+TEST(WindowJourney, AnyKeyEndsTheSplash) {
   for (const Key& key : {Arrow(KeyCode::kLeft), Key::Command("b"), Arrow(KeyCode::kOther)}) {
     FromTheStart([&](User& user) {
       user.PressKey(key);

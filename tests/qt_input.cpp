@@ -35,7 +35,7 @@ void QtInput::PressKey(const Key& key) {
   if (code == Qt::Key_unknown && text.size() == 1) code = Qt::Key(text[0].toUpper().unicode());
   Qt::KeyboardModifiers modifiers;
   modifiers.setFlag(Qt::ShiftModifier, key.shift);
-  modifiers.setFlag(Qt::ControlModifier, key.command);
+  modifiers.setFlag(Qt::ControlModifier, key.command || key.word);
   if (key.command) text = QString(QChar(text[0].unicode() & 0x1F));
   for (const auto action : {QTest::Press, QTest::Release}) {
     // The release of a key that has closed the last window has nowhere to go.

@@ -123,6 +123,23 @@ TEST_F(TextFieldTest, DeletingTakesWholeCharactersOrTheSelection) {
   EXPECT_EQ(recorder_->changes.size(), changes);
 }
 
+TEST_F(TextFieldTest, DeletingAWordTakesTheBlanksOnTheWay) {
+  const auto after = [&](char control, std::size_t caret) {
+    field_->SetText("one  two ");
+    field_->UserSelected(caret, caret);
+    Key key = Key::Character(std::string(1, control));
+    key.word = true;
+    field_->TakeKey(key);
+    return field_->Text();
+  };
+  EXPECT_EQ(after(kBackspace, 9), "one  ");
+  EXPECT_EQ(after(kBackspace, 5), "two ");
+  EXPECT_EQ(after(kBackspace, 0), "one  two ");
+  EXPECT_EQ(after(kForwardDelete, 0), "  two ");
+  EXPECT_EQ(after(kForwardDelete, 3), "one ");
+  EXPECT_EQ(after(kForwardDelete, 8), "one  two");
+}
+
 TEST_F(TextFieldTest, AReadOnlyOrDisabledFieldKeepsItsText) {
   _SetProperties(*field_, EncodeStream([] {
     return std::array{PropertyEntry{"Value", std::string_view("fixed")},

@@ -38,6 +38,9 @@ struct Key {
   // Held with the platform's command key: Cmd on macOS, Ctrl elsewhere. `text` is then the bare
   // letter in lower case.
   bool command = false;
+  // A backspace or forward delete that takes a word, as the platform has it: with Option on macOS,
+  // with Ctrl elsewhere.
+  bool word = false;
 
   static Key Character(std::string text) { return {KeyCode::kCharacter, std::move(text)}; }
   static Key Command(std::string letter) {

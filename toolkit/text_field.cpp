@@ -1,4 +1,5 @@
 // The field that the user types into, and the area that shows text of several lines.
+#include <algorithm>
 #include <array>
 
 #include "toolkit/runtime.h"
@@ -31,16 +32,35 @@ std::span<const Property> TextArea::Properties() {
   return kProperties;
 }
 
+namespace {
+
+constexpr char kBlank = ' ';
+
+// Where the word before a place starts; the blanks between are part of it.
+std::size_t WordBefore(std::string_view text, std::size_t at) {
+  const std::string_view before = text.substr(0, at);
+  const std::size_t last = before.find_last_not_of(kBlank);
+  return last == std::string_view::npos ? 0 : before.rfind(kBlank, last) + 1;
+}
+
+// Where the word behind a place ends; the blanks between are part of it.
+std::size_t WordBehind(std::string_view text, std::size_t at) {
+  return std::min(text.find(kBlank, text.find_first_not_of(kBlank, at)), text.size());
+}
+
+}  // namespace
+
 bool TextField::TakeKey(const Key& key) {
   if (key.code != KeyCode::kCharacter || key.text.empty()) return false;
   if (KeyDown && KeyDown.Invoke(Self(this), key.text)) return true;
   const auto code = static_cast<unsigned char>(key.text[0]);
   if (code == kTab) return false;
   if (ReadOnly()) return true;
+  const std::size_t caret = GetSelection().caret;
   if (code == kBackspace) {
-    DeleteTo(PreviousCharacter(Text(), GetSelection().caret));
+    DeleteTo(key.word ? WordBefore(Text(), caret) : PreviousCharacter(Text(), caret));
   } else if (code == kForwardDelete) {
-    DeleteTo(NextCharacter(Text(), GetSelection().caret));
+    DeleteTo(key.word ? WordBehind(Text(), caret) : NextCharacter(Text(), caret));
   } else if (code >= ' ') {
     Type(key.text);
   }

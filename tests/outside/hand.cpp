@@ -49,7 +49,8 @@ void PressKey(const Key& key) {
   std::string name = NameOf(key);
   if (name.empty() && !key.command) return Type(key.text);
   if (name.empty()) name = key.text;
-  PressNamed((key.command ? "ctrl+" : "") + std::string(key.shift ? "shift+" : "") + name);
+  PressNamed((key.command || key.word ? "ctrl+" : "") + std::string(key.shift ? "shift+" : "") +
+             name);
 }
 
 void PressNamed(const std::string& keys) { Xdotool("key", keys); }

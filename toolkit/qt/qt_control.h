@@ -8,8 +8,6 @@
 #include "toolkit/control.h"
 #include "toolkit/display.h"
 
-class QKeyEvent;
-
 namespace vamo {
 
 // The widget of a control: shows the control's state, and reports what the user does to it. It
@@ -28,8 +26,6 @@ class ControlWidget {
 
   // Shows the control's present state.
   void Refresh();
-  // Called before a key goes to the toolkit.
-  virtual void PrepareKey(const QKeyEvent& /*event*/) {}
 
  protected:
   virtual void ShowState() = 0;

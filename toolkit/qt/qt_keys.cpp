@@ -6,7 +6,6 @@
 #include <cctype>
 #include <string>
 
-#include "qt_control.h"
 #include "qt_convert.h"
 #include "qt_window.h"
 #include "toolkit/utf8.h"
@@ -74,9 +73,10 @@ bool IsMnemonic(const QKeyEvent& event) {
 Key ControlCharacter(const ControlCode& found, const QKeyEvent& event) {
   Key key = Key::Character(std::string(1, found.code));
   key.shift = event.modifiers().testFlag(Qt::ShiftModifier) || found.key == Qt::Key_Backtab;
-  // Ctrl makes these two delete more; they delete all the same.
   const bool deletes = found.code == kBackspace || found.code == kForwardDelete;
   key.command = !deletes && IsCommand(event);
+  key.word = event.matches(QKeySequence::DeleteStartOfWord) ||
+             event.matches(QKeySequence::DeleteEndOfWord);
   return key;
 }
 
@@ -105,7 +105,7 @@ std::optional<Key> ToKey(const QKeyEvent& event) {
 
 KeyRoad::KeyRoad(WindowWidget& window) : QObject(&window), window_(window) { Watch(window); }
 
-bool KeyRoad::eventFilter(QObject* watched, QEvent* event) {
+bool KeyRoad::eventFilter(QObject* /*watched*/, QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     // The toolkit knows the shortcuts, so Qt must not look for any, but for the menus' mnemonics.
     if (IsMnemonic(static_cast<QKeyEvent&>(*event))) return false;
@@ -113,13 +113,12 @@ bool KeyRoad::eventFilter(QObject* watched, QEvent* event) {
     return true;
   }
   if (event->type() != QEvent::KeyPress) return false;
-  return TakeKey(*watched, static_cast<QKeyEvent&>(*event));
+  return TakeKey(static_cast<QKeyEvent&>(*event));
 }
 
-bool KeyRoad::TakeKey(QObject& watched, const QKeyEvent& event) {
+bool KeyRoad::TakeKey(const QKeyEvent& event) {
   Window* window = window_.GetWindow();
   if (window == nullptr) return true;
-  if (auto* control = dynamic_cast<ControlWidget*>(&watched)) control->PrepareKey(event);
   const std::optional<Key> key = ToKey(event);
   if (!key.has_value()) return false;
   if (CharacterCount(key->text) > 1) {

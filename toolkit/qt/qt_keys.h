@@ -28,7 +28,7 @@ class KeyRoad : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool TakeKey(QObject& watched, const QKeyEvent& event);
+  bool TakeKey(const QKeyEvent& event);
 
   WindowWidget& window_;
 };

@@ -68,9 +68,7 @@ bool IsPasteToo(const QKeyEvent& event) {
 }  // namespace
 
 bool IsCaretKey(const QKeyEvent& event) {
-  const auto matches = [&](QKeySequence::StandardKey key) {
-    return const_cast<QKeyEvent&>(event).matches(key);
-  };
+  const auto matches = [&](QKeySequence::StandardKey key) { return event.matches(key); };
   return std::any_of(kCaretKeys.begin(), kCaretKeys.end(), matches);
 }
 

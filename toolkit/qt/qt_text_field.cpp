@@ -93,12 +93,6 @@ void FieldWidget::ReportForeignText(const QString& foreign) {
   ReportPaste(foreign);
 }
 
-void FieldWidget::PrepareKey(const QKeyEvent& event) {
-  if (!IsUsersDoing() || hasSelectedText() || isReadOnly()) return;
-  if (event.matches(QKeySequence::DeleteStartOfWord)) cursorWordBackward(true);
-  if (event.matches(QKeySequence::DeleteEndOfWord)) cursorWordForward(true);
-}
-
 void FieldWidget::keyPressEvent(QKeyEvent* event) {
   if (GetControl() != nullptr && !DoEditKey(TheControl(), *event) && IsCaretKey(*event)) {
     QLineEdit::keyPressEvent(event);
@@ -118,6 +112,8 @@ void FieldWidget::inputMethodEvent(QInputMethodEvent* event) {
       if (committed.isEmpty()) window->UserPressedKey(Key::Character(std::string(1, kBackspace)));
     }
     window->UserTyped(ToUtf8(committed));
+    // Where the first of it has been refused, what it was to replace is still selected.
+    deselect();
   }
   QInputMethodEvent composed(event->preeditString(), event->attributes());
   QLineEdit::inputMethodEvent(&composed);

@@ -17,7 +17,6 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
   FieldWidget(TextField& field, QWidget& parent);
 
   // Selects the word that the key deletes.
-  void PrepareKey(const QKeyEvent& event) override;
 
  protected:
   void ShowState() override;
