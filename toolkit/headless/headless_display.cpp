@@ -180,13 +180,13 @@ void HeadlessDisplay::Activate(HeadlessWindow& window) {
 
 void HeadlessDisplay::LetTimePass(std::chrono::milliseconds time) {
   const std::chrono::milliseconds end = now_ + time;
-  while (!stopped_) {
+  for (RunEvents(); !stopped_; RunEvents()) {
     const auto next =
         std::min_element(timers_.begin(), timers_.end(),
                          [](const auto* a, const auto* b) { return a->Due() < b->Due(); });
     if (next == timers_.end() || (*next)->Due() > end) break;
     now_ = (*next)->Due();
-    Act([&] { (*next)->Fire(); });
+    (*next)->Fire();
   }
   now_ = end;
 }
