@@ -26,7 +26,7 @@ constexpr LabelRow kStaticText5{.place = {"StaticText5", 0, 181, 298, 15, 0},
                                 .tab_stop = true,
                                 .value = kRightsNotice,
                                 .font_size = 9,
-                                .alignment = kCentred,
+                                .alignment = TextAlignment::kCentre,
                                 .colour = kDarkRed};
 constexpr CanvasRow kCanvas1{
     .place = {"Canvas1", 104, 60, 92, 72, 1}, .tab_stop = false, .enabled = false};
@@ -34,7 +34,7 @@ constexpr LabelRow kStaticText1{.place = {"StaticText1", 0, 0, 298, 55, 3},
                                 .value = "Vamo",
                                 .font_size = 42,
                                 .bold = true,
-                                .alignment = kCentred,
+                                .alignment = TextAlignment::kCentre,
                                 .colour = kDarkRed};
 // Mode 1: once. The period is in milliseconds.
 constexpr TimerRow kTimer1{.run_mode = 1, .period = 4000};

@@ -7,13 +7,13 @@
 #include <cstdint>
 #include <string_view>
 
+#include "toolkit/label.h"
 #include "toolkit/property_stream.h"
 
 namespace vamo {
 
 inline constexpr Colour kBlack{0, 0, 0};
 inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
-inline constexpr std::int64_t kCentred = 2;
 
 // A window. Lengths in logical pixels.
 struct WindowRow {
@@ -49,14 +49,14 @@ struct LabelRow {
   std::string_view value = {};
   float font_size = 12;
   bool bold = false;
-  std::int64_t alignment = 0;
+  TextAlignment alignment = TextAlignment::kDefault;
   Colour colour = {};
   bool visible = true;
 };
 
 struct TextFieldRow {
   PlaceRow place;
-  std::int64_t alignment;
+  TextAlignment alignment;
   std::string_view validation_mask;
   std::int64_t maximum_characters;
   bool spell_checking;
@@ -112,6 +112,9 @@ constexpr PropertyEntry Text(std::string_view name, std::string_view value = {})
   return {name, value};
 }
 constexpr PropertyEntry Integer(std::string_view name, std::int64_t value) { return {name, value}; }
+constexpr PropertyEntry Alignment(TextAlignment value) {
+  return Integer("TextAlignment", static_cast<std::int64_t>(value));
+}
 constexpr PropertyEntry Boolean(std::string_view name, bool value) { return {name, value}; }
 
 constexpr auto Head(const PlaceRow& row) {
@@ -166,7 +169,7 @@ constexpr auto Entries(const LabelRow& row) {
                                    Text("Tooltip"),
                                    Boolean("Multiline", false),
                                    Boolean("Selectable", false),
-                                   Integer("TextAlignment", row.alignment),
+                                   Alignment(row.alignment),
                                    PropertyEntry{"TextColor", row.colour},
                                    Boolean("Transparent", true),
                                    Text("Value", row.value),
@@ -206,7 +209,7 @@ constexpr auto Entries(const TextFieldRow& row) {
                                    Text("Hint"),
                                    Text("Value"),
                                    Boolean("AllowTabs", false),
-                                   Integer("TextAlignment", row.alignment),
+                                   Alignment(row.alignment),
                                    Boolean("AllowSpellChecking", row.spell_checking),
                                    Integer("MaximumCharactersAllowed", row.maximum_characters),
                                    Text("ValidationMask", row.validation_mask),
@@ -245,7 +248,7 @@ constexpr auto Entries(const TextAreaRow& row) {
                                    Boolean("Underline", false),
                                    Text("Value", row.value),
                                    Boolean("AllowTabs", false),
-                                   Integer("TextAlignment", 0),
+                                   Alignment(TextAlignment::kDefault),
                                    Boolean("AllowSpellChecking", false),
                                    Integer("MaximumCharactersAllowed", 0),
                                    Text("ValidationMask"),
