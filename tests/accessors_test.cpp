@@ -36,14 +36,6 @@ TEST_F(AccessorsTest, EachControlIsFoundUnderItsOwnName) {
   EXPECT_EQ(NamesOf(&W::tText, &W::pText, &W::ciText, &W::nText), "tText,pText,ciText,nText,");
 }
 
-TEST_F(AccessorsTest, EachMenuItemIsFoundUnderItsOwnName) {
-  using W = class ControlWnd;
-  EXPECT_EQ(NamesOf(&W::FileQuit, &W::EditUndo, &W::EditCut, &W::EditCopy, &W::EditPaste,
-                    &W::EditClear, &W::ControlMenuItem, &W::AboutMenuItem, &W::AboutKEL),
-            "FileQuit,EditUndo,EditCut,EditCopy,EditPaste,EditClear,ControlMenuItem,AboutMenuItem,"
-            "AboutKEL,");
-}
-
 TEST_F(AccessorsTest, TheDescriptionItemIsPassedOn) {
   EXPECT_FALSE(window_->GetMenuHandlers().at("DescriptionMenuItem").Invoke());
 }

@@ -271,39 +271,5 @@ TEST(IntervalTest, FewPairs) {
   EXPECT_NEAR(ComputeInterval(0.5, kMax).hi, 0.5, 1e-8);
 }
 
-TEST(LabelTest, TextsOfTheResultLabels) {
-  const struct {
-    double r;
-    std::int64_t N;
-    std::string t, p, interval;
-  } rows[] = {
-      {0.5, 30, "3.06", ".00490", "+.170 to +.729"},
-      {0.5, 31, "3.11", ".00418", "+.177 to +.726"},
-      {0.3, 10, ".89", ".39969", "-.406 to +.782"},
-      {0.7, 4, "1.39", ".30000", "-.798 to +.993"},
-      {0.7, 5, "1.70", ".18812", "-.477 to +.978"},
-      {0.5, 4, ".82", ".50000", "-.888 to +.987"},
-      {0.06, 1000, "1.90", ".05787", "-.002 to +.122"},
-      {0.1, 1000, "3.18", ".00154", "+.038 to +.161"},
-      {0.5, 1000, "18.24", ".00001", "+.452 to +.545"},
-      {0.99, 1000, "221.70", ".00001", "+.989 to +.991"},
-      {0.001, 4, ".00", ".99900", "-.961 to +.961"},
-      {0, 4, ".00", ".99999", "-.961 to +.961"},
-      {0, 30, ".00", ".99999", "-.360 to +.360"},
-      {0, 1000, ".00", ".99999", "-.062 to +.062"},
-      {0.99999, 1000, "7063.94", ".00001", "+1.000 to +1.000"},
-      {0.5, 3, ".00", ".99999", "-1.000 to n/a"},
-      {0.5, 2, ".00", ".99999", "n/a to n/a"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(Row(row.r, row.N));
-    const double t = ComputeT(row.r, row.N);
-    const Interval limits = ComputeInterval(row.r, row.N);
-    EXPECT_EQ(Format(t, "#####.00"), row.t);
-    EXPECT_EQ(Format(ComputeP(t, row.N), ".00000"), row.p);
-    EXPECT_EQ(Format(limits.lo, "+.000") + " to " + Format(limits.hi, "+.000"), row.interval);
-  }
-}
-
 }  // namespace
 }  // namespace vamo

@@ -1,4 +1,4 @@
-// The toolkit's objects: references, delegates, events and their exceptions, timers, windows,
+// The toolkit's rules: events and their exceptions, threads, sliders, buttons, timers, windows,
 // menus.
 #include <gtest/gtest.h>
 
@@ -93,44 +93,6 @@ class TestApplication : public Application {
   bool takes = false;
   std::string taken;
 };
-
-TEST(RefTest, NilAndWrongCastsRaiseBeforeAnythingIsTouched) {
-  Ref<Label> nil;
-  EXPECT_THROW(nil->SetText("x"), NilObjectException);
-  EXPECT_FALSE(Cast<Slider>(Ref<Object>(nil)));
-  const Ref<Object> label = New<Label>();
-  EXPECT_TRUE(Cast<RectControl>(label) == label);
-  EXPECT_THROW(Cast<Slider>(label), IllegalCastException);
-  WeakRef weak{label};
-  EXPECT_TRUE(weak.Value() == label);
-  weak = WeakRef(New<Label>());
-  EXPECT_FALSE(weak.Value());
-}
-
-TEST(DelegateTest, TheSignatureIsSpelledOut) {
-  EXPECT_EQ((Delegate<void(Ref<TextField>)>::Signature()), "( TextField )");
-  EXPECT_EQ((Delegate<bool(Ref<TextField>, std::string)>::Signature()),
-            "( TextField, String ) as Boolean");
-  EXPECT_EQ((Delegate<void(Ref<Slider>)>::Signature()), "( Slider )");
-  EXPECT_EQ((Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)>::Signature()),
-            "( PushButton, Integer, Integer ) as Boolean");
-  EXPECT_EQ((Delegate<void(Ref<Timer>)>::Signature()), "( Timer )");
-  EXPECT_EQ(MenuHandler::Signature(), "(  ) as Boolean");
-  EXPECT_EQ(Delegate<void()>::Signature(), "(  )");
-}
-
-TEST(DelegateTest, OnlyAStrongReceiverIsKeptAlive) {
-  auto log = New<Log>();
-  const MenuHandler strong(log, &Log::Take, ReceiverFlag::kStrong);
-  const MenuHandler weak(log, &Log::Take, ReceiverFlag::kWeak);
-  EXPECT_TRUE(weak.Invoke());
-  log = New<Log>();
-  EXPECT_TRUE(strong.Invoke());
-  EXPECT_TRUE(weak.Invoke()) << "the strong delegate keeps the receiver";
-  const MenuHandler dangling(New<Log>(), &Log::Take, ReceiverFlag::kWeak);
-  EXPECT_THROW(dangling.Invoke(), NilObjectException);
-  EXPECT_THROW(MenuHandler().Invoke(), NilObjectException);
-}
 
 TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   TestProgram program;

@@ -23,12 +23,10 @@ class Timer : public Object {
   // The numbers of the property RunMode.
   enum class RunMode { kOff = 0, kSingle = 1, kMultiple = 2 };
 
-  RunMode GetRunMode() const { return run_mode_; }
   // A timer runs from the moment that it has both a mode other than off and a period above 0. Each
   // write starts the period anew.
   void SetRunMode(std::int64_t run_mode);
   // In milliseconds.
-  std::int64_t Period() const { return period_; }
   void SetPeriod(std::int64_t period);
 
   // Raised when the period has passed; in single mode the timer is off by then.

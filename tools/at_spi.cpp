@@ -56,15 +56,6 @@ double Number(AtspiAccessible* accessible, Function function) {
   return Call(function, value.get());
 }
 
-bool Visit(const Element& parent, bool only_showing,
-           const std::function<bool(const Element&)>& visit) {
-  for (const Element& child : parent.Children()) {
-    if (only_showing && !child.HasState(ATSPI_STATE_SHOWING)) continue;
-    if (visit(child) || Visit(child, only_showing, visit)) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 std::string Element::RoleName() const { return CallForText(atspi_accessible_get_role_name, Get()); }
@@ -112,7 +103,8 @@ std::string Element::Text() const {
   if (const Held<AtspiText> text{atspi_accessible_get_text_iface(Get())}) {
     return CallForText(atspi_text_get_text, text.get(), 0, -1);
   }
-  return HasValue() ? NumberText(Value()) : Name();
+  const bool has_value = Held<AtspiValue>(atspi_accessible_get_value_iface(Get())) != nullptr;
+  return has_value ? NumberText(Value()) : Name();
 }
 
 std::string Element::SelectedText() const {
@@ -168,12 +160,6 @@ void Element::Set(const std::string& content) const {
   throw std::runtime_error("it takes no content");
 }
 
-bool Element::HasValue() const {
-  return Held<AtspiValue>(atspi_accessible_get_value_iface(Get())) != nullptr;
-}
-bool Element::HasText() const {
-  return Held<AtspiText>(atspi_accessible_get_text_iface(Get())) != nullptr;
-}
 unsigned Element::Process() const { return Call(atspi_accessible_get_process_id, Get()); }
 
 std::vector<Element> Applications() {
@@ -196,11 +182,11 @@ std::optional<Element> FindApplication(const std::function<bool(const Element&)>
 }
 
 bool Walk(const Element& parent, const std::function<bool(const Element&)>& visit) {
-  return Visit(parent, true, visit);
-}
-
-bool WalkAll(const Element& parent, const std::function<bool(const Element&)>& visit) {
-  return Visit(parent, false, visit);
+  for (const Element& child : parent.Children()) {
+    if (!child.HasState(ATSPI_STATE_SHOWING)) continue;
+    if (visit(child) || Walk(child, visit)) return true;
+  }
+  return false;
 }
 
 }  // namespace vamo

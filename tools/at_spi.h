@@ -50,8 +50,6 @@ class Element {
   // Sets a field's text or a slider's value.
   void Set(const std::string& content) const;
 
-  bool HasValue() const;
-  bool HasText() const;
   // The process of the program that it belongs to.
   unsigned Process() const;
 
@@ -72,8 +70,6 @@ std::optional<Element> FindApplication(const std::function<bool(const Element&)>
 
 // Goes through what is showing below `parent`, depth first, until `visit` returns true.
 bool Walk(const Element& parent, const std::function<bool(const Element&)>& visit);
-// The same with what is hidden.
-bool WalkAll(const Element& parent, const std::function<bool(const Element&)>& visit);
 
 }  // namespace vamo
 

@@ -1,5 +1,4 @@
-// A screen reader for the command line: prints and works what assistive technology sees of a
-// program.
+// A screen reader for the command line: prints what assistive technology sees of a program.
 #include <chrono>
 #include <cstdlib>
 #include <functional>
@@ -20,11 +19,8 @@ constexpr char kUsage[] =
     "screen_reader APP list                       all that is showing, a line each: role, name,\n"
     "                                             description, text, x y width height, states\n"
     "screen_reader APP wait SECONDS               until APP shows a window\n"
-    "screen_reader APP get ROLE NAME WHAT         WHAT: text, extents, states or, of a slider, "
-    "range\n"
-    "screen_reader APP described DESCRIPTION WHAT the same, found by its description\n"
-    "screen_reader APP press NAME                 the first action of a button or menu item\n"
-    "screen_reader APP set ROLE NAME VALUE        the text of a field, the value of a slider\n";
+    "screen_reader APP get ROLE NAME WHAT         WHAT: text, extents or, of a slider, range\n"
+    "screen_reader APP described DESCRIPTION WHAT the same, found by its description\n";
 
 // Left, top, width and height.
 std::string Extents(const Element& element) {
@@ -44,7 +40,6 @@ std::string Range(const Element& element) {
 std::string Content(const Element& element, const std::string& what) {
   if (what == "text") return element.Text();
   if (what == "extents") return Extents(element);
-  if (what == "states") return element.States();
   if (what == "range") return Range(element);
   throw std::invalid_argument("no such content: " + what);
 }
@@ -55,13 +50,12 @@ std::optional<Element> FindNamed(const std::string& name) {
   });
 }
 
-// Does `work` with the first showing element for which `wanted` is true; throws if there is none.
-void WithElement(const Element& application, const std::string& what_it_is,
-                 const std::function<bool(const Element&)>& wanted,
-                 const std::function<void(const Element&)>& work) {
+// Prints what the first showing element holds for which `wanted` is true; throws if there is none.
+void Print(const Element& application, const std::string& what_it_is, const std::string& what,
+           const std::function<bool(const Element&)>& wanted) {
   const bool found = Walk(application, [&](const Element& element) {
     if (!wanted(element)) return false;
-    work(element);
+    std::cout << Content(element, what) << '\n';
     return true;
   });
   if (!found) throw std::runtime_error("nothing showing is " + what_it_is);
@@ -106,27 +100,15 @@ bool Run(const std::string& name, const std::vector<std::string>& command) {
   }
   const std::optional<Element> application = FindNamed(name);
   if (!application) throw std::runtime_error(name + " is not running");
-  const auto print = [&](const Element& element) {
-    std::cout << Content(element, command.back()) << '\n';
-  };
-  const auto has_role_and_name = [&](const Element& element) {
-    return element.Name() == command[2] && element.RoleName() == command[1];
-  };
   if (verb == "list" && size == 1) {
     List(*application);
   } else if (verb == "get" && size == 4) {
-    WithElement(*application, command[1] + ' ' + command[2], has_role_and_name, print);
-  } else if (verb == "set" && size == 4) {
-    WithElement(*application, command[1] + ' ' + command[2], has_role_and_name,
-                [&](const Element& element) { element.Set(command[3]); });
+    Print(*application, command[1] + ' ' + command[2], command[3], [&](const Element& element) {
+      return element.Name() == command[2] && element.RoleName() == command[1];
+    });
   } else if (verb == "described" && size == 3) {
-    const auto described = [&](const Element& element) {
-      return element.Description() == command[1];
-    };
-    WithElement(*application, "described " + command[1], described, print);
-  } else if (verb == "press" && size == 2) {
-    const auto named = [&](const Element& element) { return element.Name() == command[1]; };
-    WithElement(*application, command[1], named, [](const Element& element) { element.Do(); });
+    Print(*application, "described " + command[1], command[2],
+          [&](const Element& element) { return element.Description() == command[1]; });
   } else {
     return false;
   }
