@@ -1,8 +1,7 @@
 // Gives the results to a program that checks them.
 //
-// Usage: accuracy values        for N = 4 to 1000 and within it r = 0 to .999 by .001: t, p,
-// Fisher's
-//                               z and the limits of the interval, as doubles in the machine's form
+// Usage: accuracy values        for N = 4 to 1000 and within it r = 0 to .999 by .001: t, p, z and
+//                               the limits of the interval, as doubles in the machine's form
 //        accuracy texts MASK    for each double on standard input: its text, a line each
 #include <array>
 #include <cstdio>

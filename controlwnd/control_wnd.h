@@ -64,10 +64,9 @@ class ControlWnd : public Window {
   virtual Ref<Label> ciText();
   virtual Ref<Label> tText();
 
-  // The way of r into the model.
+  // What the fields, the sliders and the button do.
   virtual void rEdit_TextChange(Ref<TextField> sender);
   virtual bool rEdit_KeyDown(Ref<TextField> sender, std::string key);
-  // The way of N into the model.
   virtual void nEdit_TextChange(Ref<TextField> sender);
   virtual bool nEdit_KeyDown(Ref<TextField> sender, std::string key);
   virtual void rSlider_ValueChanged(Ref<Slider> sender);

@@ -15,12 +15,11 @@ namespace {
 constexpr std::string_view kPurpose =
     "Vamo simulates how the 95% confidence interval of the correlation coefficient and the "
     "statistical significance (p ≠ 0) vary as a function of sample size. Change r and N to watch "
-    "t, "
-    "p, and the confidence interval change accordingly.";
+    "t, p, and the confidence interval change accordingly.";
 constexpr std::string_view kDisclaimer =
     "Author makes no warranty, expressed or implied, respecting Vamo including, but not limited "
-    "to, "
-    "warranties of merchantability or fitness for any particular purpose. Vamo must be used with "
+    "to, warranties of merchantability or fitness for any particular purpose. Vamo must be used "
+    "with "
     "professional care and judgment to determine the appropriateness of its outcome. The author "
     "assumes no liability to the user or any third party with respect to this software.";
 constexpr std::string_view kParagraphEnd = "\r\r";

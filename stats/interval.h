@@ -6,9 +6,9 @@
 
 namespace vamo {
 
-// Fisher's z transformation of the correlation `r`: half the natural logarithm of (1 + r) / (1 -
-// r), which is artanh r. Domain: r from 0 up to .99999; every r between -1 and 1 works. 1 and -1
-// give the infinities, an r beyond them gives not-a-number.
+// Fisher's z transformation of the correlation `r`, artanh r: half the natural logarithm of
+// (1 + r) / (1 - r). Domain: r from 0 up to .99999; every r between -1 and 1 works. 1 and -1 give
+// the infinities, an r beyond them gives not-a-number.
 double FisherZ(double r);
 
 // The limits of a confidence interval, both correlations between -1 and 1.

@@ -19,8 +19,7 @@ namespace vamo {
 //   +  a sign in front, "+" as well as "-".
 // Other characters are skipped. A negative value has its "-" under every mask, what rounds to zero
 // has no sign, and whole digits for which the mask has no position are written all the same: 1
-// under
-// "+.000" is "+1.000". Not-a-number is "n/a"; the infinities are "inf" ("+inf" with a +) and
+// under "+.000" is "+1.000". Not-a-number is "n/a"; the infinities are "inf" ("+inf" with a +) and
 // "-inf".
 std::string Format(double value, std::string_view mask);
 

@@ -108,7 +108,7 @@ class Window : public Object {
   const Ref<RectControl>& Focus() const { return focus_; }
   void SetFocus(const Ref<RectControl>& control);
 
-  // What a display reports. Each is one event.
+  // What a display reports.
   //
   // The window has become the one that the user's keys go to, or has ceased to be.
   void UserActivated();
