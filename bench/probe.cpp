@@ -160,17 +160,23 @@ void Probe::MeasureMemory() {
 }
 
 void Probe::MeasureGrowth() {
-  constexpr int kMovesAPaint = 100;
-  PrintMemoryOfAThousand();
-  Slide(998'000, kMovesAPaint);
-  PrintMemoryOfAThousand();
+  int moves = 0;
+  for (const int until : {1000, 100'000, 1'000'000}) {
+    SlideAndPaintSeldom(until - moves);
+    PrintMemoryOfAThousand();
+    moves = until + 1000;
+  }
 }
 
-// Of the heap the least of ten readings: what just waits for its turn in a queue does not count.
+// A million moves would take long with a painting each. The rhythm is the same all through, since
+// Qt keeps the room for the longest queue that it has had.
+void Probe::SlideAndPaintSeldom(int moves) { Slide(moves, 100); }
+
+// Of the heap the least of ten readings: what just waits for its turn does not count.
 void Probe::PrintMemoryOfAThousand() {
   std::size_t heap = std::numeric_limits<std::size_t>::max();
   for (int i = 0; i < 10; ++i) {
-    Slide(100, 1);
+    SlideAndPaintSeldom(100);
     heap = std::min(heap, mallinfo2().uordblks);
   }
   std::printf("%zu %ld\n", heap, Kibibytes("VmRSS"));

@@ -22,7 +22,7 @@ namespace vamo {
 //   window   milliseconds from a key on the splash to the next window on the screen
 //   slide    milliseconds of processor time of a thousand moves of the first slider, each repainted
 //   memory   the peak of the resident memory after such a session, in KiB
-//   growth   after a thousand moves: bytes of the heap in use, KiB resident; after a million: again
+//   growth   bytes of the heap in use, KiB resident: after a thousand, 100,000 and a million moves
 //   texts    what the fields and labels read at each position of the slider
 class Probe : public QObject {
  public:
@@ -42,6 +42,7 @@ class Probe : public QObject {
   void MeasureSlide();
   void MeasureMemory();
   void MeasureGrowth();
+  void SlideAndPaintSeldom(int moves);
   void PrintMemoryOfAThousand();
   void PrintTexts();
 

@@ -92,10 +92,10 @@ void Compare(const std::string& folder, const Comparison& comparison) {
   }
 }
 
-// Memory after a thousand moves and after a million of them.
+// Memory after a thousand moves, a hundred thousand and a million of them.
 void PrintGrowth(const std::string& folder) {
   std::istringstream text(Run(folder, "program", "growth"));
-  for (const char* moves : {"thousand", "million"}) {
+  for (const char* moves : {"thousand", "hundred_thousand", "million"}) {
     double heap = 0;
     double resident = 0;
     text >> heap >> resident;
