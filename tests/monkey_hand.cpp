@@ -82,7 +82,8 @@ void MonkeyHand::PressCharacter() {
   const std::string character(digit ? random_.Pick(kDigits) : random_.Pick(kOtherCharacters));
   Say(Quoted(character));
   deed_->typing = digit;
-  display_.PressKey({KeyCode::kCharacter, character, random_.OneIn(4), false});
+  const bool word = !digit && random_.OneIn(2);
+  display_.PressKey({KeyCode::kCharacter, character, random_.OneIn(4), false, word});
 }
 
 void MonkeyHand::PressOtherKey() {

@@ -47,6 +47,11 @@ TEST(QtDisplayTest, AnInputMethodsTextGoesTheRoadOfTheKeys) {
     QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &event);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
     EXPECT_EQ(user.Beeps(), 1);
+    QInputMethodEvent refused;
+    refused.setCommitString("x", /*replaceFrom=*/-1, /*replaceLength=*/1);
+    QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &refused);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
+    EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, "");
   });
 }
 
