@@ -13,7 +13,11 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
+#include <array>
 
+#include "toolkit/property_stream.h"
+#include "toolkit/text_edit.h"
+#include "toolkit/window.h"
 #include "user.h"
 
 namespace vamo {
@@ -83,6 +87,34 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".420");
     slider->valueInterface()->setCurrentValue(1000);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".990");
+  });
+}
+
+// A window with the keys in a field, closed by any of them.
+class FleetingWindow : public Window {
+ public:
+  void Layout() override {
+    _SetProperties(*this, EncodeStream([] {
+      return std::array{PropertyEntry{"Width", std::int64_t{200}},
+                        PropertyEntry{"Height", std::int64_t{100}}};
+    }));
+  }
+  void CreateControls() override { _AddControl("field", __New<TextField>()); }
+  bool Event_KeyDown(std::string /*key*/) override {
+    Close();
+    return false;
+  }
+};
+
+TEST(QtDisplayTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
+  InControlWindow([](User& user) {
+    New<FleetingWindow>()->Constructor();
+    user.Wait(std::chrono::milliseconds(0));
+    EXPECT_EQ(user.Windows().size(), 2U);
+    EXPECT_EQ(user.Focused().role, Role::kText);
+    EXPECT_NE(user.ActiveTitle(), "Vamo");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F5);
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
   });
 }
 
