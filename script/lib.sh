@@ -13,6 +13,14 @@ fail() {
   exit 1
 }
 
+# Where the package puts the program.
+readonly installed_program=/usr/bin/vamo
+
+# The checks install the package and remove it again, which must not cost anybody their own.
+refuse_installed() {
+  [[ ! -e $installed_program ]] || fail "$installed_program is there already; remove that package first"
+}
+
 # Does the rest of the arguments again until it succeeds, for at most so many seconds.
 within() {
   local -r end=$((SECONDS + $1))
