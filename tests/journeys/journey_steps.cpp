@@ -1,0 +1,47 @@
+// What the journeys do again and again.
+#include "journeys/journey_steps.h"
+
+#include <gtest/gtest.h>
+
+namespace vamo {
+
+Key Arrow(KeyCode code, bool shift) { return {code, "", shift, false}; }
+
+std::string ResultLine(User& user) {
+  return user.SeesDescribed("Student's t").text + " | " + user.SeesDescribed("two-tailed p").text +
+         " | " + user.SeesDescribed("95% confidence interval of r").text;
+}
+
+std::string FieldText(User& user, std::string_view name) {
+  return user.Sees(Role::kText, name).text;
+}
+
+bool Warned(User& user) { return user.SeesDescribed("range of N").visible; }
+
+void Retype(User& user, std::string_view field, std::string_view text) {
+  user.Click(Role::kText, field);
+  user.PressKey(Arrow(KeyCode::kHome));
+  user.PressKey(Arrow(KeyCode::kEnd, /*shift=*/true));
+  user.PressKey(Key::Character(std::string(1, kBackspace)));
+  user.Type(text);
+}
+
+int FromTheStart(const std::function<void(User&)>& journey) {
+  bool completed = false;
+  const int status = RunProgram([&](User& user) {
+    journey(user);
+    completed = true;
+  });
+  EXPECT_TRUE(completed);
+  return status;
+}
+
+int InControlWindow(const std::function<void(User&)>& journey) {
+  return FromTheStart([&](User& user) {
+    user.PressKey(Key::Character(std::string(1, kEscape)));
+    ASSERT_EQ(user.ActiveTitle(), "Vamo");
+    journey(user);
+  });
+}
+
+}  // namespace vamo

@@ -1,0 +1,124 @@
+// The journeys of a user from window to window, to the program's end. They run on every display.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "journeys/journey_steps.h"
+
+namespace vamo {
+namespace {
+
+using std::chrono_literals::operator""ms;
+
+const Key kBackspaceKey = Key::Character(std::string(1, kBackspace));
+
+TEST(WindowJourney, TheSplashMakesWayAfterFourSeconds) {
+  FromTheStart([](User& user) {
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{""});
+    user.Wait(4100ms);
+    // A window manager takes its time.
+    for (int i = 0; i < 10 && user.ActiveTitle() != "Vamo"; ++i) user.Wait(500ms);
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
+    EXPECT_EQ(user.ActiveTitle(), "Vamo");
+  });
+}
+
+TEST(WindowJourney, APressOnTheSplashOpensTheControlWindow) {
+  FromTheStart([](User& user) {
+    user.Click(Role::kLabel, "Vamo");
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
+  });
+}
+
+TEST(WindowJourney, AboutStaysUntilItIsDismissed) {
+  InControlWindow([](User& user) {
+    user.Wait(5000ms);
+    for (const char* item : {"Window/About Vamo", "Help/About Vamo"}) {
+      user.Choose(item);
+      user.Wait(200ms);
+      EXPECT_EQ(user.Windows(), (std::vector<std::string>{"", "Vamo"})) << item;
+      EXPECT_EQ(user.ActiveTitle(), "") << item;
+      user.PressKey(Key::Character("x"));
+      EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"}) << item;
+    }
+  });
+}
+
+TEST(WindowJourney, InfoIsOneWindowThatCanBeReopened) {
+  InControlWindow([](User& user) {
+    user.Click(Role::kButton, "Info");
+    EXPECT_EQ(user.ActiveTitle(), "Info");
+    user.ActivateWindow("Vamo");
+    user.PressByAssistiveTechnology("Info");
+    EXPECT_EQ(user.Windows(), (std::vector<std::string>{"Info", "Vamo"}));
+    EXPECT_EQ(user.ActiveTitle(), "Info");
+    EXPECT_TRUE(user.CanChoose("Edit/Copy"));
+    user.Close("Info");
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
+    user.ActivateWindow("Vamo");
+    user.Click(Role::kButton, "Info");
+    EXPECT_EQ(user.Windows(), (std::vector<std::string>{"Info", "Vamo"}));
+  });
+}
+
+TEST(WindowJourney, TheInfoTextCanBeSelectedAndCopiedButNotChanged) {
+  InControlWindow([](User& user) {
+    user.Click(Role::kButton, "Info");
+    user.Click(Role::kText, "About Vamo");
+    user.PressKey(Key::Command("a"));
+    user.Type("x");
+    user.PressKey(kBackspaceKey);
+    user.PressKey(Key::Command("c"));
+    const std::string copied = user.Clipboard();
+    EXPECT_EQ(copied.rfind("Vamo simulates how the 95% confidence interval", 0), 0U);
+    EXPECT_EQ(copied.substr(copied.rfind(' ') - 4), "this software.");
+  });
+}
+
+TEST(WindowJourney, AnyKeyEndsTheSplash) {
+  for (const Key& key : {Arrow(KeyCode::kLeft), Key::Command("b"), Arrow(KeyCode::kOther)}) {
+    FromTheStart([&](User& user) {
+      user.PressKey(key);
+      EXPECT_EQ(user.ActiveTitle(), "Vamo");
+    });
+  }
+}
+
+TEST(WindowJourney, ComingBackResetsTheModelBehindUnchangedControls) {
+  InControlWindow([](User& user) {
+    Retype(user, "N", "30");
+    Retype(user, "r", ".5");
+    user.Click(Role::kButton, "Info");
+    user.Close("Info");
+    user.ActivateWindow("Vamo");
+    EXPECT_EQ(FieldText(user, "r") + FieldText(user, "N") + FieldText(user, "Fisher's z"),
+              ".5300.549");
+    EXPECT_EQ(ResultLine(user), "3.06 | .00490 | +.170 to +.729");
+    // A change of N computes with the r of 0 that is behind it now, until r itself changes.
+    Retype(user, "N", "31");
+    EXPECT_EQ(FieldText(user, "r"), ".5");
+    EXPECT_EQ(ResultLine(user), ".00 | .99999 | -.354 to +.354");
+    Retype(user, "r", ".5");
+    EXPECT_EQ(ResultLine(user), "3.11 | .00418 | +.177 to +.726");
+  });
+}
+
+TEST(EndJourney, TheProgramEndsWithStatusZero) {
+  EXPECT_EQ(InControlWindow([](User& user) {
+              user.Click(Role::kButton, "Info");
+              user.Close("Vamo");
+            }),
+            0);
+  EXPECT_EQ(InControlWindow([](User& user) { user.Choose("File/Quit"); }), 0);
+  EXPECT_EQ(InControlWindow([](User& user) { user.PressKey(Key::Command("q")); }), 0);
+  EXPECT_EQ(FromTheStart([](User& user) {
+              user.PressKey(Key::Command("q"));
+              user.Wait(5000ms);
+            }),
+            0)
+      << "the shortcuts work on the splash too";
+}
+
+}  // namespace
+}  // namespace vamo
