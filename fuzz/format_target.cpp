@@ -63,11 +63,8 @@ void CheckInteger(std::int64_t value, std::string_view mask) {
 }
 
 }  // namespace
-}  // namespace vamo
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace vamo;  // NOLINT(google-build-using-namespace)
-  Input input(data, size);
+void TryInput(Input input) {
   const std::uint64_t number = input.Number(8);
   const auto value = std::bit_cast<double>(number);
   const std::string_view mask = input.Rest();
@@ -82,5 +79,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CheckShape(value, mask, text);
     CheckReadingBack(value, mask, text);
   }
-  return 0;
 }
+
+}  // namespace vamo

@@ -87,13 +87,11 @@ constexpr void (*kClasses[])(std::string_view) = {SetWindow,
                                                   SetControl<PushButton>};
 
 }  // namespace
-}  // namespace vamo
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace vamo;  // NOLINT(google-build-using-namespace)
+void TryInput(Input input) {
   TestProgram program;
-  Input input(data, size);
   const std::size_t kind = input.Byte() % std::size(kClasses);
   kClasses[kind](input.Rest());
-  return 0;
 }
+
+}  // namespace vamo

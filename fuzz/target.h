@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string_view>
 
-// The name by which libFuzzer finds it, and the replay of kept inputs.
+// The name by which libFuzzer finds the target, and the replay of kept inputs.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace vamo {
@@ -50,6 +50,9 @@ class Input {
 
   std::string_view rest_;
 };
+
+// What a target does with an input; each defines it.
+void TryInput(Input input);
 
 }  // namespace vamo
 

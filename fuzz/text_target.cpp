@@ -129,15 +129,13 @@ class WatchedField : public Object {
 };
 
 }  // namespace
-}  // namespace vamo
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace vamo;  // NOLINT(google-build-using-namespace)
+void TryInput(Input input) {
   TestProgram program;
-  Input input(data, size);
   const auto field = New<WatchedField>();
   field->Wire();
   SetMask(field->Field(), MaskFrom(input));
   while (!input.AtEnd()) field->Do(input);
-  return 0;
 }
+
+}  // namespace vamo

@@ -53,11 +53,8 @@ std::optional<std::u32string> Expected(const std::u32string& before, const std::
 }
 
 }  // namespace
-}  // namespace vamo
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace vamo;  // NOLINT(google-build-using-namespace)
-  Input input(data, size);
+void TryInput(Input input) {
   TypingRule rule;
   rule.maximum_characters = (input.Byte() ^ 0x80) - 0x80;  // Below zero as well.
   rule.mask = ValidUtf8(input.ShortText());
@@ -65,12 +62,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string after = ValidUtf8(input.ShortText());
   std::string character = ValidUtf8(input.Rest());
   character.resize(NextCharacter(character, 0));
-  if (character.empty()) return 0;
+  if (character.empty()) return;
 
   const auto inserted = Insertion(before, after, character, rule);
   const auto expected = Expected(CodePoints(before), CodePoints(after), CodePoints(character)[0],
                                  CodePoints(rule.mask), rule.maximum_characters);
   Require(inserted.has_value() == expected.has_value(), "typed where it fits, and only there");
   if (inserted) Require(CodePoints(*inserted) == *expected, "what is inserted");
-  return 0;
 }
+
+}  // namespace vamo

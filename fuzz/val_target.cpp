@@ -43,15 +43,14 @@ void CheckTruncate(double value) {
 }
 
 }  // namespace
-}  // namespace vamo
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace vamo;  // NOLINT(google-build-using-namespace)
-  const std::string_view text = Input(data, size).Rest();
+void TryInput(Input input) {
+  const std::string_view text = input.Rest();
   const double value = Val(text);
   Require(std::isfinite(value), "finite");
   Require(value == Expected(text), "the number at the start of the text");
   Require(value != 0 || !std::signbit(value), "no negative zero");
   CheckTruncate(value);
-  return 0;
 }
+
+}  // namespace vamo
