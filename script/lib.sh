@@ -21,6 +21,26 @@ refuse_installed() {
   [[ ! -e $installed_program ]] || fail "$installed_program is there already; remove that package first"
 }
 
+# What apt-get and the packages' own scripts say is shown only when they fail.
+apt_get() {
+  local as_root=() output
+  if ((EUID != 0)); then
+    command -v sudo >/dev/null || fail 'to change the packages, run this as root or install sudo'
+    as_root=(sudo)
+  fi
+  if ! output=$("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq "$@" 2>&1); then
+    printf '%s\n' "$output" >&2
+    fail "apt-get $1 has failed"
+  fi
+}
+
+# Switches assistive technology on or off (true, false) for programs that start later.
+switch_assistive_technology() {
+  dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
+    org.freedesktop.DBus.Properties.Set string:org.a11y.Status string:IsEnabled \
+    "variant:boolean:$1" >/dev/null || fail 'the accessibility bus does not answer'
+}
+
 # Does the rest of the arguments again until it succeeds, for at most so many seconds.
 within() {
   local -r end=$((SECONDS + $1))

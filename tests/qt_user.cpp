@@ -1,7 +1,5 @@
 // The user of the Qt display, in the program's own process: sends events through Qt's queue and
 // reads what a screen reader reads.
-#include <gtest/gtest.h>
-
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
@@ -12,7 +10,6 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 #include <memory>
 
@@ -122,7 +119,7 @@ class QtUser : public User {
   void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) override {
     QAccessibleInterface& slider = Find(Role::kSlider, name);
     Drag(slider, slider.valueInterface()->currentValue().toLongLong(), positions);
-    NudgeTo(name, positions.back());
+    NudgeSlider(*this, name, positions.back());
   }
   void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) override {
     Drag(Find(Role::kSlider, name), at, {drag_to});
@@ -236,36 +233,25 @@ class QtUser : public User {
     FailToFind(title);
   }
 
-  static QPoint KnobAt(QAccessibleInterface& slider, std::int64_t position) {
-    constexpr int kKnob = 15;
+  static QPoint KnobIn(QAccessibleInterface& slider, std::int64_t position) {
     QAccessibleValueInterface& value = *slider.valueInterface();
-    const qint64 least = value.minimumValue().toLongLong();
-    const qint64 most = value.maximumValue().toLongLong();
     const QRect rect = slider.rect();
-    const auto offset = (position - least) * (rect.width() - kKnob) / (most - least);
-    return {rect.left() + kKnob / 2 + static_cast<int>(offset), rect.center().y()};
+    const int offset = KnobAt(position, value.minimumValue().toLongLong(),
+                              value.maximumValue().toLongLong(), rect.width());
+    return {rect.left() + offset, rect.center().y()};
   }
   void Drag(QAccessibleInterface& slider, std::int64_t from,
             const std::vector<std::int64_t>& positions) {
-    input_.MoveTo(KnobAt(slider, from));
+    input_.MoveTo(KnobIn(slider, from));
     input_.Press();
     Settle();
     for (const std::int64_t position : positions) {
-      input_.MoveTo(KnobAt(slider, position));
+      input_.MoveTo(KnobIn(slider, position));
       Settle();
     }
     input_.Release();
     Settle();
   }
-  // Where a position is narrower than a pixel, a user ends a drag with the arrow keys.
-  void NudgeTo(std::string_view name, std::int64_t position) {
-    const std::int64_t reached = Sees(Role::kSlider, name).position;
-    EXPECT_LE(std::abs(position - reached), 3) << "the knob did not follow the mouse";
-    for (std::int64_t i = reached; i != position; i += i < position ? 1 : -1) {
-      PressKey({i < position ? KeyCode::kRight : KeyCode::kLeft, "", false, false});
-    }
-  }
-
   void ClickAt(const QPoint& point) {
     input_.MoveTo(point);
     input_.Press();

@@ -48,6 +48,12 @@ class User {
   virtual int Beeps() = 0;
 };
 
+// Where the middle of a slider's knob is at a position, from the left of its box.
+int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int width);
+// Ends a drag, where a position is narrower than a pixel, by the arrow keys. One that has ended far
+// from the position has failed.
+void NudgeSlider(User& user, std::string_view name, std::int64_t position);
+
 // Runs the program from its start to its end with a user, and gives its exit status. Each program
 // of journeys defines it for its display.
 int RunProgram(const std::function<void(User&)>& journey);

@@ -42,7 +42,7 @@ class Copy {
     fs::create_directories(folder_);
     fs::copy_file(ProgramPath(), Program());
   }
-  ~Copy() { fs::remove_all(folder_); }
+  ~Copy() { fs::remove_all(folder_.parent_path()); }
   Copy(const Copy&) = delete;
   Copy& operator=(const Copy&) = delete;
 

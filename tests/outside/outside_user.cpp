@@ -1,8 +1,6 @@
 // A user who knows only the running program: acts, and the waiting for what comes of them.
 #include "outside_user.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -15,14 +13,6 @@ namespace vamo {
 namespace {
 
 using std::chrono_literals::operator""s;
-
-// Where a position of a slider is, from the left of its box; the knob is 15 wide.
-int KnobAt(const Element& slider, std::int64_t position) {
-  constexpr int kKnob = 15;
-  const double least = slider.LeastValue();
-  const double part = (static_cast<double>(position) - least) / (slider.GreatestValue() - least);
-  return kKnob / 2 + static_cast<int>(part * (slider.Extents().width - kKnob));
-}
 
 bool IsPrintable(char character) {
   return static_cast<unsigned char>(character) >= ' ' && character != kForwardDelete;
@@ -76,13 +66,7 @@ void OutsideUser::DragSlider(std::string_view name, const std::vector<std::int64
   PressKnob(name, Sees(Role::kSlider, name).position);
   for (const std::int64_t position : positions) MoveKnob(name, position);
   ReleaseKnob();
-  // Where a position is narrower than a pixel, a user ends a drag with the arrow keys.
-  const std::int64_t reached = Sees(Role::kSlider, name).position;
-  const std::int64_t wanted = positions.back();
-  EXPECT_LE(std::abs(wanted - reached), 3) << "the knob did not follow the mouse";
-  for (std::int64_t i = reached; i != wanted; i += i < wanted ? 1 : -1) {
-    PressKey({i < wanted ? KeyCode::kRight : KeyCode::kLeft, "", false, false});
-  }
+  NudgeSlider(*this, name, positions.back());
 }
 
 void OutsideUser::PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) {
@@ -98,7 +82,10 @@ void OutsideUser::PressKnob(std::string_view slider, std::int64_t at) {
 
 void OutsideUser::MoveKnob(std::string_view slider, std::int64_t to) {
   const Element& element = Find(Role::kSlider, slider);
-  Act([&] { MoveToPart(element, KnobAt(element, to), element.Extents().height / 2); });
+  const Element::Place place = element.Extents();
+  const int x = KnobAt(to, std::llround(element.LeastValue()),
+                       std::llround(element.GreatestValue()), place.width);
+  Act([&] { MoveToPart(element, x, place.height / 2); });
 }
 
 void OutsideUser::ReleaseKnob() { Act(hand::Release); }
