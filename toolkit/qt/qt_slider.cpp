@@ -4,8 +4,6 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QWheelEvent>
 
 #include "qt_convert.h"
@@ -39,17 +37,20 @@ void SliderWidget::Report(int position) {
   Refresh();
 }
 
-QRect SliderWidget::Part(QStyle::SubControl which) const {
+QStyleOptionSlider SliderWidget::Option() const {
   QStyleOptionSlider option;
   initStyleOption(&option);
+  return option;
+}
+
+QRect SliderWidget::Part(QStyle::SubControl which, const QStyleOptionSlider& option) const {
   return style()->subControlRect(QStyle::CC_Slider, &option, which, this);
 }
 
 void SliderWidget::MoveKnobTo(int x) {
-  QStyleOptionSlider option;
-  initStyleOption(&option);
-  const QRect groove = Part(QStyle::SC_SliderGroove);
-  const int knob = Part(QStyle::SC_SliderHandle).width();
+  const QStyleOptionSlider option = Option();
+  const QRect groove = Part(QStyle::SC_SliderGroove, option);
+  const int knob = Part(QStyle::SC_SliderHandle, option).width();
   Report(QStyle::sliderValueFromPosition(minimum(), maximum(), x - groove.left() - knob / 2,
                                          groove.width() - knob, option.upsideDown));
 }
@@ -59,7 +60,7 @@ void SliderWidget::mousePressEvent(QMouseEvent* event) {
     event->ignore();
     return;
   }
-  const QRect knob = Part(QStyle::SC_SliderHandle);
+  const QRect knob = Part(QStyle::SC_SliderHandle, Option());
   const QPoint at = event->position().toPoint();
   setSliderDown(true);
   grip_ = knob.contains(at) ? at.x() - knob.center().x() : 0;

@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QSlider>
 #include <QStyle>
+#include <QStyleOptionSlider>
 
 #include "qt_control.h"
 #include "toolkit/slider.h"
@@ -27,8 +28,9 @@ class SliderWidget : public WidgetFor<QSlider, Slider> {
 
  private:
   void Report(int position);
+  QStyleOptionSlider Option() const;
+  QRect Part(QStyle::SubControl which, const QStyleOptionSlider& option) const;
   // Takes the knob's middle to a place, in the widget's own coordinates.
-  QRect Part(QStyle::SubControl which) const;
   void MoveKnobTo(int x);
 
   // From the knob's middle to where the mouse holds it.
