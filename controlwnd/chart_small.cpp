@@ -4,13 +4,10 @@
 #include "toolkit/runtime.h"
 
 namespace vamo::_x_ChartSmall {
-namespace {
 
 struct Fields {
   Ref<Picture> pic;
 };
-
-}  // namespace
 
 Ref<Picture> ChartSmall() {
   Ref<Picture>& pic = Runtime::Current().ModuleFields<Fields>().pic;

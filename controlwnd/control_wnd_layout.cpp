@@ -17,125 +17,130 @@ constexpr Colour kDarkGrey{0x66, 0x66, 0x66};
 constexpr Colour kGrey{0x80, 0x80, 0x80};
 constexpr Colour kLightGrey{0xE6, 0xE6, 0xE6};
 
-constexpr WindowRow kWindow{.width = 500,
-                            .height = 425,
-                            .maximum_width = 500,
-                            .maximum_height = 500,
-                            .type = 0,
-                            .title = "Vamo",
-                            .has_maximize_button = false,
-                            .resizeable = false,
-                            .composite = false,
-                            .has_background_colour = true};
+constexpr auto kWindow = WindowStream({.width = 500,
+                                       .height = 425,
+                                       .maximum_width = 500,
+                                       .maximum_height = 500,
+                                       .type = 0,
+                                       .title = "Vamo",
+                                       .has_maximize_button = false,
+                                       .resizeable = false,
+                                       .composite = false,
+                                       .has_background_colour = true});
 
-constexpr TextFieldRow kREdit{.place = {"rEdit", 55, 192, 60, 20, 0},
-                              .alignment = TextAlignment::kCentre,
-                              .validation_mask = ".###",
-                              .maximum_characters = 4,
-                              .spell_checking = false,
-                              .enabled = true,
-                              .read_only = false};
-constexpr TextFieldRow kNEdit{.place = {"nEdit", 55, 257, 60, 20, 1},
-                              .alignment = TextAlignment::kDefault,
-                              .validation_mask = "####",
-                              .maximum_characters = 4,
-                              .spell_checking = true,
-                              .enabled = true,
-                              .read_only = false};
-constexpr RectangleRow kRectangle2{.place = {"Rectangle2", 5, 5, 100, 80, 3},
-                                   .border_thickness = 1,
-                                   .fill = kDarkRed,
-                                   .top_left = kWhite,
-                                   .bottom_right = kWhite};
-constexpr CanvasRow kCanvas3{
-    .place = {"Canvas3", 9, 9, 92, 72, 0, "Rectangle2"}, .tab_stop = true, .enabled = true};
-constexpr LabelRow kStaticText4{.place = {"StaticText4", 115, -5, 371, 73, 4},
-                                .value = "Vamo",
-                                .font_size = 48,
-                                .bold = true,
-                                .alignment = TextAlignment::kCentre,
-                                .colour = kDarkRed};
-constexpr LabelRow kStaticText9{.place = {"StaticText9", 115, 66, 371, 20, 5},
-                                .value = "by Halden Q. Orrin",
-                                .font_size = 9,
-                                .alignment = TextAlignment::kCentre,
-                                .colour = kDarkRed};
-constexpr RectangleRow kRectangle1{.place = {"Rectangle1", 113, 82, 371, 2, 6},
-                                   .border_thickness = 1,
-                                   .fill = kDarkRed,
-                                   .top_left = kLightRed,
-                                   .bottom_right = kDarkRed};
-constexpr SliderRow kRSlider{
-    .place = {"rSlider", 25, 220, 450, 15, 7}, .value = 0, .minimum = 0, .maximum = 99};
-constexpr SliderRow kNSlider{
-    .place = {"nSlider", 25, 285, 450, 15, 8}, .value = 4, .minimum = 4, .maximum = 1000};
-constexpr LabelRow kStaticText2{
-    .place = {"StaticText2", 25, 192, 20, 20, 9}, .value = "r =", .bold = true, .colour = kBlack};
-constexpr LabelRow kStaticText3{
-    .place = {"StaticText3", 25, 257, 20, 20, 10}, .value = "N =", .bold = true, .colour = kBlack};
-constexpr LabelRow kNText{.place = {"nText", 127, 257, 129, 20, 12},
-                          .value = "(4 - 1,1000)",
-                          .font_size = 11,
-                          .colour = kOrange,
-                          .visible = false};
-constexpr LabelRow kStaticText8{.place = {"StaticText8", 325, 192, 70, 20, 13},
-                                .value = "Fisher's z =",
-                                .bold = true,
-                                .colour = kDarkGrey};
-constexpr TextFieldRow kZFld{.place = {"zFld", 400, 192, 70, 20, 14},
-                             .alignment = TextAlignment::kLeft,
-                             .validation_mask = "",
-                             .maximum_characters = 0,
-                             .spell_checking = false,
-                             .enabled = false,
-                             .read_only = true};
-constexpr PushButtonRow kQbtn{.place = {.name = "Qbtn",
-                                        .left = 439,
-                                        .top = 349,
-                                        .width = 40,
-                                        .height = 40,
-                                        .tab_index = 15,
-                                        .locks = {true, true, false, false}},
-                              .caption = "?",
-                              .font_size = 16,
-                              .bold = true,
-                              .is_default = true};
-constexpr RectangleRow kRectangle3{.place = {.name = "Rectangle3",
-                                             .left = 20,
-                                             .top = 353,
-                                             .width = 420,
-                                             .height = 30,
-                                             .tab_index = 2,
-                                             .locks = {false, false, false, false}},
-                                   .border_thickness = 2,
-                                   .fill = kLightGrey,
-                                   .top_left = kDarkGrey,
-                                   .bottom_right = kGrey};
-constexpr LabelRow kStaticText5{.place = {"StaticText5", 35, 358, 30, 20, 0, "Rectangle3"},
-                                .value = "t =",
-                                .bold = true,
-                                .colour = kDarkRed};
-constexpr LabelRow kStaticText1{.place = {"StaticText1", 136, 358, 40, 20, 2, "Rectangle3"},
-                                .value = "p =",
-                                .bold = true,
-                                .colour = kDarkRed};
-constexpr LabelRow kPText{.place = {"pText", 164, 358, 60, 20, 3, "Rectangle3"},
-                          .tab_stop = true,
-                          .alignment = TextAlignment::kCentre,
-                          .colour = kBlack};
-constexpr LabelRow kStaticText7{.place = {"StaticText7", 251, 358, 85, 20, 4, "Rectangle3"},
-                                .value = "95% CI of r =",
-                                .bold = true,
-                                .colour = kDarkRed};
-constexpr LabelRow kCiText{.place = {"ciText", 334, 358, 95, 20, 5, "Rectangle3"},
-                           .tab_stop = true,
-                           .alignment = TextAlignment::kCentre,
-                           .colour = kBlack};
-constexpr LabelRow kTText{
-    .place = {"tText", 60, 358, 60, 20, 1, "Rectangle3"}, .tab_stop = true, .colour = kBlack};
+constexpr auto kREdit = TextFieldStream({.place = {"rEdit", 55, 192, 60, 20, 0},
+                                         .alignment = TextAlignment::kCentre,
+                                         .validation_mask = ".###",
+                                         .maximum_characters = 4,
+                                         .spell_checking = false,
+                                         .enabled = true,
+                                         .read_only = false});
+constexpr auto kNEdit = TextFieldStream({.place = {"nEdit", 55, 257, 60, 20, 1},
+                                         .alignment = TextAlignment::kDefault,
+                                         .validation_mask = "####",
+                                         .maximum_characters = 4,
+                                         .spell_checking = true,
+                                         .enabled = true,
+                                         .read_only = false});
+constexpr auto kRectangle2 = RectangleStream({.place = {"Rectangle2", 5, 5, 100, 80, 3},
+                                              .border_thickness = 1,
+                                              .fill = kDarkRed,
+                                              .top_left = kWhite,
+                                              .bottom_right = kWhite});
+constexpr auto kCanvas3 = CanvasStream(
+    {.place = {"Canvas3", 9, 9, 92, 72, 0, "Rectangle2"}, .tab_stop = true, .enabled = true});
+constexpr auto kStaticText4 = LabelStream({.place = {"StaticText4", 115, -5, 371, 73, 4},
+                                           .value = "Vamo",
+                                           .font_size = 48,
+                                           .bold = true,
+                                           .alignment = TextAlignment::kCentre,
+                                           .colour = kDarkRed});
+constexpr auto kStaticText9 = LabelStream({.place = {"StaticText9", 115, 66, 371, 20, 5},
+                                           .value = "by Halden Q. Orrin",
+                                           .font_size = 9,
+                                           .alignment = TextAlignment::kCentre,
+                                           .colour = kDarkRed});
+constexpr auto kRectangle1 = RectangleStream({.place = {"Rectangle1", 113, 82, 371, 2, 6},
+                                              .border_thickness = 1,
+                                              .fill = kDarkRed,
+                                              .top_left = kLightRed,
+                                              .bottom_right = kDarkRed});
+constexpr auto kRSlider = SliderStream(
+    {.place = {"rSlider", 25, 220, 450, 15, 7}, .value = 0, .minimum = 0, .maximum = 99});
+constexpr auto kNSlider = SliderStream(
+    {.place = {"nSlider", 25, 285, 450, 15, 8}, .value = 4, .minimum = 4, .maximum = 1000});
+constexpr auto kStaticText2 = LabelStream(
+    {.place = {"StaticText2", 25, 192, 20, 20, 9}, .value = "r =", .bold = true, .colour = kBlack});
+constexpr auto kStaticText3 = LabelStream({.place = {"StaticText3", 25, 257, 20, 20, 10},
+                                           .value = "N =",
+                                           .bold = true,
+                                           .colour = kBlack});
+constexpr auto kNText = LabelStream({.place = {"nText", 127, 257, 129, 20, 12},
+                                     .value = "(4 - 1,1000)",
+                                     .font_size = 11,
+                                     .colour = kOrange,
+                                     .visible = false});
+constexpr auto kStaticText8 = LabelStream({.place = {"StaticText8", 325, 192, 70, 20, 13},
+                                           .value = "Fisher's z =",
+                                           .bold = true,
+                                           .colour = kDarkGrey});
+constexpr auto kZFld = TextFieldStream({.place = {"zFld", 400, 192, 70, 20, 14},
+                                        .alignment = TextAlignment::kLeft,
+                                        .validation_mask = "",
+                                        .maximum_characters = 0,
+                                        .spell_checking = false,
+                                        .enabled = false,
+                                        .read_only = true});
+constexpr auto kQbtn = PushButtonStream({.place = {.name = "Qbtn",
+                                                   .left = 439,
+                                                   .top = 349,
+                                                   .width = 40,
+                                                   .height = 40,
+                                                   .tab_index = 15,
+                                                   .locks = {true, true, false, false}},
+                                         .caption = "?",
+                                         .font_size = 16,
+                                         .bold = true,
+                                         .is_default = true});
+constexpr auto kRectangle3 = RectangleStream({.place = {.name = "Rectangle3",
+                                                        .left = 20,
+                                                        .top = 353,
+                                                        .width = 420,
+                                                        .height = 30,
+                                                        .tab_index = 2,
+                                                        .locks = {false, false, false, false}},
+                                              .border_thickness = 2,
+                                              .fill = kLightGrey,
+                                              .top_left = kDarkGrey,
+                                              .bottom_right = kGrey});
+constexpr auto kStaticText5 =
+    LabelStream({.place = {"StaticText5", 35, 358, 30, 20, 0, "Rectangle3"},
+                 .value = "t =",
+                 .bold = true,
+                 .colour = kDarkRed});
+constexpr auto kStaticText1 =
+    LabelStream({.place = {"StaticText1", 136, 358, 40, 20, 2, "Rectangle3"},
+                 .value = "p =",
+                 .bold = true,
+                 .colour = kDarkRed});
+constexpr auto kPText = LabelStream({.place = {"pText", 164, 358, 60, 20, 3, "Rectangle3"},
+                                     .tab_stop = true,
+                                     .alignment = TextAlignment::kCentre,
+                                     .colour = kBlack});
+constexpr auto kStaticText7 =
+    LabelStream({.place = {"StaticText7", 251, 358, 85, 20, 4, "Rectangle3"},
+                 .value = "95% CI of r =",
+                 .bold = true,
+                 .colour = kDarkRed});
+constexpr auto kCiText = LabelStream({.place = {"ciText", 334, 358, 95, 20, 5, "Rectangle3"},
+                                      .tab_stop = true,
+                                      .alignment = TextAlignment::kCentre,
+                                      .colour = kBlack});
+constexpr auto kTText = LabelStream(
+    {.place = {"tText", 60, 358, 60, 20, 1, "Rectangle3"}, .tab_stop = true, .colour = kBlack});
 
-static_assert(kStreamOf<kWindow>.length == 371);
-static_assert(kStreamOf<kRSlider>.length == 388);
+static_assert(kWindow.Length() == 371);
+static_assert(kRSlider.Length() == 388);
 
 constexpr std::array kAccessibleTexts{
     AccessibleText{"rEdit", "r", "", "StaticText2"},
@@ -151,10 +156,10 @@ constexpr std::array kAccessibleTexts{
 };
 
 // Makes a control, enters it in the window under its name, and then sets its properties.
-template <class ControlClass, const auto& kRow>
-void Create(Window& window) {
-  window._AddControl(kRow.place.name, window.__New<ControlClass>());
-  _SetProperties(*window.ControlNamed<ControlClass>(kRow.place.name), kStreamOf<kRow>);
+template <class ControlClass>
+void Create(Window& window, std::string_view name, PropertyStream stream) {
+  window._AddControl(name, window.__New<ControlClass>());
+  _SetProperties(*window.ControlNamed<ControlClass>(name), stream);
 }
 
 }  // namespace
@@ -164,7 +169,7 @@ const ClassInfo ControlWnd::kClass{
 
 void ControlWnd::Layout() {
   SetMenuBar(Menu());
-  _SetProperties(*this, kStreamOf<kWindow>);
+  _SetProperties(*this, kWindow);
 }
 
 void ControlWnd::CreateControls() { _CreateControls0(); }
@@ -172,37 +177,37 @@ void ControlWnd::CreateControls() { _CreateControls0(); }
 // Events are wired after the properties of their control, so that setting a property calls no
 // handler.
 void ControlWnd::_CreateControls0() {
-  Create<TextField, kREdit>(*this);
+  Create<TextField>(*this, "rEdit", kREdit);
   AddHandler(rEdit()->TextChange, this, &ControlWnd::rEdit_TextChange);
   AddHandler(rEdit()->KeyDown, this, &ControlWnd::rEdit_KeyDown);
-  Create<TextField, kNEdit>(*this);
+  Create<TextField>(*this, "nEdit", kNEdit);
   AddHandler(nEdit()->TextChange, this, &ControlWnd::nEdit_TextChange);
   AddHandler(nEdit()->KeyDown, this, &ControlWnd::nEdit_KeyDown);
-  Create<Rectangle, kRectangle2>(*this);
+  Create<Rectangle>(*this, "Rectangle2", kRectangle2);
   _AddControl("Canvas3", __New<Canvas>());
   Canvas3()->SetBackdrop(_x_ChartSmall::ChartSmall());
-  _SetProperties(*Canvas3(), kStreamOf<kCanvas3>);
-  Create<Label, kStaticText4>(*this);
-  Create<Label, kStaticText9>(*this);
-  Create<Rectangle, kRectangle1>(*this);
-  Create<Slider, kRSlider>(*this);
+  _SetProperties(*Canvas3(), kCanvas3);
+  Create<Label>(*this, "StaticText4", kStaticText4);
+  Create<Label>(*this, "StaticText9", kStaticText9);
+  Create<Rectangle>(*this, "Rectangle1", kRectangle1);
+  Create<Slider>(*this, "rSlider", kRSlider);
   AddHandler(rSlider()->ValueChanged, this, &ControlWnd::rSlider_ValueChanged);
-  Create<Slider, kNSlider>(*this);
+  Create<Slider>(*this, "nSlider", kNSlider);
   AddHandler(nSlider()->ValueChanged, this, &ControlWnd::nSlider_ValueChanged);
-  Create<Label, kStaticText2>(*this);
-  Create<Label, kStaticText3>(*this);
-  Create<Label, kNText>(*this);
-  Create<Label, kStaticText8>(*this);
-  Create<TextField, kZFld>(*this);
-  Create<PushButton, kQbtn>(*this);
+  Create<Label>(*this, "StaticText2", kStaticText2);
+  Create<Label>(*this, "StaticText3", kStaticText3);
+  Create<Label>(*this, "nText", kNText);
+  Create<Label>(*this, "StaticText8", kStaticText8);
+  Create<TextField>(*this, "zFld", kZFld);
+  Create<PushButton>(*this, "Qbtn", kQbtn);
   AddHandler(Qbtn()->MouseDown, this, &ControlWnd::Qbtn_MouseDown);
-  Create<Rectangle, kRectangle3>(*this);
-  Create<Label, kStaticText5>(*this);
-  Create<Label, kStaticText1>(*this);
-  Create<Label, kPText>(*this);
-  Create<Label, kStaticText7>(*this);
-  Create<Label, kCiText>(*this);
-  Create<Label, kTText>(*this);
+  Create<Rectangle>(*this, "Rectangle3", kRectangle3);
+  Create<Label>(*this, "StaticText5", kStaticText5);
+  Create<Label>(*this, "StaticText1", kStaticText1);
+  Create<Label>(*this, "pText", kPText);
+  Create<Label>(*this, "StaticText7", kStaticText7);
+  Create<Label>(*this, "ciText", kCiText);
+  Create<Label>(*this, "tText", kTText);
 }
 
 std::span<const AccessibleText> ControlWnd::AccessibleTexts() const { return kAccessibleTexts; }

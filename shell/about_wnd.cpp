@@ -12,35 +12,35 @@ namespace {
 
 constexpr Colour kDarkRed{0x80, 0, 0};
 
-constexpr WindowRow kWindow{.width = 300,
-                            .height = 200,
-                            .maximum_width = 32000,
-                            .maximum_height = 32000,
-                            .type = 2,
-                            .title = "",
-                            .has_maximize_button = true,
-                            .resizeable = true,
-                            .composite = false,
-                            .has_background_colour = true};
-constexpr LabelRow kStaticText5{.place = {"StaticText5", 0, 181, 298, 15, 0},
-                                .tab_stop = true,
-                                .value = kRightsNotice,
-                                .font_size = 9,
-                                .alignment = TextAlignment::kCentre,
-                                .colour = kDarkRed};
-constexpr CanvasRow kCanvas1{
-    .place = {"Canvas1", 104, 60, 92, 72, 1}, .tab_stop = false, .enabled = false};
-constexpr LabelRow kStaticText1{.place = {"StaticText1", 0, 0, 298, 55, 3},
-                                .value = "Vamo",
-                                .font_size = 42,
-                                .bold = true,
-                                .alignment = TextAlignment::kCentre,
-                                .colour = kDarkRed};
+constexpr auto kWindow = WindowStream({.width = 300,
+                                       .height = 200,
+                                       .maximum_width = 32000,
+                                       .maximum_height = 32000,
+                                       .type = 2,
+                                       .title = "",
+                                       .has_maximize_button = true,
+                                       .resizeable = true,
+                                       .composite = false,
+                                       .has_background_colour = true});
+constexpr auto kStaticText5 = LabelStream({.place = {"StaticText5", 0, 181, 298, 15, 0},
+                                           .tab_stop = true,
+                                           .value = kRightsNotice,
+                                           .font_size = 9,
+                                           .alignment = TextAlignment::kCentre,
+                                           .colour = kDarkRed});
+constexpr auto kCanvas1 =
+    CanvasStream({.place = {"Canvas1", 104, 60, 92, 72, 1}, .tab_stop = false, .enabled = false});
+constexpr auto kStaticText1 = LabelStream({.place = {"StaticText1", 0, 0, 298, 55, 3},
+                                           .value = "Vamo",
+                                           .font_size = 42,
+                                           .bold = true,
+                                           .alignment = TextAlignment::kCentre,
+                                           .colour = kDarkRed});
 // Mode 1: once. The period is in milliseconds.
-constexpr TimerRow kTimer1{.run_mode = 1, .period = 4000};
+constexpr auto kTimer1 = TimerStream({.run_mode = 1, .period = 4000});
 
-static_assert(kStreamOf<kCanvas1>.length == 322);
-static_assert(kStreamOf<kTimer1>.length == 31);
+static_assert(kCanvas1.Length() == 322);
+static_assert(kTimer1.Length() == 31);
 
 // Both windows are reached by name, not through the object that an event came to.
 void HandOver() {
@@ -57,20 +57,20 @@ bool AboutWnd::IsEventImplemented(std::string_view event) const {
   return _RuntimeIsEventHandled(*this, "AboutWnd.AboutWnd", event);
 }
 
-void AboutWnd::Layout() { _SetProperties(*this, kStreamOf<kWindow>); }
+void AboutWnd::Layout() { _SetProperties(*this, kWindow); }
 
 void AboutWnd::CreateControls() { _CreateControls0(); }
 
 void AboutWnd::_CreateControls0() {
   _AddControl("StaticText5", __New<Label>());
-  _SetProperties(*StaticText5(), kStreamOf<kStaticText5>);
+  _SetProperties(*StaticText5(), kStaticText5);
   _AddControl("Canvas1", __New<Canvas>());
   Canvas1()->SetBackdrop(_x_ChartSmall::ChartSmall());
-  _SetProperties(*Canvas1(), kStreamOf<kCanvas1>);
+  _SetProperties(*Canvas1(), kCanvas1);
   _AddControl("StaticText1", __New<Label>());
-  _SetProperties(*StaticText1(), kStreamOf<kStaticText1>);
+  _SetProperties(*StaticText1(), kStaticText1);
   _AddControl("Timer1", __New<_wrapper_Timer1>());
-  _SetProperties(*Timer1(), kStreamOf<kTimer1>);
+  _SetProperties(*Timer1(), kTimer1);
   AddHandler(Timer1()->Action, this, &AboutWnd::Timer1_Action);
 }
 

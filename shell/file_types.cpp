@@ -6,13 +6,14 @@
 #include "toolkit/runtime.h"
 
 namespace vamo::FileTypes {
-namespace {
 
 struct Fields {
   std::vector<Ref<FileType>> pAllFileTypes;
   Ref<FileType> pText;
   Ref<FileType> pUntitledType;
 };
+
+namespace {
 
 Fields& ModuleFields() { return Runtime::Current().ModuleFields<Fields>(); }
 

@@ -44,22 +44,23 @@ constexpr std::array<char, TextSize()> kText = [] {
   return text;
 }();
 
-constexpr WindowRow kWindow{.width = 450,
-                            .height = 360,
-                            .maximum_width = 32000,
-                            .maximum_height = 32000,
-                            .type = 7,
-                            .title = "Info",
-                            .has_maximize_button = true,
-                            .resizeable = false,
-                            .composite = true,
-                            .has_background_colour = false};
-constexpr TextAreaRow kStaticText1{.place = {"StaticText1", -1, -1, 447, 358, 0},
-                                   .value = std::string_view(kText.data(), kText.size())};
+constexpr auto kWindow = WindowStream({.width = 450,
+                                       .height = 360,
+                                       .maximum_width = 32000,
+                                       .maximum_height = 32000,
+                                       .type = 7,
+                                       .title = "Info",
+                                       .has_maximize_button = true,
+                                       .resizeable = false,
+                                       .composite = true,
+                                       .has_background_colour = false});
+constexpr auto kStaticText1 =
+    TextAreaStream({.place = {"StaticText1", -1, -1, 447, 358, 0},
+                    .value = std::string_view(kText.data(), kText.size())});
 constexpr std::array kAccessibleTexts{AccessibleText{"StaticText1", "About Vamo", "", ""}};
 
 static_assert(kText.size() == 911);
-static_assert(kStreamOf<kStaticText1>.length == 1592);
+static_assert(kStaticText1.Length() == 1592);
 
 }  // namespace
 
@@ -72,14 +73,14 @@ bool InfoWnd::IsEventImplemented(std::string_view event) const {
 
 void InfoWnd::Layout() {
   SetMenuBar(Menu());
-  _SetProperties(*this, kStreamOf<kWindow>);
+  _SetProperties(*this, kWindow);
 }
 
 void InfoWnd::CreateControls() { _CreateControls0(); }
 
 void InfoWnd::_CreateControls0() {
   _AddControl("StaticText1", __New<TextArea>());
-  _SetProperties(*StaticText1(), kStreamOf<kStaticText1>);
+  _SetProperties(*StaticText1(), kStaticText1);
 }
 
 Ref<TextArea> InfoWnd::StaticText1() { return ControlNamed<TextArea>("StaticText1"); }

@@ -57,16 +57,16 @@ void AddTopLevelMenu(MenuBar& bar, std::string_view name) {
   }
 }
 
-struct Fields {
+}  // namespace
+
+struct MenuFields {
   Ref<class Menu> implicit_instance;
 };
-
-}  // namespace
 
 const ClassInfo Menu::kClass{"Menu.Menu", &MenuBar::kClass, {}};
 
 Ref<MenuBar> Menu() {
-  Ref<class Menu>& instance = Runtime::Current().ModuleFields<Fields>().implicit_instance;
+  Ref<class Menu>& instance = Runtime::Current().ModuleFields<MenuFields>().implicit_instance;
   if (!instance) {
     const Ref<class Menu> menu = New<class Menu>();
     menu->Constructor();

@@ -12,16 +12,17 @@
 #include "toolkit/runtime.h"
 
 namespace vamo {
-namespace {
 
-struct Fields {
+struct StartupFields {
   StepObserver observer;
 };
+
+namespace {
 
 // Announces a step and takes it.
 template <class StepFunction>
 void Step(std::string_view name, StepFunction&& step) {
-  const StepObserver& observer = Runtime::Current().ModuleFields<Fields>().observer;
+  const StepObserver& observer = Runtime::Current().ModuleFields<StartupFields>().observer;
   if (observer != nullptr) observer(name);
   step();
 }
@@ -83,7 +84,7 @@ void _Main() {
 
 int Main(std::unique_ptr<Display> display, StepObserver observer) {
   Runtime runtime(std::move(display));
-  runtime.ModuleFields<Fields>().observer = observer;
+  runtime.ModuleFields<StartupFields>().observer = observer;
   try {
     Step("_Main", _Main);
   } catch (...) {

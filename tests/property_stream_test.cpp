@@ -26,67 +26,60 @@ std::string Stored(PropertyStream stream) { return {stream.bytes, stream.length 
 // A stream that holds the entries; it must live as long as what is read from it.
 PropertyStream AsStream(const std::string& bytes) { return {bytes.data(), bytes.size() - 2}; }
 
-template <class Table>
-std::string EncodedEntries(Table table) {
-  const std::string stored = Stored(EncodeStream(table));
+std::string EncodedEntries(PropertyStream stream) {
+  const std::string stored = Stored(stream);
   return stored.substr(1, stored.size() - 2);
 }
 
 TEST(StreamWriterTest, WritesEachTypeAsItIsStored) {
-  EXPECT_EQ(EncodedEntries([] {
-              return std::array{PropertyEntry{"Left", std::int64_t{55}},
-                                PropertyEntry{"Top", std::int64_t{-5}},
-                                PropertyEntry{"Index", std::int64_t{INT32_MIN}}};
-            }),
-            "Left \x37\0\0\0\0\0\0\0"
-            "Top \xFB\xFF\xFF\xFF\xFF\xFF\xFF\xFF"
-            "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s);
-  EXPECT_EQ(EncodedEntries([] {
-              return std::array{PropertyEntry{"FontSize", 12.0F},
-                                PropertyEntry{"BorderThickness", 1.0},
-                                PropertyEntry{"FillColor", Colour{0x80, 0x01, 0x02}}};
-            }),
+  EXPECT_EQ(
+      EncodedEntries(
+          EncodedStream<640>().Integer("Left", 55).Integer("Top", -5).Integer("Index", INT32_MIN)),
+      "Left \x37\0\0\0\0\0\0\0"
+      "Top \xFB\xFF\xFF\xFF\xFF\xFF\xFF\xFF"
+      "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s);
+  EXPECT_EQ(EncodedEntries(EncodedStream<640>()
+                               .Single("FontSize", 12.0F)
+                               .Double("BorderThickness", 1.0)
+                               .Colour("FillColor", Colour{0x80, 0x01, 0x02})),
             "FontSize \0\0\x40\x41"
             "BorderThickness \0\0\0\0\0\0\xF0\x3F"
             "FillColor \x80\x01\x02\0"s);
-  EXPECT_EQ(EncodedEntries([] {
-              return std::array{PropertyEntry{"Visible", true},
-                                PropertyEntry{"Name", std::string_view("rEdit")},
-                                PropertyEntry{"Tooltip", std::string_view()}};
-            }),
-            "Visible \x01"
-            "Name \x05\0\0\0rEdit"
-            "Tooltip \0\0\0\0"s);
+  EXPECT_EQ(
+      EncodedEntries(
+          EncodedStream<640>().Boolean("Visible", true).Text("Name", "rEdit").Text("Tooltip")),
+      "Visible \x01"
+      "Name \x05\0\0\0rEdit"
+      "Tooltip \0\0\0\0"s);
 }
 
 TEST(StreamWriterTest, TheLengthByteHoldsShortLengthsOnly) {
   // A name, a blank and a length of 4 bytes stand before the 245 of the text.
   static constexpr std::array<char, 245> kText{};
   static constexpr std::string_view kLong(kText.data(), kText.size());
-  const auto one_less = [] { return std::array{PropertyEntry{"Hint", kLong}}; };
-  const auto at_bound = [] { return std::array{PropertyEntry{"Hints", kLong}}; };
-  EXPECT_EQ(Stored(EncodeStream(one_less))[0], '\xFE');
-  EXPECT_EQ(Stored(EncodeStream(at_bound))[0], '\xFF');
-  EXPECT_EQ(Stored(EncodeStream(at_bound)).back(), '\0');
+  EXPECT_EQ(Stored(EncodedStream<300>().Text("Hint", kLong))[0], '\xFE');
+  const std::string at_bound = Stored(EncodedStream<255>().Text("Hints", kLong));
+  EXPECT_EQ(at_bound[0], '\xFF');
+  EXPECT_EQ(at_bound.back(), '\0');
+  EXPECT_THROW(EncodedStream<254>().Text("Hints", kLong), std::out_of_range);
 }
 
 TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
   TestProgram program;
   const auto slider = New<Slider>();
-  _SetProperties(*slider, EncodeStream([] {
-    return std::array{PropertyEntry{"Value", std::int64_t{300}},
-                      PropertyEntry{"MinimumValue", std::int64_t{4}},
-                      PropertyEntry{"MaximumValue", std::int64_t{1000}}};
-  }));
+  _SetProperties(*slider, EncodedStream<640>()
+                              .Integer("Value", 300)
+                              .Integer("MinimumValue", 4)
+                              .Integer("MaximumValue", 1000));
   EXPECT_EQ(slider->Value(), 300) << "the position comes before the range";
 
   const auto label = New<Label>();
-  _SetProperties(*label, EncodeStream([] {
-    return std::array{
-        PropertyEntry{"Index", std::int64_t{INT32_MIN}},
-        PropertyEntry{"Value", std::string_view("t =")}, PropertyEntry{"FontSize", 9.0F},
-        PropertyEntry{"TextColor", Colour{0xFF, 0x80, 0}}, PropertyEntry{"Visible", false}};
-  }));
+  _SetProperties(*label, EncodedStream<640>()
+                             .Integer("Index", INT32_MIN)
+                             .Text("Value", "t =")
+                             .Single("FontSize", 9.0F)
+                             .Colour("TextColor", Colour{0xFF, 0x80, 0})
+                             .Boolean("Visible", false));
   EXPECT_EQ(label->_Index(), INT32_MIN);
   EXPECT_EQ(label->Text(), "t =");
   EXPECT_EQ(label->Font().size, 9.0F);
@@ -94,9 +87,9 @@ TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
   EXPECT_FALSE(label->Visible());
 
   const auto rectangle = New<Rectangle>();
-  _SetProperties(*rectangle, EncodeStream([] {
-    return std::array{PropertyEntry{"BorderThickness", 2.5}, PropertyEntry{"BorderThickness", 2.0}};
-  }));
+  _SetProperties(
+      *rectangle,
+      EncodedStream<640>().Double("BorderThickness", 2.5).Double("BorderThickness", 2.0));
   EXPECT_EQ(rectangle->BorderThickness(), 2.0) << "the later one stands";
 }
 

@@ -94,10 +94,7 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
 class FleetingWindow : public Window {
  public:
   void Layout() override {
-    _SetProperties(*this, EncodeStream([] {
-      return std::array{PropertyEntry{"Width", std::int64_t{200}},
-                        PropertyEntry{"Height", std::int64_t{100}}};
-    }));
+    _SetProperties(*this, EncodedStream<640>().Integer("Width", 200).Integer("Height", 100));
   }
   void CreateControls() override { _AddControl("field", __New<TextField>()); }
   bool Event_KeyDown(std::string /*key*/) override {

@@ -141,10 +141,7 @@ TEST_F(TextFieldTest, DeletingAWordTakesTheBlanksOnTheWay) {
 }
 
 TEST_F(TextFieldTest, AReadOnlyOrDisabledFieldKeepsItsText) {
-  _SetProperties(*field_, EncodeStream([] {
-    return std::array{PropertyEntry{"Value", std::string_view("fixed")},
-                      PropertyEntry{"ReadOnly", true}};
-  }));
+  _SetProperties(*field_, EncodedStream<640>().Text("Value", "fixed").Boolean("ReadOnly", true));
   field_->UserSelected(0, 5);
   Press("x");
   Press("\b");

@@ -181,9 +181,8 @@ TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
 TEST(SliderTest, StepsOfAnySizeEndAtTheEnds) {
   TestProgram program;
   const auto slider = New<Slider>();
-  _SetProperties(*slider, EncodeStream([] {
-    return std::array{PropertyEntry{"LineStep", INT64_MIN}, PropertyEntry{"PageStep", INT64_MAX}};
-  }));
+  _SetProperties(
+      *slider, EncodedStream<640>().Integer("LineStep", INT64_MIN).Integer("PageStep", INT64_MAX));
   const auto reached = [&](KeyCode key) {
     slider->UserMovedTo(50);
     EXPECT_TRUE(slider->TakeKey({key, "", false, false}));

@@ -32,9 +32,9 @@ class StreamReader {
       case PropertyType::kInteger:
         return static_cast<std::int64_t>(Number(8));
       case PropertyType::kDouble:
-        return std::bit_cast<double>(Number(8));
+        return BitCast<double>(Number(8));
       case PropertyType::kSingle:
-        return std::bit_cast<float>(static_cast<std::uint32_t>(Number(4)));
+        return BitCast<float>(static_cast<std::uint32_t>(Number(4)));
       case PropertyType::kColour: {
         const std::string_view bytes = Take(4);
         const auto channel = [&](std::size_t i) { return static_cast<std::uint8_t>(bytes[i]); };

@@ -9,12 +9,10 @@
 #define VAMO_TOOLKIT_PROPERTY_STREAM_H_
 
 #include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <span>
+#include <stdexcept>
 #include <string_view>
-#include <variant>
 
 #include "toolkit/class_info.h"
 
@@ -33,86 +31,65 @@ struct PropertyStream {
 // past the end; what was set before stays set.
 void _SetProperties(Object& object, PropertyStream stream);
 
-// One row of the table that a stream is made from.
-struct PropertyEntry {
-  std::string_view name;
-  PropertyValue value;
-};
-
-namespace internal {
-
-constexpr std::size_t EncodedSize(const PropertyValue& value) {
-  constexpr std::size_t kWidths[] = {1, 8, 8, 4, 4};
-  if (!std::holds_alternative<std::string_view>(value)) return kWidths[value.index()];
-  return 4 + std::get<std::string_view>(value).size();
+// The same bytes as another type of the same size. The compilers have it where a standard library
+// has not yet.
+template <class To, class From>
+constexpr To BitCast(const From& from) {
+  return __builtin_bit_cast(To, from);
 }
 
-constexpr std::size_t EncodedSize(std::span<const PropertyEntry> entries) {
-  std::size_t size = 0;
-  for (const PropertyEntry& entry : entries)
-    size += entry.name.size() + 1 + EncodedSize(entry.value);
-  return size;
-}
-
-// Writes entries into a buffer that is large enough.
-class StreamWriter {
+// A stream that is written when the program is compiled, entry by entry, with room for `kRoom`
+// bytes of entries. What has no room does not compile, or raises std::out_of_range at run time.
+template <std::size_t kRoom>
+class EncodedStream {
  public:
-  constexpr explicit StreamWriter(char* out) : out_(out) {}
+  constexpr EncodedStream& Boolean(std::string_view name, bool value) {
+    return Entry(name).Number(value ? 1 : 0, 1);
+  }
+  constexpr EncodedStream& Integer(std::string_view name, std::int64_t value) {
+    return Entry(name).Number(static_cast<std::uint64_t>(value), 8);
+  }
+  constexpr EncodedStream& Double(std::string_view name, double value) {
+    return Entry(name).Number(BitCast<std::uint64_t>(value), 8);
+  }
+  constexpr EncodedStream& Single(std::string_view name, float value) {
+    return Entry(name).Number(BitCast<std::uint32_t>(value), 4);
+  }
+  constexpr EncodedStream& Colour(std::string_view name, vamo::Colour value) {
+    return Entry(name).Number(value.red, 1).Number(value.green, 1).Number(value.blue, 1).Byte(0);
+  }
+  constexpr EncodedStream& Text(std::string_view name, std::string_view value = {}) {
+    return Entry(name).Number(value.size(), 4).Bytes(value);
+  }
 
-  constexpr void Write(const PropertyEntry& entry) {
-    Bytes(entry.name);
-    *out_++ = ' ';
-    std::visit([this](const auto& value) { Value(value); }, entry.value);
+  // The entries' length.
+  constexpr std::size_t Length() const { return length_; }
+  // Valid as long as this object lives.
+  constexpr operator PropertyStream() const {  // NOLINT(google-explicit-constructor)
+    return {bytes_.data(), length_};
   }
 
  private:
-  constexpr void Value(bool boolean) { Number(boolean ? 1 : 0, 1); }
-  constexpr void Value(std::int64_t integer) { Number(static_cast<std::uint64_t>(integer), 8); }
-  constexpr void Value(double real) { Number(std::bit_cast<std::uint64_t>(real), 8); }
-  constexpr void Value(float single) { Number(std::bit_cast<std::uint32_t>(single), 4); }
-  constexpr void Value(Colour colour) {
-    Number(colour.red, 1);
-    Number(colour.green, 1);
-    Number(colour.blue, 1);
-    Number(0, 1);
+  constexpr EncodedStream& Entry(std::string_view name) { return Bytes(name).Byte(' '); }
+  constexpr EncodedStream& Bytes(std::string_view bytes) {
+    for (const char byte : bytes) Byte(byte);
+    return *this;
   }
-  constexpr void Value(std::string_view text) {
-    Number(text.size(), 4);
-    Bytes(text);
+  constexpr EncodedStream& Number(std::uint64_t number, int width) {
+    for (int i = 0; i < width; ++i) Byte(static_cast<char>(number >> (8 * i) & 0xFF));
+    return *this;
   }
-
-  constexpr void Bytes(std::string_view bytes) {
-    for (const char byte : bytes) *out_++ = byte;
-  }
-  constexpr void Number(std::uint64_t number, int width) {
-    for (int i = 0; i < width; ++i) *out_++ = static_cast<char>(number >> (8 * i) & 0xFF);
+  constexpr EncodedStream& Byte(char byte) {
+    // The last byte stays the zero behind the entries.
+    if (length_ == kRoom) throw std::out_of_range("no room in the stream");
+    bytes_[++length_] = byte;
+    bytes_[0] = static_cast<char>(length_ < 255 ? length_ : 255);
+    return *this;
   }
 
-  char* out_;
+  std::array<char, kRoom + 2> bytes_{};
+  std::size_t length_ = 0;
 };
-
-// The bytes of one stream. `Table` is a stateless callable that gives an array of PropertyEntry.
-template <class Table>
-struct EncodedStream {
-  static constexpr auto kEntries = Table{}();
-  static constexpr std::size_t kLength = EncodedSize(std::span<const PropertyEntry>(kEntries));
-  static constexpr std::array<char, kLength + 2> kBytes = [] {
-    std::array<char, kLength + 2> bytes{};
-    bytes[0] = static_cast<char>(kLength < 255 ? kLength : 255);
-    StreamWriter writer(bytes.data() + 1);
-    for (const PropertyEntry& entry : kEntries) writer.Write(entry);
-    return bytes;
-  }();
-};
-
-}  // namespace internal
-
-// The stream of a table of entries, encoded when the program is compiled.
-template <class Table>
-constexpr PropertyStream EncodeStream(Table /*table*/) {
-  using Encoded = internal::EncodedStream<Table>;
-  return {Encoded::kBytes.data(), Encoded::kLength};
-}
 
 }  // namespace vamo
 

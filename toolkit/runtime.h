@@ -58,7 +58,9 @@ class Runtime {
   void SetActiveWindow(Ref<Window> window) { active_window_ = std::move(window); }
 
   // The module-level fields that the struct `Fields` declares, default-constructed at their first
-  // use and gone with the run time.
+  // use and gone with the run time. The struct's name must be the only one of its kind in the
+  // program, and not of a single file: compilers have taken templates over types of one name that
+  // are local to different files for one.
   template <class Fields>
   Fields& ModuleFields() {
     std::any& fields = module_fields_[&module_key_<Fields>];
@@ -91,8 +93,7 @@ class Runtime {
  private:
   void TakeException(const std::exception_ptr& exception);
 
-  // Its address tells the structs of different files apart even where they have the same name,
-  // which type_info does not with every compiler.
+  // Its address tells the structs apart.
   template <class Fields>
   inline static char module_key_ = 0;
 

@@ -1,9 +1,9 @@
-// Readable rows for the property streams: one struct a class of object, and the order of its
-// entries.
+// Readable rows for the property streams: for each class of object a struct of what differs from
+// object to object, and the stream of such a row.
 #ifndef VAMO_TOOLKIT_STREAM_TABLES_H_
 #define VAMO_TOOLKIT_STREAM_TABLES_H_
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -100,247 +100,230 @@ struct TimerRow {
   std::int64_t period;
 };
 
-namespace internal {
+// Room for the entries of any object of this program, and of one that shows a text of some length.
+inline constexpr std::size_t kRoom = 640;
+inline constexpr std::size_t kLongRoom = 1592;
 
-// The entries of a row, in the order of the stream. What stands here as a constant is the same for
-// every object of the class in this program.
+namespace internal {
 
 // An index that says: not a member of a control set.
 inline constexpr std::int64_t kNoIndex = INT32_MIN;
 
-constexpr PropertyEntry Text(std::string_view name, std::string_view value = {}) {
-  return {name, value};
-}
-constexpr PropertyEntry Integer(std::string_view name, std::int64_t value) { return {name, value}; }
-constexpr PropertyEntry Alignment(TextAlignment value) {
-  return Integer("TextAlignment", static_cast<std::int64_t>(value));
-}
-constexpr PropertyEntry Boolean(std::string_view name, bool value) { return {name, value}; }
-
-constexpr auto Head(const PlaceRow& row) {
-  return std::array{
-      Text("Name", row.name),
-      Integer("Index", kNoIndex),
-      Integer("Left", row.left),
-      Integer("Top", row.top),
-      Integer("Width", row.width),
-      Integer("Height", row.height),
-      Boolean("LockLeft", row.locks.left),
-      Boolean("LockTop", row.locks.top),
-      Boolean("LockRight", row.locks.right),
-      Boolean("LockBottom", row.locks.bottom),
-      Integer("TabIndex", row.tab_index),
-      Integer("TabPanelIndex", 0),
-  };
-}
-
-constexpr auto Entries(const WindowRow& row) {
-  return std::array{
-      Integer("Width", row.width),
-      Integer("Height", row.height),
-      Integer("MinimumWidth", 64),
-      Integer("MinimumHeight", 64),
-      Integer("MaximumWidth", row.maximum_width),
-      Integer("MaximumHeight", row.maximum_height),
-      Integer("Type", row.type),
-      Text("Title", row.title),
-      Boolean("HasCloseButton", true),
-      Boolean("HasMaximizeButton", row.has_maximize_button),
-      Boolean("HasMinimizeButton", true),
-      Boolean("HasFullScreenButton", false),
-      Boolean("Resizeable", row.resizeable),
-      Boolean("Composite", row.composite),
-      Integer("MacProcID", 0),
-      Boolean("FullScreen", false),
-      Integer("DefaultLocation", 0),
-      Boolean("Visible", true),
-      Boolean("HasBackgroundColor", row.has_background_colour),
-      PropertyEntry{"BackgroundColor", kWhite},
-      Boolean("MenuBarVisible", true),
-      Boolean("LiveResize", false),
-  };
-}
-
-constexpr auto Entries(const LabelRow& row) {
-  return Join(Head(row.place), std::array{
-                                   Boolean("TabStop", row.tab_stop),
-                                   Boolean("AllowAutoDeactivate", true),
-                                   Boolean("Enabled", true),
-                                   Text("Tooltip"),
-                                   Boolean("Multiline", false),
-                                   Boolean("Selectable", false),
-                                   Alignment(row.alignment),
-                                   PropertyEntry{"TextColor", row.colour},
-                                   Boolean("Transparent", true),
-                                   Text("Value", row.value),
-                                   Boolean("Visible", row.visible),
-                                   Boolean("Bold", row.bold),
-                                   Boolean("Italic", false),
-                                   Text("FontName", "System"),
-                                   Boolean("Underline", false),
-                                   PropertyEntry{"FontSize", row.font_size},
-                                   Boolean("FontUnit", false),
-                                   Text("DataSource"),
-                                   Text("DataField"),
-                                   Text("InitialParent", row.place.parent),
-                               });
-}
-
-constexpr auto Entries(const TextFieldRow& row) {
-  return Join(Head(row.place), std::array{
-                                   Boolean("TabStop", true),
-                                   Boolean("AllowAutoDeactivate", true),
-                                   PropertyEntry{"BackgroundColor", kWhite},
-                                   Boolean("HasBorder", true),
-                                   Boolean("Enabled", row.enabled),
-                                   Text("Format"),
-                                   Text("Tooltip"),
-                                   Boolean("Password", false),
-                                   PropertyEntry{"TextColor", kBlack},
-                                   Boolean("Transparent", true),
-                                   Boolean("AllowFocusRing", true),
-                                   Boolean("Visible", true),
-                                   Text("FontName", "System"),
-                                   PropertyEntry{"FontSize", 12.0F},
-                                   Boolean("FontUnit", false),
-                                   Boolean("Bold", false),
-                                   Boolean("Italic", false),
-                                   Boolean("Underline", false),
-                                   Text("Hint"),
-                                   Text("Value"),
-                                   Boolean("AllowTabs", false),
-                                   Alignment(row.alignment),
-                                   Boolean("AllowSpellChecking", row.spell_checking),
-                                   Integer("MaximumCharactersAllowed", row.maximum_characters),
-                                   Text("ValidationMask", row.validation_mask),
-                                   Boolean("ReadOnly", row.read_only),
-                                   Text("DataSource"),
-                                   Text("DataField"),
-                                   Text("InitialParent", row.place.parent),
-                               });
-}
-
-constexpr auto Entries(const TextAreaRow& row) {
-  return Join(Head(row.place), std::array{
-                                   Boolean("TabStop", false),
-                                   Boolean("AllowAutoDeactivate", true),
-                                   PropertyEntry{"BackgroundColor", kWhite},
-                                   Boolean("HasBorder", true),
-                                   Boolean("Enabled", true),
-                                   Text("Format"),
-                                   Text("Tooltip"),
-                                   Boolean("HideSelection", true),
-                                   PropertyEntry{"LineHeight", 0.0},
-                                   PropertyEntry{"LineSpacing", 1.0},
-                                   Boolean("Multiline", true),
-                                   Boolean("HasHorizontalScrollbar", false),
-                                   Boolean("HasVerticalScrollbar", false),
-                                   Boolean("AllowStyledText", true),
-                                   PropertyEntry{"TextColor", kBlack},
-                                   Boolean("Transparent", true),
-                                   Boolean("AllowFocusRing", false),
-                                   Boolean("Visible", true),
-                                   Boolean("Bold", false),
-                                   Boolean("Italic", false),
-                                   Text("FontName", "System"),
-                                   PropertyEntry{"FontSize", 12.0F},
-                                   Boolean("FontUnit", false),
-                                   Boolean("Underline", false),
-                                   Text("Value", row.value),
-                                   Boolean("AllowTabs", false),
-                                   Alignment(TextAlignment::kDefault),
-                                   Boolean("AllowSpellChecking", false),
-                                   Integer("MaximumCharactersAllowed", 0),
-                                   Text("ValidationMask"),
-                                   Boolean("ReadOnly", true),
-                                   Text("DataSource"),
-                                   Text("DataField"),
-                                   Text("InitialParent", row.place.parent),
-                               });
-}
-
-constexpr auto Entries(const SliderRow& row) {
-  return Join(Head(row.place), std::array{
-                                   Boolean("TabStop", true),
-                                   Boolean("AllowAutoDeactivate", true),
-                                   Boolean("Enabled", true),
-                                   Text("Tooltip"),
-                                   Boolean("Transparent", true),
-                                   Boolean("Visible", true),
-                                   Integer("Value", row.value),
-                                   Integer("MinimumValue", row.minimum),
-                                   Integer("MaximumValue", row.maximum),
-                                   Integer("LineStep", 1),
-                                   Boolean("AllowLiveScrolling", true),
-                                   Integer("PageStep", 1),
-                                   Integer("TickMarkStyle", 0),
-                                   Text("InitialParent", row.place.parent),
-                               });
-}
-
-constexpr auto Entries(const RectangleRow& row) {
-  return Join(Head(row.place), std::array{
-                                   Boolean("AllowAutoDeactivate", true),
-                                   PropertyEntry{"BorderThickness", row.border_thickness},
-                                   PropertyEntry{"BottomRightColor", row.bottom_right},
-                                   Boolean("Enabled", true),
-                                   PropertyEntry{"FillColor", row.fill},
-                                   Text("Tooltip"),
-                                   PropertyEntry{"TopLeftColor", row.top_left},
-                                   Boolean("Transparent", true),
-                                   Boolean("Visible", true),
-                                   Text("InitialParent", row.place.parent),
-                               });
-}
-
-constexpr auto Entries(const CanvasRow& row) {
-  return Join(Head(row.place), std::array{
-                                   Boolean("TabStop", row.tab_stop),
-                                   Boolean("AllowAutoDeactivate", true),
-                                   Boolean("Enabled", row.enabled),
-                                   Text("Tooltip"),
-                                   Boolean("AllowFocusRing", false),
-                                   Boolean("Visible", true),
-                                   Boolean("AllowFocus", false),
-                                   Boolean("AllowTabs", false),
-                                   Boolean("Transparent", true),
-                                   Boolean("DoubleBuffer", false),
-                                   Boolean("Transparent", true),
-                                   Text("InitialParent", row.place.parent),
-                               });
-}
-
-constexpr auto Entries(const PushButtonRow& row) {
-  return Join(Head(row.place), std::array{
-                                   Boolean("TabStop", false),
-                                   Boolean("AllowAutoDeactivate", true),
-                                   Integer("MacButtonStyle", 0),
-                                   Boolean("Cancel", false),
-                                   Text("Caption", row.caption),
-                                   Boolean("Default", row.is_default),
-                                   Boolean("Enabled", true),
-                                   Text("Tooltip"),
-                                   Boolean("Transparent", false),
-                                   Boolean("Visible", true),
-                                   Text("FontName", "System"),
-                                   PropertyEntry{"FontSize", row.font_size},
-                                   Boolean("FontUnit", false),
-                                   Boolean("Bold", row.bold),
-                                   Boolean("Italic", false),
-                                   Boolean("Underline", false),
-                                   Text("InitialParent", row.place.parent),
-                               });
-}
-
-constexpr auto Entries(const TimerRow& row) {
-  return std::array{Integer("RunMode", row.run_mode), Integer("Period", row.period)};
+template <std::size_t kSize>
+constexpr EncodedStream<kSize> Head(const PlaceRow& row) {
+  return EncodedStream<kSize>()
+      .Text("Name", row.name)
+      .Integer("Index", kNoIndex)
+      .Integer("Left", row.left)
+      .Integer("Top", row.top)
+      .Integer("Width", row.width)
+      .Integer("Height", row.height)
+      .Boolean("LockLeft", row.locks.left)
+      .Boolean("LockTop", row.locks.top)
+      .Boolean("LockRight", row.locks.right)
+      .Boolean("LockBottom", row.locks.bottom)
+      .Integer("TabIndex", row.tab_index)
+      .Integer("TabPanelIndex", 0);
 }
 
 }  // namespace internal
 
-// The stream of a row.
-template <const auto& kRow>
-inline constexpr PropertyStream kStreamOf = EncodeStream([] { return internal::Entries(kRow); });
+// The stream of a row, in the order of its entries. What stands here as a constant is the same for
+// every object of the class in this program.
+
+constexpr EncodedStream<kRoom> WindowStream(const WindowRow& row) {
+  return EncodedStream<kRoom>()
+      .Integer("Width", row.width)
+      .Integer("Height", row.height)
+      .Integer("MinimumWidth", 64)
+      .Integer("MinimumHeight", 64)
+      .Integer("MaximumWidth", row.maximum_width)
+      .Integer("MaximumHeight", row.maximum_height)
+      .Integer("Type", row.type)
+      .Text("Title", row.title)
+      .Boolean("HasCloseButton", true)
+      .Boolean("HasMaximizeButton", row.has_maximize_button)
+      .Boolean("HasMinimizeButton", true)
+      .Boolean("HasFullScreenButton", false)
+      .Boolean("Resizeable", row.resizeable)
+      .Boolean("Composite", row.composite)
+      .Integer("MacProcID", 0)
+      .Boolean("FullScreen", false)
+      .Integer("DefaultLocation", 0)
+      .Boolean("Visible", true)
+      .Boolean("HasBackgroundColor", row.has_background_colour)
+      .Colour("BackgroundColor", kWhite)
+      .Boolean("MenuBarVisible", true)
+      .Boolean("LiveResize", false);
+}
+
+constexpr EncodedStream<kRoom> LabelStream(const LabelRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Boolean("TabStop", row.tab_stop)
+      .Boolean("AllowAutoDeactivate", true)
+      .Boolean("Enabled", true)
+      .Text("Tooltip")
+      .Boolean("Multiline", false)
+      .Boolean("Selectable", false)
+      .Integer("TextAlignment", static_cast<std::int64_t>(row.alignment))
+      .Colour("TextColor", row.colour)
+      .Boolean("Transparent", true)
+      .Text("Value", row.value)
+      .Boolean("Visible", row.visible)
+      .Boolean("Bold", row.bold)
+      .Boolean("Italic", false)
+      .Text("FontName", "System")
+      .Boolean("Underline", false)
+      .Single("FontSize", row.font_size)
+      .Boolean("FontUnit", false)
+      .Text("DataSource")
+      .Text("DataField")
+      .Text("InitialParent", row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> TextFieldStream(const TextFieldRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Boolean("TabStop", true)
+      .Boolean("AllowAutoDeactivate", true)
+      .Colour("BackgroundColor", kWhite)
+      .Boolean("HasBorder", true)
+      .Boolean("Enabled", row.enabled)
+      .Text("Format")
+      .Text("Tooltip")
+      .Boolean("Password", false)
+      .Colour("TextColor", kBlack)
+      .Boolean("Transparent", true)
+      .Boolean("AllowFocusRing", true)
+      .Boolean("Visible", true)
+      .Text("FontName", "System")
+      .Single("FontSize", 12.0F)
+      .Boolean("FontUnit", false)
+      .Boolean("Bold", false)
+      .Boolean("Italic", false)
+      .Boolean("Underline", false)
+      .Text("Hint")
+      .Text("Value")
+      .Boolean("AllowTabs", false)
+      .Integer("TextAlignment", static_cast<std::int64_t>(row.alignment))
+      .Boolean("AllowSpellChecking", row.spell_checking)
+      .Integer("MaximumCharactersAllowed", row.maximum_characters)
+      .Text("ValidationMask", row.validation_mask)
+      .Boolean("ReadOnly", row.read_only)
+      .Text("DataSource")
+      .Text("DataField")
+      .Text("InitialParent", row.place.parent);
+}
+
+constexpr EncodedStream<kLongRoom> TextAreaStream(const TextAreaRow& row) {
+  return internal::Head<kLongRoom>(row.place)
+      .Boolean("TabStop", false)
+      .Boolean("AllowAutoDeactivate", true)
+      .Colour("BackgroundColor", kWhite)
+      .Boolean("HasBorder", true)
+      .Boolean("Enabled", true)
+      .Text("Format")
+      .Text("Tooltip")
+      .Boolean("HideSelection", true)
+      .Double("LineHeight", 0.0)
+      .Double("LineSpacing", 1.0)
+      .Boolean("Multiline", true)
+      .Boolean("HasHorizontalScrollbar", false)
+      .Boolean("HasVerticalScrollbar", false)
+      .Boolean("AllowStyledText", true)
+      .Colour("TextColor", kBlack)
+      .Boolean("Transparent", true)
+      .Boolean("AllowFocusRing", false)
+      .Boolean("Visible", true)
+      .Boolean("Bold", false)
+      .Boolean("Italic", false)
+      .Text("FontName", "System")
+      .Single("FontSize", 12.0F)
+      .Boolean("FontUnit", false)
+      .Boolean("Underline", false)
+      .Text("Value", row.value)
+      .Boolean("AllowTabs", false)
+      .Integer("TextAlignment", static_cast<std::int64_t>(TextAlignment::kDefault))
+      .Boolean("AllowSpellChecking", false)
+      .Integer("MaximumCharactersAllowed", 0)
+      .Text("ValidationMask")
+      .Boolean("ReadOnly", true)
+      .Text("DataSource")
+      .Text("DataField")
+      .Text("InitialParent", row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> SliderStream(const SliderRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Boolean("TabStop", true)
+      .Boolean("AllowAutoDeactivate", true)
+      .Boolean("Enabled", true)
+      .Text("Tooltip")
+      .Boolean("Transparent", true)
+      .Boolean("Visible", true)
+      .Integer("Value", row.value)
+      .Integer("MinimumValue", row.minimum)
+      .Integer("MaximumValue", row.maximum)
+      .Integer("LineStep", 1)
+      .Boolean("AllowLiveScrolling", true)
+      .Integer("PageStep", 1)
+      .Integer("TickMarkStyle", 0)
+      .Text("InitialParent", row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> RectangleStream(const RectangleRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Boolean("AllowAutoDeactivate", true)
+      .Double("BorderThickness", row.border_thickness)
+      .Colour("BottomRightColor", row.bottom_right)
+      .Boolean("Enabled", true)
+      .Colour("FillColor", row.fill)
+      .Text("Tooltip")
+      .Colour("TopLeftColor", row.top_left)
+      .Boolean("Transparent", true)
+      .Boolean("Visible", true)
+      .Text("InitialParent", row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> CanvasStream(const CanvasRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Boolean("TabStop", row.tab_stop)
+      .Boolean("AllowAutoDeactivate", true)
+      .Boolean("Enabled", row.enabled)
+      .Text("Tooltip")
+      .Boolean("AllowFocusRing", false)
+      .Boolean("Visible", true)
+      .Boolean("AllowFocus", false)
+      .Boolean("AllowTabs", false)
+      .Boolean("Transparent", true)
+      .Boolean("DoubleBuffer", false)
+      .Boolean("Transparent", true)
+      .Text("InitialParent", row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> PushButtonStream(const PushButtonRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Boolean("TabStop", false)
+      .Boolean("AllowAutoDeactivate", true)
+      .Integer("MacButtonStyle", 0)
+      .Boolean("Cancel", false)
+      .Text("Caption", row.caption)
+      .Boolean("Default", row.is_default)
+      .Boolean("Enabled", true)
+      .Text("Tooltip")
+      .Boolean("Transparent", false)
+      .Boolean("Visible", true)
+      .Text("FontName", "System")
+      .Single("FontSize", row.font_size)
+      .Boolean("FontUnit", false)
+      .Boolean("Bold", row.bold)
+      .Boolean("Italic", false)
+      .Boolean("Underline", false)
+      .Text("InitialParent", row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> TimerStream(const TimerRow& row) {
+  return EncodedStream<kRoom>().Integer("RunMode", row.run_mode).Integer("Period", row.period);
+}
 
 }  // namespace vamo
 
