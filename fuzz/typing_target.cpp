@@ -1,4 +1,4 @@
-// Insertion of any character into any text under any rule, against a rule of whole code points.
+// Typing of any character into any text under any rule, against a rule of whole code points.
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,12 +34,24 @@ bool Fits(const std::u32string& text, const std::u32string& mask) {
   return true;
 }
 
-// What may be inserted: the character or, for a digit, the character behind the fewest literals of
-// the mask with which it fits.
+// Whether zeros behind the literals that the mask begins with make way for the last one of them.
+bool MakeWay(const std::u32string& before, char32_t character, const std::u32string& literals) {
+  return !literals.empty() && !IsDigit(character) && literals.back() == character &&
+         before.size() > literals.size() &&
+         before == literals + std::u32string(before.size() - literals.size(), U'0');
+}
+
+// What may stand before the caret then: the character or, for a digit, the character behind the
+// fewest literals of the mask with which it fits.
 std::optional<std::u32string> Expected(const std::u32string& before, const std::u32string& after,
                                        char32_t character, const std::u32string& mask,
                                        std::int64_t maximum) {
   std::u32string inserted(1, character);
+  const std::u32string literals = mask.substr(0, mask.find(U'#'));
+  if (MakeWay(before, character, literals)) {
+    const std::u32string whole = literals + after;
+    return Fits(whole, mask) ? std::optional(literals) : std::nullopt;
+  }
   if (!mask.empty()) {
     for (std::size_t at = before.size(); !Fits(before + inserted, mask); ++at) {
       if (!IsDigit(character) || at >= mask.size() || mask[at] == U'#') return std::nullopt;
@@ -49,7 +61,7 @@ std::optional<std::u32string> Expected(const std::u32string& before, const std::
   const std::u32string whole = before + inserted + after;
   if (!mask.empty() && !Fits(whole, mask)) return std::nullopt;
   if (maximum > 0 && whole.size() > static_cast<std::size_t>(maximum)) return std::nullopt;
-  return inserted;
+  return before + inserted;
 }
 
 }  // namespace
@@ -64,11 +76,11 @@ void TryInput(Input input) {
   character.resize(NextCharacter(character, 0));
   if (character.empty()) return;
 
-  const auto inserted = Insertion(before, after, character, rule);
+  const auto typed = Typed(before, after, character, rule);
   const auto expected = Expected(CodePoints(before), CodePoints(after), CodePoints(character)[0],
                                  CodePoints(rule.mask), rule.maximum_characters);
-  Require(inserted.has_value() == expected.has_value(), "typed where it fits, and only there");
-  if (inserted) Require(CodePoints(*inserted) == *expected, "what is inserted");
+  Require(typed.has_value() == expected.has_value(), "typed where it fits, and only there");
+  if (typed) Require(CodePoints(*typed) == *expected, "what stands before the caret");
 }
 
 }  // namespace vamo

@@ -18,27 +18,31 @@ namespace {
 TEST(TypingRuleTest, TheMaskIsAPrefixPattern) {
   struct Case {
     const char *mask, *before, *typed, *after;
-    // Nothing where the character is refused.
-    std::optional<std::string> inserted;
+    // What then stands before the caret; nothing where the character is refused.
+    std::optional<std::string> result;
   };
   const Case kCases[] = {
-      {".###", "", "5", "", ".5"},     {".###", "", ".", "", "."},
-      {".###", ".", ".", "", {}},      {".###", ".55", "5", "", "5"},
-      {".###", ".555", "5", "", {}},   {".###", "", "3", ".5", {}},
-      {".###", ".1", "2", "3", "2"},   {".###", "", "a", "", {}},
-      {".###", "", "½", "", {}},       {"####", "", "0", "", "0"},
-      {"####", "1000", "1", "", {}},   {"####", "", ".", "", {}},
-      {"(##) #", "", "1", "", "(1"},   {"(##) #", "(12", "3", "", ") 3"},
-      {"(##) #", "(12", ")", "", ")"}, {"é#", "", "7", "", "é7"},
-      {"", "any", "ü", "thing", "ü"},  {"1#", "", "1", "", "1"},
-      {"1#", "", "2", "", "12"},       {"..", "", "2", "", {}},
+      {".###", "", "5", "", ".5"},        {".###", "", ".", "", "."},
+      {".###", ".", ".", "", {}},         {".###", ".55", "5", "", ".555"},
+      {".###", ".555", "5", "", {}},      {".###", "", "3", ".5", {}},
+      {".###", ".1", "2", "3", ".12"},    {".###", "", "a", "", {}},
+      {".###", "", "½", "", {}},          {"####", "", "0", "", "0"},
+      {"####", "1000", "1", "", {}},      {"####", "", ".", "", {}},
+      {"(##) #", "", "1", "", "(1"},      {"(##) #", "(12", "3", "", "(12) 3"},
+      {"(##) #", "(12", ")", "", "(12)"}, {"é#", "", "7", "", "é7"},
+      {"", "any", "ü", "thing", "anyü"},  {"1#", "", "1", "", "1"},
+      {"1#", "", "2", "", "12"},          {"..", "", "2", "", {}},
+      {".###", ".0", ".", "", "."},       {".###", ".00", ".", "5", "."},
+      {".###", ".05", ".", "", {}},       {".###", ".0", ".", "555", "."},
+      {"(##) #", "(0", "(", "", "("},     {"(##) #", "(00) 0", ")", "", {}},
+      {"00#", "000", "0", "", {}},
   };
   for (const Case& test : kCases) {
-    EXPECT_EQ(Insertion(test.before, test.after, test.typed, {test.mask, 0}), test.inserted)
+    EXPECT_EQ(Typed(test.before, test.after, test.typed, {test.mask, 0}), test.result)
         << test.mask << " " << test.before << "|" << test.typed << "|" << test.after;
   }
-  EXPECT_EQ(Insertion("ab", "é", "x", {"", 4}), "x");
-  EXPECT_EQ(Insertion("ab", "éc", "x", {"", 4}), std::nullopt) << "characters count, not bytes";
+  EXPECT_EQ(Typed("ab", "é", "x", {"", 4}), "abx");
+  EXPECT_EQ(Typed("ab", "éc", "x", {"", 4}), std::nullopt) << "characters count, not bytes";
 }
 
 TEST(Utf8Test, BrokenSequencesBecomeReplacementCharacters) {
@@ -120,6 +124,8 @@ TEST_F(TextFieldTest, DeletingTakesWholeCharactersOrTheSelection) {
   const std::size_t changes = recorder_->changes.size();
   Press("\b");
   Press("\x7F");
+  EXPECT_EQ(recorder_->changes.size(), changes) << "nothing was deleted";
+  field_->UserPasted("");
   EXPECT_EQ(recorder_->changes.size(), changes);
 }
 

@@ -115,6 +115,11 @@ void TextEdit::UserPasted(std::string_view text) {
 
 void TextEdit::ReplaceSelection(std::string_view text) {
   const auto [first, last] = std::minmax(selection_.anchor, selection_.caret);
+  Replace(first, last, text);
+}
+
+void TextEdit::Replace(std::size_t first, std::size_t last, std::string_view text) {
+  if (first == last && text.empty()) return;
   State next{text_.substr(0, first), {}};
   next.text += text;
   next.selection = {next.text.size(), next.text.size()};

@@ -64,7 +64,10 @@ class TextEdit : public RectControl {
   void EnteredByTab() override { UserSelected(0, text_.size()); }
 
  protected:
-  // Puts `text` in the place of the selection, as the user's own edit.
+  // Puts `text` in the place of what lies between two offsets, and the caret behind it, as the
+  // user's own edit. The change is raised even where the text is the same afterwards: the program
+  // may have changed its mind about that text since. Nothing for nothing is no edit.
+  void Replace(std::size_t first, std::size_t last, std::string_view text);
   void ReplaceSelection(std::string_view text);
   // Deletes the selection or, where there is none, from the caret to `end`.
   void DeleteTo(std::size_t end);

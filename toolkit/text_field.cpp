@@ -70,10 +70,11 @@ bool TextField::TakeKey(const Key& key) {
 void TextField::Type(std::string_view character) {
   const auto [anchor, caret] = GetSelection();
   const std::string_view text = Text();
-  const auto inserted = Insertion(text.substr(0, std::min(anchor, caret)),
-                                  text.substr(std::max(anchor, caret)), character, rule_);
-  if (inserted.has_value()) {
-    ReplaceSelection(*inserted);
+  const std::size_t end = std::max(anchor, caret);
+  const auto typed =
+      Typed(text.substr(0, std::min(anchor, caret)), text.substr(end), character, rule_);
+  if (typed.has_value()) {
+    Replace(0, end, *typed);
   } else {
     Beep();
   }

@@ -44,18 +44,33 @@ std::string Literals(std::string_view before, std::string_view digit, std::strin
   return literals;
 }
 
+// Whether the user has begun with zeros where the mask wants its `literals` first, which came in by
+// themselves, and now types the literal that he has had in mind all along.
+bool TakesPlaceOfZeros(std::string_view before, std::string_view character,
+                       std::string_view literals) {
+  return !literals.empty() && !IsDigit(character) && literals.ends_with(character) &&
+         before.starts_with(literals) && before.size() > literals.size() &&
+         before.find_first_not_of('0', literals.size()) == std::string_view::npos;
+}
+
 }  // namespace
 
-std::optional<std::string> Insertion(std::string_view before, std::string_view after,
-                                     std::string_view character, const TypingRule& rule) {
-  std::string inserted(character);
-  if (IsDigit(character)) inserted.insert(0, Literals(before, character, rule.mask));
-  std::string whole(before);
-  (whole += inserted) += after;
+std::optional<std::string> Typed(std::string_view before, std::string_view after,
+                                 std::string_view character, const TypingRule& rule) {
+  std::string typed(before);
+  const std::string_view literals =
+      std::string_view(rule.mask).substr(0, rule.mask.find(kDigitPlace));
+  if (TakesPlaceOfZeros(before, character, literals)) {
+    typed = literals;
+  } else {
+    if (IsDigit(character)) typed += Literals(before, character, rule.mask);
+    typed += character;
+  }
+  const std::string whole = typed + std::string(after);
   if (!rule.mask.empty() && !Fits(whole, rule.mask)) return std::nullopt;
   const auto maximum = static_cast<std::size_t>(rule.maximum_characters);
   if (rule.maximum_characters > 0 && CharacterCount(whole) > maximum) return std::nullopt;
-  return inserted;
+  return typed;
 }
 
 }  // namespace vamo

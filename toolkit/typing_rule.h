@@ -18,12 +18,14 @@ struct TypingRule {
   std::int64_t maximum_characters = 0;
 };
 
-// What to insert between `before` and `after` when the user types `character`: the character
-// itself, with the mask's literals in front of it where a digit is typed and the mask wants them
-// there ("5" into the empty field under ".###" gives ".5"). Nothing where the whole would not fit
-// the rule. All texts are valid UTF-8.
-std::optional<std::string> Insertion(std::string_view before, std::string_view after,
-                                     std::string_view character, const TypingRule& rule);
+// What stands in front of the caret when the user has typed `character` between `before` and
+// `after`: the character behind `before`, with the mask's literals between them where a digit is
+// typed and the mask wants them there. So "5" into the empty field under ".###" gives ".5". "0.5"
+// gives ".5" too: the zero has become ".0" when the point comes, and a literal that is typed after
+// itself and nothing but zeros takes their place. Nothing where the whole would not fit the rule.
+// All texts are valid UTF-8.
+std::optional<std::string> Typed(std::string_view before, std::string_view after,
+                                 std::string_view character, const TypingRule& rule);
 
 }  // namespace vamo
 

@@ -51,6 +51,19 @@ TEST(ControlWindowJourney, TypingRAndNShowsTheResults) {
   });
 }
 
+TEST(ControlWindowJourney, AZeroBeforeThePointIsNoDecimal) {
+  InControlWindow([](User& user) {
+    for (const auto& [typed, shown] : {std::pair{"0.5", ".5"}, {"00.37", ".37"}, {"0.05", ".05"}}) {
+      Retype(user, "r", typed);
+      EXPECT_EQ(FieldText(user, "r"), shown) << typed;
+    }
+    EXPECT_EQ(user.Beeps(), 0);
+    Retype(user, "r", "05.");
+    EXPECT_EQ(FieldText(user, "r"), ".05");
+    EXPECT_EQ(user.Beeps(), 1) << "with another digit before it the point is refused";
+  });
+}
+
 TEST(ControlWindowJourney, DraggingTheSlidersShowsTheResults) {
   InControlWindow([](User& user) {
     user.DragSlider("r", {12, 50, 37});
