@@ -61,7 +61,9 @@ class WatchedField : public Object {
       field_->SetText(input.ShortText());
       if (field_->Text() != before) way_back_.clear();
     } else {
+      users_edit_ = true;
       Edit(input, kind);
+      users_edit_ = false;
       if (field_->Text() != before) way_back_.push_back(before);
       if (way_back_.size() > kStepsBack) way_back_.erase(way_back_.begin());
     }
@@ -70,7 +72,8 @@ class WatchedField : public Object {
 
  private:
   void TakeChange(Ref<TextField> field) {
-    Require(field->Text() != announced_, "announced for another text only");
+    Require(users_edit_ || field->Text() != announced_,
+            "a write is announced for another text only");
     announced_ = field->Text();
   }
 
@@ -125,6 +128,7 @@ class WatchedField : public Object {
 
   Ref<TextField> field_ = New<TextField>();
   std::string announced_;
+  bool users_edit_ = false;
   std::vector<std::string> way_back_;
 };
 

@@ -87,6 +87,19 @@ TEST_F(TextFieldTest, AWriteRaisesTheChangeInsideAndOnlyForAnotherText) {
   EXPECT_EQ(recorder_->changes.size(), 2U);
 }
 
+TEST_F(TextFieldTest, AnEditOfTheUsersRaisesTheChangeForTheSameTextToo) {
+  field_->SetText("7");
+  for (const auto& edit : {+[](TextField& field) { field.TakeKey(Key::Character("7")); },
+                           +[](TextField& field) { field.UserPasted("7"); }}) {
+    field_->UserSelected(0, 1);
+    const std::size_t changes = recorder_->changes.size();
+    edit(*field_);
+    EXPECT_EQ(recorder_->changes.size(), changes + 1);
+    EXPECT_EQ(field_->Text(), "7");
+    EXPECT_FALSE(field_->CanUndo()) << "there is nothing to go back to";
+  }
+}
+
 TEST_F(TextFieldTest, APasteIsOneChangeAndOneStepBack) {
   field_->SetText("ab");
   field_->UserSelected(1, 1);

@@ -146,12 +146,11 @@ void TextEdit::DeleteTo(std::size_t end) {
 }
 
 void TextEdit::Restore(State state) {
-  const bool changed = text_ != state.text;
   text_ = std::move(state.text);
   selection_ = state.selection;
   Changed();
   const Flagged users_edit(in_users_edit_);
-  if (changed) RaiseTextChange();
+  RaiseTextChange();
 }
 
 }  // namespace vamo

@@ -99,7 +99,9 @@ TEST(WindowJourney, ComingBackResetsTheModelBehindUnchangedControls) {
     Retype(user, "N", "31");
     EXPECT_EQ(FieldText(user, "r"), ".5");
     EXPECT_EQ(ResultLine(user), ".00 | .99999 | -.354 to +.354");
-    Retype(user, "r", ".5");
+    user.PressKey({KeyCode::kCharacter, std::string(1, kTab), /*shift=*/true});
+    user.Type("5");
+    EXPECT_EQ(FieldText(user, "r"), ".5") << "the same text, and yet the user has set r";
     EXPECT_EQ(ResultLine(user), "3.11 | .00418 | +.177 to +.726");
   });
 }
