@@ -88,6 +88,13 @@ cat(sprintf(
   length(r), sum(exact < 0.05 & exact_lo <= 0), sum(exact >= 0.05 & exact_lo > 0)
 ))
 
+# Limits whose digits are all zeros tell by their sign alone on which side of zero they lie.
+limits <- texts(ours["lo", ], masks["lo"])
+cat(sprintf(
+  "\nLower limits that read \"+.000\": %d; that read \"-.000\": %d.\n",
+  sum(limits == "+.000"), sum(limits == "-.000")
+))
+
 cat("\n| N | Least r by p < .05 | Least r by the interval | Difference |\n|---|---|---|---|\n")
 for (n in c(4, 5, 6, 7, 11, 30, 100, 1000)) {
   point <- qt(0.975, n - 2)

@@ -64,11 +64,11 @@ TEST(FormatTest, MasksOfTheWindow) {
   });
 }
 
-TEST(FormatTest, SignFollowsTheRoundedValue) {
+TEST(FormatTest, ASignPositionFollowsTheValueAndNotItsDigits) {
   ExpectFormats({
       {-0.0, "+.000", ".000"},
-      {0.0004, "+.000", ".000"},
-      {-0.0004, "+.000", ".000"},
+      {0.0004, "+.000", "+.000"},
+      {-0.0004, "+.000", "-.000"},
       {-0.0004, ".000", ".000"},
       {-0.0006, "+.000", "-.001"},
       {0.0006, "+.000", "+.001"},

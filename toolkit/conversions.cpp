@@ -166,7 +166,8 @@ std::string Format(double value, std::string_view mask) {
   }
 
   Digits digits = RoundToDecimals(std::fabs(value), layout.decimals);
-  std::string text(IsZero(digits) ? "" : SignText(value < 0, layout.sign));
+  const bool has_sign = layout.sign ? value != 0 : !IsZero(digits);
+  std::string text(has_sign ? SignText(value < 0, layout.sign) : "");
   DropTrailingZeros(digits.decimals, layout.least_decimals);
   if (digits.whole.size() < layout.least_whole) {
     text.append(layout.least_whole - digits.whole.size(), '0');

@@ -17,9 +17,11 @@ namespace vamo {
 //      the point sets the fewest whole digits and the last 0 behind it the fewest decimals.
 //   .  the point, always written; the first one counts.
 //   +  a sign in front, "+" as well as "-".
-// Other characters are skipped. A negative value has its "-" under every mask, what rounds to zero
-// has no sign, and whole digits for which the mask has no position are written all the same: 1
-// under "+.000" is "+1.000". Not-a-number is "n/a"; the infinities are "inf" ("+inf" with a +) and
+// Other characters are skipped. Under a mask with a +, the sign follows the value and not its
+// rounded digits, so that the text tells on which side of zero it lies: "-.000" just below it,
+// ".000" for zero itself. Without one, a negative value has its "-" unless it rounds to zero. Whole
+// digits for which the mask has no position are written all the same: 1 under "+.000" is "+1.000".
+// Not-a-number is "n/a"; the infinities are "inf" ("+inf" with a +) and
 // "-inf".
 std::string Format(double value, std::string_view mask);
 

@@ -21,8 +21,6 @@ std::string Number(const char* format, double number) {
 // The same without the 0 in front of the point, behind a sign or not.
 std::string Decimals(const char* format, double number) {
   std::string text = Number(format, number);
-  // What rounds to zero has no sign.
-  if (text.find_first_of("123456789") == std::string::npos && text[0] != '0') text.erase(0, 1);
   const std::size_t first = text.find_first_not_of("+-");
   if (text.compare(first, 2, "0.") == 0) text.erase(first, 1);
   return text;
