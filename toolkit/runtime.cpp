@@ -60,7 +60,8 @@ void Runtime::DeregisterFileType(const FileType& type) {
   std::erase_if(file_types_, [&](const Ref<FileType>& known) { return &*known == &type; });
 }
 
-void Runtime::Dispatch(const std::function<void()>& event) {
+void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
+  const Cause outer = std::exchange(event_cause_, cause);
   try {
     if (const std::exception_ptr exception = exception_helper_(event)) TakeException(exception);
   } catch (...) {
@@ -68,6 +69,7 @@ void Runtime::Dispatch(const std::function<void()>& event) {
     raised_again_ = std::current_exception();
     End(1);
   }
+  event_cause_ = outer;
 }
 
 void Runtime::TakeException(const std::exception_ptr& exception) {

@@ -77,11 +77,16 @@ class Runtime {
 
   void SetExceptionHelper(ExceptionHelper helper) { exception_helper_ = std::move(helper); }
 
+  // Who has caused an event.
+  enum class Cause { kUser, kTimer };
+
   // Runs one event. A RuntimeException that leaves it ends here: EndException and
   // ThreadEndException silently, any other in the application's UnhandledException event or else in
   // the default action. What is no RuntimeException ends the event loop and is raised again out of
   // Run.
-  void Dispatch(const std::function<void()>& event);
+  void Dispatch(const std::function<void()>& event, Cause cause = Cause::kUser);
+  // The cause of the event that runs; the user where none does.
+  Cause EventCause() const { return event_cause_; }
 
   // Takes the user's events until End; returns at once where End has been called already.
   void Run();
@@ -108,6 +113,7 @@ class Runtime {
   std::vector<Ref<FileType>> file_types_;
   ExceptionHelper exception_helper_;
   std::exception_ptr raised_again_;
+  Cause event_cause_ = Cause::kUser;
   bool ending_ = false;
   int exit_code_ = 0;
 };

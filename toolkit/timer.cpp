@@ -37,11 +37,12 @@ void Timer::Restart() {
 }
 
 void Timer::_CallAction() {
-  Runtime::Current().Dispatch([this, self = Self(this)] {
+  const auto act = [this, self = Self(this)] {
     if (run_mode_ == RunMode::kOff) return;
     if (run_mode_ == RunMode::kSingle) Stop();
     if (Action) Action.Invoke(self);
-  });
+  };
+  Runtime::Current().Dispatch(act, Runtime::Cause::kTimer);
 }
 
 void _wrapper_Timer1::_SetWindow(const Ref<class Window>& window) {

@@ -72,6 +72,7 @@ void Window::MakeView() {
 void Window::Show() {
   _UITrap();
   if (!IsLive()) return;
+  if (visible_ && Runtime::Current().EventCause() != Runtime::Cause::kUser) return;
   visible_ = true;
   view_->Show();
 }

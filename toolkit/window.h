@@ -43,7 +43,9 @@ class Window : public Object {
   // then it is live, and comes on the screen where its state says Visible.
   void Constructor();
 
-  // Makes the window visible, brings it to the front and gives it the focus.
+  // Makes the window visible, brings it to the front and gives it the focus. A window that is
+  // visible already stays where it is, minimised perhaps, when a timer shows it: only the user may
+  // be taken away from what he is typing into.
   void Show();
   // Makes the window invisible. It stays live, with its state.
   void Hide();

@@ -45,6 +45,14 @@ TEST(WindowJourney, AboutStaysUntilItIsDismissed) {
   });
 }
 
+TEST(WindowJourney, TheTimerOfTheSplashTakesTheKeysFromNobody) {
+  InControlWindow([](User& user) {
+    user.Click(Role::kButton, "Info");
+    user.Wait(4500ms);
+    EXPECT_EQ(user.ActiveTitle(), "Info");
+  });
+}
+
 TEST(WindowJourney, InfoIsOneWindowThatCanBeReopened) {
   InControlWindow([](User& user) {
     user.Click(Role::kButton, "Info");

@@ -58,11 +58,22 @@ void HeadlessDisplay::Run() {
 }
 
 void HeadlessDisplay::RunEvents() {
-  while (!events_.empty() && !stopped_) {
-    const std::function<void()> event = std::move(events_.front());
-    events_.pop_front();
-    event();
-  }
+  do {
+    while (!events_.empty() && !stopped_) {
+      const std::function<void()> event = std::move(events_.front());
+      events_.pop_front();
+      event();
+    }
+  } while (!stopped_ && GiveKeysToFrontWindow());
+}
+
+bool HeadlessDisplay::GiveKeysToFrontWindow() {
+  if (away_ || Runtime::Current().ActiveWindow()) return false;
+  const auto front = std::find_if(windows_.rbegin(), windows_.rend(),
+                                  [](const HeadlessWindow* window) { return window->OnScreen(); });
+  if (front == windows_.rend()) return false;
+  Activate(**front);
+  return true;
 }
 
 void HeadlessDisplay::Act(const std::function<void()>& act) {
@@ -167,10 +178,14 @@ void HeadlessDisplay::ActivateWindow(std::string_view title) {
 }
 
 void HeadlessDisplay::SwitchAway() {
-  Act([&] { ActiveView().Window().UserDeactivated(); });
+  Act([&] {
+    away_ = true;
+    ActiveView().Window().UserDeactivated();
+  });
 }
 
 void HeadlessDisplay::Activate(HeadlessWindow& window) {
+  away_ = false;
   const Ref<vamo::Window> before = Runtime::Current().ActiveWindow();
   std::rotate(std::find(windows_.begin(), windows_.end(), &window),
               std::find(windows_.begin(), windows_.end(), &window) + 1, windows_.end());

@@ -113,6 +113,8 @@ class HeadlessDisplay : public Display {
   // Does something as the user, unless the program has ended.
   void Act(const std::function<void()>& act);
   void Activate(HeadlessWindow& window);
+  // As a desktop does when the window that had the keys has gone. Whether there was one to give to.
+  bool GiveKeysToFrontWindow();
   HeadlessWindow& ActiveView() const;
   HeadlessWindow& Titled(std::string_view title) const;
   HeadlessControl& Find(Role role, std::string_view name) const;
@@ -129,6 +131,8 @@ class HeadlessDisplay : public Display {
   std::string clipboard_;
   bool has_pictures_ = true;
   bool stopped_ = false;
+  // The keys go to another program.
+  bool away_ = false;
   int beeps_ = 0;
 };
 
