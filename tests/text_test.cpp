@@ -103,9 +103,9 @@ TEST_F(TextFieldTest, AnEditOfTheUsersRaisesTheChangeForTheSameTextToo) {
 TEST_F(TextFieldTest, APasteIsOneChangeAndOneStepBack) {
   field_->SetText("ab");
   field_->UserSelected(1, 1);
-  field_->UserPasted("x\r\ny\xFFz");
+  field_->UserPasted("x\r\ny\xFFz\n\r");
   EXPECT_EQ(recorder_->changes.size(), 2U);
-  EXPECT_EQ(field_->Text(), "axy\xEF\xBF\xBDzb");
+  EXPECT_EQ(field_->Text(), "ax y\xEF\xBF\xBDz  b");
   field_->Undo();
   EXPECT_EQ(field_->Text(), "ab");
   EXPECT_FALSE(field_->CanUndo());

@@ -28,6 +28,19 @@ class Flagged {
   const bool before_;
 };
 
+// The text with a blank for each line break, so that two numbers do not become one.
+std::string OnOneLine(std::string_view text) {
+  std::string line;
+  line.reserve(text.size());
+  char previous = 0;
+  for (const char c : text) {
+    const bool ends_pair = previous == '\r' && c == '\n';
+    if (!ends_pair) line += c == '\r' || c == '\n' ? ' ' : c;
+    previous = c;
+  }
+  return line;
+}
+
 }  // namespace
 
 const ClassInfo TextEdit::kClass{"TextEdit", &RectControl::kClass, Properties()};
@@ -107,9 +120,7 @@ void TextEdit::UserSelected(std::size_t anchor, std::size_t caret) {
 void TextEdit::UserPasted(std::string_view text) {
   Runtime::Current().Dispatch([this, self = Self(this), text] {
     if (read_only_ || !Enabled()) return;
-    std::string line = ValidUtf8(text);
-    std::erase_if(line, [](char c) { return c == '\r' || c == '\n'; });
-    ReplaceSelection(line);
+    ReplaceSelection(OnOneLine(ValidUtf8(text)));
   });
 }
 

@@ -58,7 +58,7 @@ class TextEdit : public RectControl {
   // character are moved to the boundary before.
   void UserSelected(std::size_t anchor, std::size_t caret);
   // The user has pasted or dropped a text over the selection. It goes in as it is, but for broken
-  // UTF-8 and line breaks; no filter, mask or limit holds.
+  // UTF-8 and for line breaks, which become a blank each; no filter, mask or limit holds.
   void UserPasted(std::string_view text);
 
   void EnteredByTab() override { UserSelected(0, text_.size()); }
