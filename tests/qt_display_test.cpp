@@ -136,6 +136,15 @@ TEST(QtDisplayTest, TheContentIsExactlyAsLargeAsItSays) {
   });
 }
 
+TEST(QtDisplayTest, ADesktopThatIsReadFromTheRightChangesNothing) {
+  QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+  InControlWindow([](User&) {
+    for (const QWidget* widget : QApplication::activeWindow()->findChildren<QWidget*>()) {
+      EXPECT_EQ(widget->layoutDirection(), Qt::LeftToRight) << widget->metaObject()->className();
+    }
+  });
+}
+
 // The smallest rectangle that holds all that a label has drawn.
 QRect Ink(QLabel& label) {
   QImage image(label.size(), QImage::Format_RGB32);

@@ -64,6 +64,8 @@ std::unique_ptr<QApplication> StartApplication(int& argc, char** argv) {
   qInstallMessageHandler(usual);
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication::setPalette(LightColours());
+  // A number that begins with a point would end with it on a desktop that is read from the right.
+  QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   QApplication::setQuitOnLastWindowClosed(false);
   // An installed program is known to the desktop by its desktop file, and its icon by the theme.
   QGuiApplication::setDesktopFileName(QStringLiteral("vamo"));
