@@ -51,7 +51,7 @@ class HeadlessUser : public User {
     const ShownControl* focused = display_.Focused();
     return focused == nullptr ? ShownControl{} : *focused;
   }
-  std::string Clipboard() override { return display_.ClipboardText(); }
+  std::string Clipboard() override { return display_.Clipboard(); }
   int Beeps() override { return display_.Beeps(); }
 
  private:

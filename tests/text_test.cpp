@@ -168,7 +168,7 @@ TEST_F(TextFieldTest, AReadOnlyOrDisabledFieldKeepsItsText) {
   field_->Cut();
   EXPECT_EQ(field_->Text(), "fixed");
   field_->Copy();
-  EXPECT_EQ(program_.display().ClipboardText(), "fixed");
+  EXPECT_EQ(program_.display().Clipboard(), "fixed");
   EXPECT_FALSE(field_->CanPaste());
 
   const auto disabled = New<TextField>();

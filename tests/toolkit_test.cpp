@@ -359,11 +359,13 @@ TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {
   EXPECT_FALSE(program_.display().CanChoose("Edit/EditCopy"));
   program_.display().Select("field", 0, 2);
   EXPECT_TRUE(program_.display().Choose("Edit/EditCopy"));
-  EXPECT_EQ(program_.display().ClipboardText(), "te");
+  EXPECT_EQ(program_.display().Clipboard(), "te");
+  EXPECT_TRUE(window_->field()->CanPaste());
+  EXPECT_EQ(program_.display().ClipboardReads(), 0) << "enabling the items reads no clipboard";
   app_->_AddMenuHandler("EditCopy", Handler(&Log::Take));
   program_.display().Select("field", 0, 3);
   program_.display().PressKey(Key::Command("c"));
-  EXPECT_EQ(program_.display().ClipboardText(), "te");
+  EXPECT_EQ(program_.display().Clipboard(), "te");
 }
 
 }  // namespace

@@ -90,8 +90,13 @@ class Display {
   virtual std::unique_ptr<RunningTimer> StartTimer(std::chrono::milliseconds period,
                                                    std::function<void()> fire) = 0;
 
-  // The clipboard's text in UTF-8, empty where it holds none; called for Paste.
+  // The clipboard's text in UTF-8, empty where it holds none; called for Paste alone. It may take
+  // long: the text may have to come from another program, which may hang.
   virtual std::string ClipboardText() = 0;
+
+  // Whether Paste may find a text, called each time that the menus are brought up to date: must be
+  // answered without asking another program, and with true where that is not possible.
+  virtual bool ClipboardMayHoldText() const = 0;
 
   // Called for Cut and Copy, with text that is not empty.
   virtual void SetClipboardText(std::string_view text) = 0;

@@ -88,7 +88,7 @@ std::string_view TextEdit::SelectedText() const {
 }
 
 bool TextEdit::CanPaste() const {
-  return !read_only_ && !Runtime::Current().GetDisplay().ClipboardText().empty();
+  return !read_only_ && Runtime::Current().GetDisplay().ClipboardMayHoldText();
 }
 
 void TextEdit::Undo() {

@@ -106,6 +106,17 @@ TEST(Faults, ADisplayThatGoesEndsTheProgram) {
   EXPECT_EQ(InControlWindow({}, journey), 1);
 }
 
+TEST(Faults, AClipboardWhoseOwnerHangsDisturbsNobody) {
+  Child owner({"xclip", "-quiet", "-selection", "clipboard", "-i", VAMO_CHART}, {});
+  ASSERT_TRUE(Await([] { return !hand::Clipboard().empty(); }));
+  kill(owner.id(), SIGSTOP);
+  InControlWindow({}, [](OutsideUser& user) {
+    ExpectResultsAfterTyping(user);
+    user.Click(Role::kButton, "Info");
+    EXPECT_EQ(user.ActiveTitle(), "Info");
+  });
+}
+
 TEST(Faults, TheSystemsRequestToEndIsFollowedAtOnce) {
   const auto journey = [](OutsideUser& user) {
     ExpectResultsAfterTyping(user);

@@ -261,6 +261,11 @@ HeadlessControl& HeadlessDisplay::FindDescribed(std::string_view description) co
   FailToFind("control described as", description);
 }
 
+std::string HeadlessDisplay::ClipboardText() {
+  ++clipboard_reads_;
+  return clipboard_;
+}
+
 std::unique_ptr<WindowView> HeadlessDisplay::OpenWindow(Window& window) {
   return std::make_unique<HeadlessWindow>(*this, window);
 }

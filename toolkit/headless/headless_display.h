@@ -90,7 +90,9 @@ class HeadlessDisplay : public Display {
   bool CanChoose(std::string_view path);
   int Beeps() const { return beeps_; }
   bool Running() const { return !stopped_; }
-  std::string ClipboardText() override { return clipboard_; }
+  const std::string& Clipboard() const { return clipboard_; }
+  // How often the clipboard has been read.
+  int ClipboardReads() const { return clipboard_reads_; }
 
   // Display.
   void Run() override;
@@ -100,6 +102,8 @@ class HeadlessDisplay : public Display {
   std::shared_ptr<DisplayPicture> OpenPicture(std::string_view file_name) override;
   std::unique_ptr<RunningTimer> StartTimer(std::chrono::milliseconds period,
                                            std::function<void()> fire) override;
+  std::string ClipboardText() override;
+  bool ClipboardMayHoldText() const override { return !clipboard_.empty(); }
   void SetClipboardText(std::string_view text) override { clipboard_ = text; }
   bool MenuBarsLiveInWindows() const override { return false; }
 
@@ -129,6 +133,7 @@ class HeadlessDisplay : public Display {
   std::vector<class HeadlessTimer*> timers_;
   std::chrono::milliseconds now_{0};
   std::string clipboard_;
+  int clipboard_reads_ = 0;
   bool has_pictures_ = true;
   bool stopped_ = false;
   // The keys go to another program.

@@ -2,6 +2,7 @@
 #include "qt_display.h"
 
 #include <QClipboard>
+#include <QMimeData>
 #include <QTimer>
 #include <algorithm>
 #include <limits>
@@ -81,6 +82,12 @@ std::unique_ptr<RunningTimer> QtDisplay::StartTimer(std::chrono::milliseconds pe
 }
 
 std::string QtDisplay::ClipboardText() { return ToUtf8(QGuiApplication::clipboard()->text()); }
+
+// What another program holds, it would have to be asked for, and Qt waits for the answer.
+bool QtDisplay::ClipboardMayHoldText() const {
+  const QClipboard* clipboard = QGuiApplication::clipboard();
+  return !clipboard->ownsClipboard() || clipboard->mimeData()->hasText();
+}
 
 void QtDisplay::SetClipboardText(std::string_view text) {
   QGuiApplication::clipboard()->setText(ToQString(text));

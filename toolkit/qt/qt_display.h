@@ -27,6 +27,7 @@ class QtDisplay : public Display {
   std::unique_ptr<RunningTimer> StartTimer(std::chrono::milliseconds period,
                                            std::function<void()> fire) override;
   std::string ClipboardText() override;
+  bool ClipboardMayHoldText() const override;
   void SetClipboardText(std::string_view text) override;
   bool MenuBarsLiveInWindows() const override;
 
