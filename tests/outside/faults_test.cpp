@@ -26,13 +26,11 @@ void AwaitEnd(OutsideUser& user) {
   Await([&] { return !user.Running(); });
 }
 
-// How many colours the picture's place in the control window has.
-std::string ColoursOfThePicture(OutsideUser& user) {
-  const WindowOnScreen window = user.WindowTitled("Vamo");
-  // The content is 425 high, below the menu bar; the picture is 92 by 72 at 9, 9 of it.
-  const std::string place = "92x72+9+" + std::to_string(window.height - 425 + 9);
+// Whether a window has more than one colour where its picture of 92 by 72 belongs.
+bool ShowsPicture(const WindowOnScreen& window, int left, int top) {
+  const std::string place = "92x72+" + std::to_string(left) + "+" + std::to_string(top);
   return Output({"convert", "x:" + std::to_string(window.id), "-crop", place, "+repage", "-format",
-                 "%k", "info:"});
+                 "%k", "info:"}) != "1";
 }
 
 // The program with a picture of its own beside it, in a folder that goes with the object.
@@ -79,12 +77,20 @@ TEST(Faults, APictureThatIsNotOneLeavesItsPlaceEmpty) {
     const Copy copy;
     test.make(copy);
     const auto journey = [&](OutsideUser& user) {
-      EXPECT_EQ(ColoursOfThePicture(user) != "1", test.shown);
+      // The content is 425 high, below the menu bar.
+      const WindowOnScreen window = user.WindowTitled("Vamo");
+      EXPECT_EQ(ShowsPicture(window, 9, window.height - 425 + 9), test.shown);
       ExpectResultsAfterTyping(user);
       user.Close("Vamo");
     };
     EXPECT_EQ(InControlWindow({}, journey, {copy.Program()}), 0);
   }
+}
+
+TEST(Faults, WhatQtSaysWhileItReadsThePictureIsNoDamage) {
+  RunProgramWith({{"QT_LOGGING_RULES", "qt.core.library.debug=true"}}, [](OutsideUser& user) {
+    EXPECT_TRUE(ShowsPicture(user.WindowTitled(""), 104, 60));
+  });
 }
 
 TEST(Faults, WithoutADisplayOneLineSaysWhatToDo) {

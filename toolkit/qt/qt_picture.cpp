@@ -15,18 +15,25 @@ namespace {
 constexpr std::array kFolders{".", "../share/vamo", "../Resources"};
 
 bool complained = false;
+QtMessageHandler usual_handler = nullptr;
 
-void NoteComplaint(QtMsgType /*type*/, const QMessageLogContext& /*context*/,
-                   const QString& /*text*/) {
-  complained = true;
+// Keeps the decoders' warnings to itself; whatever else is said meanwhile goes its usual way.
+void NoteComplaint(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  constexpr std::string_view kDecoders = "qt.gui.imageio";
+  const std::string_view category = context.category == nullptr ? "" : context.category;
+  if (type == QtWarningMsg && category.starts_with(kDecoders)) {
+    complained = true;
+  } else {
+    usual_handler(type, context, text);
+  }
 }
 
 // Decoders fill up the rest of a file that has been cut off, and tell of it only by a message.
 QImage Read(const QString& path) {
   complained = false;
-  const QtMessageHandler usual = qInstallMessageHandler(NoteComplaint);
+  usual_handler = qInstallMessageHandler(NoteComplaint);
   QImage image = QImageReader(path).read();
-  qInstallMessageHandler(usual);
+  qInstallMessageHandler(usual_handler);
   return complained ? QImage() : image;
 }
 
