@@ -178,6 +178,28 @@ TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
   EXPECT_EQ(log->entries, (std::vector<std::string>{"3", "100", "0"}));
 }
 
+// Takes itself out of the event that it hears, and goes on.
+struct Fleeting : Object {
+  void Hear(Ref<Slider> slider) {
+    slider->ValueChanged = {};
+    heard = slider->Value();
+  }
+  ~Fleeting() override { gone_with = heard; }
+  std::int64_t heard = 0;
+  static inline std::int64_t gone_with = 0;
+};
+
+TEST(SliderTest, AHandlerCanTakeItselfOut) {
+  TestProgram program;
+  const auto slider = New<Slider>();
+  slider->ValueChanged =
+      Delegate<void(Ref<Slider>)>(New<Fleeting>(), &Fleeting::Hear, ReceiverFlag::kStrong);
+  slider->UserMovedTo(7);
+  EXPECT_EQ(Fleeting::gone_with, 7) << "it has gone before it was through";
+  slider->UserMovedTo(8);
+  EXPECT_EQ(Fleeting::gone_with, 7);
+}
+
 TEST(SliderTest, StepsOfAnySizeEndAtTheEnds) {
   TestProgram program;
   const auto slider = New<Slider>();

@@ -66,7 +66,8 @@ class Delegate<Result(Arguments...)> {
   Delegate() = default;
 
   // Over a plain function.
-  explicit Delegate(Result (*function)(Arguments...)) : function_(function) {}
+  explicit Delegate(Result (*function)(Arguments...))
+      : function_(std::make_shared<const Function>(function)) {}
 
   // Over a method of `receiver`, called through its virtual operation. A weakly bound receiver is
   // not kept alive; a call after it has gone raises NilObjectException.
@@ -74,24 +75,28 @@ class Delegate<Result(Arguments...)> {
   Delegate(const Ref<Receiver>& receiver, Result (Receiver::*method)(Arguments...),
            ReceiverFlag flag) {
     if (flag == ReceiverFlag::kStrong) {
-      function_ = [receiver, method](Arguments... arguments) -> Result {
-        return ((*receiver).*method)(std::move(arguments)...);
-      };
+      function_ =
+          std::make_shared<const Function>([receiver, method](Arguments... arguments) -> Result {
+            return ((*receiver).*method)(std::move(arguments)...);
+          });
     } else {
       std::weak_ptr<Receiver> weak = receiver.Share();
-      function_ = [weak, method](Arguments... arguments) -> Result {
-        Ref<Receiver> alive(weak.lock());
-        return ((*alive).*method)(std::move(arguments)...);
-      };
+      function_ =
+          std::make_shared<const Function>([weak, method](Arguments... arguments) -> Result {
+            Ref<Receiver> alive(weak.lock());
+            return ((*alive).*method)(std::move(arguments)...);
+          });
     }
   }
 
   explicit operator bool() const { return function_ != nullptr; }
 
-  // Calls the function. Raises NilObjectException where there is none or its receiver has gone.
+  // Calls the function, which may give this very delegate another one. Raises NilObjectException
+  // where there is none or its receiver has gone.
   Result Invoke(Arguments... arguments) const {
-    if (function_ == nullptr) throw NilObjectException("A delegate without a function was called.");
-    return function_(std::move(arguments)...);
+    const std::shared_ptr<const Function> running = function_;
+    if (running == nullptr) throw NilObjectException("A delegate without a function was called.");
+    return (*running)(std::move(arguments)...);
   }
 
   // The signature as a text, such as "( TextField, String ) as Boolean"; "(  )" for none of either.
@@ -104,7 +109,9 @@ class Delegate<Result(Arguments...)> {
   }
 
  private:
-  std::function<Result(Arguments...)> function_;
+  using Function = std::function<Result(Arguments...)>;
+
+  std::shared_ptr<const Function> function_;
 };
 
 // Binds a method of a window to one event of one of its controls. The control does not keep the
