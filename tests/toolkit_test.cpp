@@ -275,6 +275,18 @@ TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   EXPECT_FALSE(ImplicitInstance<TestWindow>() == window);
 }
 
+TEST(WindowTest, AWindowThatIsHeldPastTheEndHasNothingOnTheDisplay) {
+  Ref<TestWindow> held;
+  TestProgram outer;
+  {
+    TestProgram program;
+    held = ImplicitInstance<TestWindow>();
+  }
+  EXPECT_FALSE(held->IsLive());
+  held->field()->SetText("nobody shows it");
+  EXPECT_EQ(&Runtime::Current(), &outer.runtime()) << "the former run time is the current one";
+}
+
 TEST(WindowTest, ActivationIsRaisedWhenTheWindowBecomesTheActiveOne) {
   TestProgram program;
   const auto window = ImplicitInstance<TestWindow>();

@@ -24,18 +24,17 @@ std::exception_ptr _CallFunctionWithExceptionHandling(const std::function<void()
 Runtime* Runtime::current_ = nullptr;
 
 Runtime::Runtime(std::unique_ptr<Display> display)
-    : display_(std::move(display)), exception_helper_(_CallFunctionWithExceptionHandling) {
-  current_ = this;
-}
+    : display_(std::move(display)), exception_helper_(_CallFunctionWithExceptionHandling) {}
 
 Runtime::~Runtime() {
   PerformFinalizers();
-  current_ = nullptr;
+  current_ = outer_;
 }
 
-// The views go with their windows: a view must not outlive its display.
+// Somebody may still hold a window, and a view must not outlive its display.
 void Runtime::PerformFinalizers() {
   active_window_ = nullptr;
+  for (const Ref<Window>& window : live_windows_) window->TakeOffDisplay();
   live_windows_.clear();
   module_fields_.clear();
   file_types_.clear();

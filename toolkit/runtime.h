@@ -9,6 +9,7 @@
 #include <string_view>
 #include <thread>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "toolkit/application.h"
@@ -29,8 +30,8 @@ using ExceptionHelper = std::function<std::exception_ptr(const std::function<voi
 std::exception_ptr _CallFunctionWithExceptionHandling(const std::function<void()>& function);
 
 // All process-wide state: the display, the application object, the live windows, the module-level
-// fields, the exit code. One object with one owner; while it lives, `Current` finds it. It knows
-// nothing of what the program does.
+// fields, the exit code. One object with one owner; while it lives, `Current` finds it, or a later
+// one that lives within its life. It knows nothing of what the program does.
 class Runtime {
  public:
   explicit Runtime(std::unique_ptr<Display> display);
@@ -67,7 +68,8 @@ class Runtime {
     if (!fields.has_value()) fields.emplace<Fields>();
     return *std::any_cast<Fields>(&fields);
   }
-  // Lets go of the windows, the module-level fields and the application object, in this order.
+  // Takes the windows off the display and lets go of them, of the module-level fields and of the
+  // application object, in this order.
   void PerformFinalizers();
 
   // The file types of the program, in the order of their registration.
@@ -104,6 +106,7 @@ class Runtime {
 
   static Runtime* current_;
 
+  Runtime* const outer_ = std::exchange(current_, this);
   const std::unique_ptr<Display> display_;
   const std::thread::id main_thread_ = std::this_thread::get_id();
   std::unordered_map<const void*, std::any> module_fields_;

@@ -52,6 +52,9 @@ class Window : public Object {
   // Raises Close and ends the window: it is live no longer, and none of its timers fires.
   void Close();
   bool IsLive() const { return view_ != nullptr; }
+  // Gives up the window's part on the display, without an event, and stops its timers. The run time
+  // does so at the program's end.
+  void TakeOffDisplay();
 
   // Makes a control of a class for this window. Its properties and its name come later.
   template <class ControlClass>
@@ -151,7 +154,6 @@ class Window : public Object {
   void AddChild(std::string_view name, Ref<Object> object, _PaneChild* child);
   void ApplyAccessibleTexts();
   void MakeView();
-  void TakeOffDisplay();
   bool TakeKey(const Key& key);
   void MoveFocus(bool backwards);
 
