@@ -164,7 +164,7 @@ void Create(Window& window, std::string_view name, PropertyStream stream) {
 
 }  // namespace
 
-const ClassInfo ControlWnd::kClass{
+constinit const ClassInfo ControlWnd::kClass{
     "ControlWnd.ControlWnd", &Window::kClass, {}, ImplementsWindowEvent<class ControlWnd>};
 
 void ControlWnd::Layout() {

@@ -50,7 +50,7 @@ void HandOver() {
 
 }  // namespace
 
-const ClassInfo AboutWnd::kClass{
+constinit const ClassInfo AboutWnd::kClass{
     "AboutWnd.AboutWnd", &Window::kClass, {}, ImplementsWindowEvent<class AboutWnd>};
 
 bool AboutWnd::IsEventImplemented(std::string_view event) const {

@@ -7,7 +7,7 @@
 
 namespace vamo {
 
-const ClassInfo HandleAboutMenu::kClass{
+constinit const ClassInfo HandleAboutMenu::kClass{
     "HandleAboutMenu", nullptr, {}, ImplementsApplicationEvent<HandleAboutMenu>};
 
 Ref<HandleAboutMenu> App() { return Cast<HandleAboutMenu>(Runtime::Current().App()); }

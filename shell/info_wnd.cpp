@@ -64,7 +64,7 @@ static_assert(kStaticText1.Length() == 1592);
 
 }  // namespace
 
-const ClassInfo InfoWnd::kClass{
+constinit const ClassInfo InfoWnd::kClass{
     "InfoWnd.InfoWnd", &Window::kClass, {}, ImplementsWindowEvent<class InfoWnd>};
 
 bool InfoWnd::IsEventImplemented(std::string_view event) const {

@@ -63,7 +63,7 @@ struct MenuFields {
   Ref<class Menu> implicit_instance;
 };
 
-const ClassInfo Menu::kClass{"Menu.Menu", &MenuBar::kClass, {}};
+constinit const ClassInfo Menu::kClass{"Menu.Menu", &MenuBar::kClass, {}};
 
 Ref<MenuBar> Menu() {
   Ref<class Menu>& instance = Runtime::Current().ModuleFields<MenuFields>().implicit_instance;

@@ -39,7 +39,9 @@ struct Property {
   void (*set)(Object& object, const PropertyValue& value) = nullptr;
 };
 
-// What a class tells about itself at run time. It makes no objects.
+// What a class tells about itself at run time. It makes no objects. The tables are constants from
+// the start (`constinit`), so that no other constant of the program can see one that is still
+// empty.
 struct ClassInfo {
   std::string_view name;
   const ClassInfo* base = nullptr;

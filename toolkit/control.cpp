@@ -9,23 +9,17 @@
 
 namespace vamo {
 
-const ClassInfo Control::kClass{"Control", nullptr, Properties()};
-const ClassInfo RectControl::kClass{"RectControl", &Control::kClass, Properties()};
-
-std::span<const Property> Control::Properties() {
-  static constexpr std::array kProperties{
+struct Control::Properties {
+  static constexpr std::array kRows{
       Declare<&Control::name_>("Name"),
       Declare<&Control::_SetIndex>("Index"),
   };
-  return kProperties;
-}
+};
 
-void Control::_SetWindow(const Ref<class Window>& window) { window_ = WeakRef(window); }
+constinit const ClassInfo Control::kClass{"Control", nullptr, Properties::kRows};
 
-Ref<Window> Control::Window() const { return Cast<class Window>(window_.Value()); }
-
-std::span<const Property> RectControl::Properties() {
-  static constexpr std::array kProperties{
+struct RectControl::Properties {
+  static constexpr std::array kRows{
       Declare<&RectControl::bounds_, &vamo::Bounds::left>("Left"),
       Declare<&RectControl::bounds_, &vamo::Bounds::top>("Top"),
       Declare<&RectControl::bounds_, &vamo::Bounds::width>("Width"),
@@ -44,8 +38,13 @@ std::span<const Property> RectControl::Properties() {
       Declare<&RectControl::SetVisible>("Visible"),
       Declare<&RectControl::SetInitialParent>("InitialParent"),
   };
-  return kProperties;
-}
+};
+
+constinit const ClassInfo RectControl::kClass{"RectControl", &Control::kClass, Properties::kRows};
+
+void Control::_SetWindow(const Ref<class Window>& window) { window_ = WeakRef(window); }
+
+Ref<Window> Control::Window() const { return Cast<class Window>(window_.Value()); }
 
 void RectControl::SetVisible(bool visible) {
   _UITrap();

@@ -44,7 +44,7 @@ class Control : public Object, public _PaneChild {
   void _SetIndex(std::int64_t index) override { index_ = index; }
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
 
   std::string name_;
   WeakRef window_;
@@ -131,7 +131,7 @@ class RectControl : public Control {
   void Changed();
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
   void SetInitialParent(std::string_view name);
 
   vamo::Bounds bounds_;

@@ -8,10 +8,8 @@
 
 namespace vamo {
 
-const ClassInfo Label::kClass{"Label", &RectControl::kClass, Properties()};
-
-std::span<const Property> Label::Properties() {
-  static constexpr auto kProperties =
+struct Label::Properties {
+  static constexpr auto kRows =
       Join(kFontProperties<&Label::font_>, std::array{
                                                ReadOver<bool>("Multiline"),
                                                ReadOver<bool>("Selectable"),
@@ -21,8 +19,9 @@ std::span<const Property> Label::Properties() {
                                                ReadOver<std::string>("DataSource"),
                                                ReadOver<std::string>("DataField"),
                                            });
-  return kProperties;
-}
+};
+
+constinit const ClassInfo Label::kClass{"Label", &RectControl::kClass, Properties::kRows};
 
 const std::string& Label::Text() const {
   _UITrap();

@@ -24,7 +24,7 @@ class Label : public RectControl {
   TextAlignment Alignment() const { return static_cast<TextAlignment>(alignment_); }
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
 
   std::string text_;
   vamo::Font font_;

@@ -5,10 +5,10 @@
 
 namespace vamo {
 
-const ClassInfo MenuItem::kClass{"MenuItem", nullptr, {}};
-const ClassInfo MenuBar::kClass{"MenuBar", &MenuItem::kClass, {}};
-const ClassInfo AppleMenuItem::kClass{"AppleMenuItem", &MenuItem::kClass, {}};
-const ClassInfo QuitMenuItem::kClass{"QuitMenuItem", &MenuItem::kClass, {}};
+constinit const ClassInfo MenuItem::kClass{"MenuItem", nullptr, {}};
+constinit const ClassInfo MenuBar::kClass{"MenuBar", &MenuItem::kClass, {}};
+constinit const ClassInfo AppleMenuItem::kClass{"AppleMenuItem", &MenuItem::kClass, {}};
+constinit const ClassInfo QuitMenuItem::kClass{"QuitMenuItem", &MenuItem::kClass, {}};
 
 void MenuItem::SetName(std::string_view name) {
   _UITrap();

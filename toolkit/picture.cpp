@@ -7,23 +7,22 @@
 
 namespace vamo {
 
-const ClassInfo Canvas::kClass{"Canvas", &RectControl::kClass, Properties()};
+struct Canvas::Properties {
+  static constexpr std::array kRows{
+      ReadOver<bool>("AllowFocusRing"),
+      ReadOver<bool>("AllowFocus"),
+      ReadOver<bool>("AllowTabs"),
+      ReadOver<bool>("DoubleBuffer"),
+  };
+};
+
+constinit const ClassInfo Canvas::kClass{"Canvas", &RectControl::kClass, Properties::kRows};
 
 Ref<Picture> Picture::_OpenFromApp(std::string_view file_name) {
   _UITrap();
   auto image = Runtime::Current().GetDisplay().OpenPicture(file_name);
   if (image == nullptr) return nullptr;
   return New<Picture>(std::move(image));
-}
-
-std::span<const Property> Canvas::Properties() {
-  static constexpr std::array kProperties{
-      ReadOver<bool>("AllowFocusRing"),
-      ReadOver<bool>("AllowFocus"),
-      ReadOver<bool>("AllowTabs"),
-      ReadOver<bool>("DoubleBuffer"),
-  };
-  return kProperties;
 }
 
 void Canvas::SetBackdrop(Ref<Picture> picture) {

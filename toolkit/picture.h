@@ -37,7 +37,7 @@ class Canvas : public RectControl {
   void SetBackdrop(Ref<Picture> picture);
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
 
   Ref<Picture> backdrop_;
 };

@@ -8,18 +8,17 @@
 
 namespace vamo {
 
-const ClassInfo PushButton::kClass{"PushButton", &RectControl::kClass, Properties()};
-
-std::span<const Property> PushButton::Properties() {
-  static constexpr auto kProperties =
+struct PushButton::Properties {
+  static constexpr auto kRows =
       Join(kFontProperties<&PushButton::font_>, std::array{
                                                     ReadOver<std::int64_t>("MacButtonStyle"),
                                                     ReadOver<bool>("Cancel"),
                                                     Declare<&PushButton::caption_>("Caption"),
                                                     Declare<&PushButton::default_>("Default"),
                                                 });
-  return kProperties;
-}
+};
+
+constinit const ClassInfo PushButton::kClass{"PushButton", &RectControl::kClass, Properties::kRows};
 
 bool PushButton::UserPressed(std::int64_t x, std::int64_t y) {
   bool dealt_with = false;

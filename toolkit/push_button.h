@@ -29,7 +29,7 @@ class PushButton : public RectControl {
   bool UserPressedByAssistiveTechnology();
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
 
   std::string caption_;
   bool default_ = false;

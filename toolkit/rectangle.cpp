@@ -5,16 +5,15 @@
 
 namespace vamo {
 
-const ClassInfo Rectangle::kClass{"Rectangle", &RectControl::kClass, Properties()};
-
-std::span<const Property> Rectangle::Properties() {
-  static constexpr std::array kProperties{
+struct Rectangle::Properties {
+  static constexpr std::array kRows{
       Declare<&Rectangle::border_thickness_>("BorderThickness"),
       Declare<&Rectangle::fill_color_>("FillColor"),
       Declare<&Rectangle::top_left_color_>("TopLeftColor"),
       Declare<&Rectangle::bottom_right_color_>("BottomRightColor"),
   };
-  return kProperties;
-}
+};
+
+constinit const ClassInfo Rectangle::kClass{"Rectangle", &RectControl::kClass, Properties::kRows};
 
 }  // namespace vamo

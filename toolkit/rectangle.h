@@ -21,7 +21,7 @@ class Rectangle : public RectControl {
   Colour BottomRightColor() const { return bottom_right_color_; }
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
 
   double border_thickness_ = 1;
   Colour fill_color_;

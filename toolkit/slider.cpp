@@ -9,17 +9,16 @@
 
 namespace vamo {
 
-const ClassInfo Slider::kClass{"Slider", &RectControl::kClass, Properties()};
-
-std::span<const Property> Slider::Properties() {
-  static constexpr std::array kProperties{
+struct Slider::Properties {
+  static constexpr std::array kRows{
       Declare<&Slider::value_>("Value"),          Declare<&Slider::minimum_>("MinimumValue"),
       Declare<&Slider::maximum_>("MaximumValue"), Declare<&Slider::line_step_>("LineStep"),
       ReadOver<bool>("AllowLiveScrolling"),       Declare<&Slider::page_step_>("PageStep"),
       ReadOver<std::int64_t>("TickMarkStyle"),
   };
-  return kProperties;
-}
+};
+
+constinit const ClassInfo Slider::kClass{"Slider", &RectControl::kClass, Properties::kRows};
 
 std::int64_t Slider::Value() const {
   _UITrap();

@@ -36,7 +36,7 @@ class Slider : public RectControl {
   bool TakesKeys() const override { return true; }
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
   void MoveBy(std::int64_t times, std::int64_t step);
 
   std::int64_t value_ = 0;

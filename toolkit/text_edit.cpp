@@ -43,27 +43,25 @@ std::string OnOneLine(std::string_view text) {
 
 }  // namespace
 
-const ClassInfo TextEdit::kClass{"TextEdit", &RectControl::kClass, Properties()};
+struct TextEdit::Properties {
+  static constexpr auto kRows = Join(kFontProperties<&TextEdit::font_>,
+                                     std::array{
+                                         Declare<&TextEdit::background_color_>("BackgroundColor"),
+                                         Declare<&TextEdit::has_border_>("HasBorder"),
+                                         ReadOver<std::string>("Format"),
+                                         Declare<&TextEdit::text_color_>("TextColor"),
+                                         ReadOver<bool>("AllowFocusRing"),
+                                         Declare<&TextEdit::SetText>("Value"),
+                                         ReadOver<bool>("AllowTabs"),
+                                         Declare<&TextEdit::alignment_>("TextAlignment"),
+                                         ReadOver<bool>("AllowSpellChecking"),
+                                         Declare<&TextEdit::read_only_>("ReadOnly"),
+                                         ReadOver<std::string>("DataSource"),
+                                         ReadOver<std::string>("DataField"),
+                                     });
+};
 
-std::span<const Property> TextEdit::Properties() {
-  static constexpr auto kProperties =
-      Join(kFontProperties<&TextEdit::font_>,
-           std::array{
-               Declare<&TextEdit::background_color_>("BackgroundColor"),
-               Declare<&TextEdit::has_border_>("HasBorder"),
-               ReadOver<std::string>("Format"),
-               Declare<&TextEdit::text_color_>("TextColor"),
-               ReadOver<bool>("AllowFocusRing"),
-               Declare<&TextEdit::SetText>("Value"),
-               ReadOver<bool>("AllowTabs"),
-               Declare<&TextEdit::alignment_>("TextAlignment"),
-               ReadOver<bool>("AllowSpellChecking"),
-               Declare<&TextEdit::read_only_>("ReadOnly"),
-               ReadOver<std::string>("DataSource"),
-               ReadOver<std::string>("DataField"),
-           });
-  return kProperties;
-}
+constinit const ClassInfo TextEdit::kClass{"TextEdit", &RectControl::kClass, Properties::kRows};
 
 const std::string& TextEdit::Text() const {
   _UITrap();

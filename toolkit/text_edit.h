@@ -79,7 +79,7 @@ class TextEdit : public RectControl {
     Selection selection;
   };
 
-  static std::span<const Property> Properties();
+  struct Properties;
   // Keeps the present state for Undo, within a bound on steps and memory.
   void Remember();
   void Restore(State state);
@@ -119,7 +119,7 @@ class TextField : public TextEdit {
   void RaiseTextChange() override;
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
   void Type(std::string_view character);
 
   TypingRule rule_;
@@ -137,7 +137,7 @@ class TextArea : public TextEdit {
   bool TakesKeys() const override { return true; }
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
 };
 
 }  // namespace vamo

@@ -8,29 +8,28 @@
 
 namespace vamo {
 
-const ClassInfo TextField::kClass{"TextField", &TextEdit::kClass, Properties()};
-const ClassInfo TextArea::kClass{"TextArea", &TextEdit::kClass, Properties()};
-
-std::span<const Property> TextField::Properties() {
-  static constexpr std::array kProperties{
+struct TextField::Properties {
+  static constexpr std::array kRows{
       Declare<&TextField::password_>("Password"),
       Declare<&TextField::hint_>("Hint"),
       Declare<&TextField::rule_, &TypingRule::maximum_characters>("MaximumCharactersAllowed"),
       Declare<&TextField::rule_, &TypingRule::mask>("ValidationMask"),
   };
-  return kProperties;
-}
+};
 
-std::span<const Property> TextArea::Properties() {
-  static constexpr std::array kProperties{
+constinit const ClassInfo TextField::kClass{"TextField", &TextEdit::kClass, Properties::kRows};
+
+struct TextArea::Properties {
+  static constexpr std::array kRows{
       ReadOver<bool>("HideSelection"),          ReadOver<double>("LineHeight"),
       ReadOver<double>("LineSpacing"),          ReadOver<bool>("Multiline"),
       ReadOver<bool>("HasHorizontalScrollbar"), ReadOver<bool>("HasVerticalScrollbar"),
       ReadOver<bool>("AllowStyledText"),        ReadOver<std::int64_t>("MaximumCharactersAllowed"),
       ReadOver<std::string>("ValidationMask"),
   };
-  return kProperties;
-}
+};
+
+constinit const ClassInfo TextArea::kClass{"TextArea", &TextEdit::kClass, Properties::kRows};
 
 namespace {
 

@@ -9,15 +9,14 @@
 
 namespace vamo {
 
-const ClassInfo Timer::kClass{"Timer", nullptr, Properties()};
-
-std::span<const Property> Timer::Properties() {
-  static constexpr std::array kProperties{
+struct Timer::Properties {
+  static constexpr std::array kRows{
       Declare<&Timer::SetRunMode>("RunMode"),
       Declare<&Timer::SetPeriod>("Period"),
   };
-  return kProperties;
-}
+};
+
+constinit const ClassInfo Timer::kClass{"Timer", nullptr, Properties::kRows};
 
 void Timer::SetRunMode(std::int64_t run_mode) {
   run_mode_ = static_cast<RunMode>(run_mode);

@@ -38,7 +38,7 @@ class Timer : public Object {
   void _CallAction();
 
  private:
-  static std::span<const Property> Properties();
+  struct Properties;
   void Restart();
 
   RunMode run_mode_ = RunMode::kOff;

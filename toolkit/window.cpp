@@ -11,10 +11,8 @@
 
 namespace vamo {
 
-const ClassInfo Window::kClass{"Window", nullptr, Properties()};
-
-std::span<const Property> Window::Properties() {
-  static constexpr std::array kProperties{
+struct Window::Properties {
+  static constexpr std::array kRows{
       Declare<&Window::state_, &State::width>("Width"),
       Declare<&Window::state_, &State::height>("Height"),
       Declare<&Window::state_, &State::minimum_width>("MinimumWidth"),
@@ -38,8 +36,9 @@ std::span<const Property> Window::Properties() {
       ReadOver<bool>("MenuBarVisible"),
       ReadOver<bool>("LiveResize"),
   };
-  return kProperties;
-}
+};
+
+constinit const ClassInfo Window::kClass{"Window", nullptr, Properties::kRows};
 
 void Window::Constructor() {
   _UITrap();

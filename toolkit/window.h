@@ -150,7 +150,7 @@ class Window : public Object {
     Ref<Object> object;
   };
 
-  static std::span<const Property> Properties();
+  struct Properties;
   void AddChild(std::string_view name, Ref<Object> object, _PaneChild* child);
   void ApplyAccessibleTexts();
   void MakeView();
