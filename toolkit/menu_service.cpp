@@ -2,7 +2,6 @@
 #include "toolkit/menu_service.h"
 
 #include <array>
-#include <cctype>
 #include <string>
 
 #include "toolkit/runtime.h"
@@ -120,9 +119,10 @@ void UserChose(const Ref<MenuItem>& item) {
 bool ChooseByShortcut(const Key& key) {
   const Ref<MenuBar> bar = ActiveMenuBar();
   if (!bar || key.shift || key.text.size() != 1) return false;
-  const int letter = std::toupper(static_cast<unsigned char>(key.text[0]));
+  const char letter = key.text[0];
   std::string shortcut(kCommandPrefix);
-  shortcut += static_cast<char>(letter);
+  // A shortcut is written with a capital. The C library's would depend on the locale.
+  shortcut += letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
   const Ref<MenuItem> item = FindByShortcut(*bar, shortcut);
   if (!item) return false;
   EnableMenuItems();

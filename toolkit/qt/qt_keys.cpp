@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <string>
 
 #include "qt_convert.h"
@@ -95,7 +94,8 @@ std::optional<Key> ToKey(const QKeyEvent& event) {
   if (key.code != KeyCode::kOther) return key;
   if (key.command && pressed >= Qt::Key_Space && pressed <= Qt::Key_AsciiTilde) {
     key.code = KeyCode::kCharacter;
-    key.text = std::string(1, static_cast<char>(std::tolower(pressed)));
+    const bool capital = pressed >= Qt::Key_A && pressed <= Qt::Key_Z;
+    key.text = std::string(1, static_cast<char>(capital ? pressed - Qt::Key_A + 'a' : pressed));
   } else if (!key.command && !IsMnemonic(event) && CarriesPrintable(event)) {
     key.code = KeyCode::kCharacter;
     key.text = ToUtf8(event.text());
