@@ -88,7 +88,7 @@ int Main(std::unique_ptr<Display> display, StepObserver observer) {
   try {
     Step("_Main", _Main);
   } catch (...) {
-    runtime.End(1);
+    _UnhandledException(std::current_exception());
   }
   if (observer != nullptr) observer("RuntimePerformFinalizers");
   runtime.PerformFinalizers();

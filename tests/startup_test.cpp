@@ -84,6 +84,7 @@ TEST(StartupTest, AnExceptionOutOfMainStillRunsTheFinalisers) {
   const Outcome outcome = RunFailingAt("_Main");
   EXPECT_EQ(outcome.steps, (Steps{"_Main", "RuntimePerformFinalizers", "RuntimeExit"}));
   EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.said, "vamo: UnsupportedOperationException: made to fail\n");
 }
 
 TEST(StartupTest, AnExceptionInAnEventEndsTheLoopWithStatusOne) {
