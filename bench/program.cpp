@@ -4,7 +4,7 @@
 #include "toolkit/qt/qt_display.h"
 
 int main(int argc, char** argv) {
-  auto display = vamo::MakeQtDisplay(argc, argv);
+  auto display = vamo::MakeQtDisplay(argv[0]);
   const vamo::Probe probe(argc, argv);
   return vamo::Main(std::move(display));
 }

@@ -72,8 +72,8 @@ ShownControl Read(QAccessibleInterface& accessible) {
 
 class CountingDisplay : public QtDisplay {
  public:
-  CountingDisplay(int& argc, char** argv, std::function<void(CountingDisplay&)> user)
-      : QtDisplay(argc, argv), user_(std::move(user)) {}
+  explicit CountingDisplay(std::function<void(CountingDisplay&)> user)
+      : QtDisplay("vamo"), user_(std::move(user)) {}
 
   void Run() override {
     QTimer::singleShot(0, [this] {
@@ -304,10 +304,7 @@ class QtUser : public User {
 }  // namespace
 
 int RunProgram(const std::function<void(User&)>& journey) {
-  int argc = 1;
-  char name[] = "vamo";
-  char* argv[] = {name, nullptr};
-  return Main(std::make_unique<CountingDisplay>(argc, argv, [&](CountingDisplay& display) {
+  return Main(std::make_unique<CountingDisplay>([&](CountingDisplay& display) {
     QtUser user(display);
     journey(user);
   }));

@@ -40,6 +40,10 @@ TEST(Desktop, WithADecimalComma) {
   InControlWindow(german, WorkTheWindow);
 }
 
+TEST(Desktop, TheCommandLineIsNotRead) {
+  InControlWindow({}, WorkTheWindow, {ProgramPath(), "-platform", "nonsense", "-reverse"});
+}
+
 TEST(Desktop, AtTwiceTheSize) {
   InControlWindow({{"QT_SCALE_FACTOR", "2"}}, [](OutsideUser& user) {
     if (user.ScreenHeight() < 960) GTEST_SKIP() << "the screen is too low";

@@ -5,7 +5,9 @@
 #include <QMimeData>
 #include <QTimer>
 #include <algorithm>
+#include <array>
 #include <limits>
+#include <string>
 #include <utility>
 
 #include "qt_accessible.h"
@@ -45,7 +47,8 @@ class QtTimer : public RunningTimer {
 }  // namespace
 
 struct QtDisplay::Parts {
-  Parts(int& argc, char** argv) : application(StartApplication(argc, argv)) {
+  explicit Parts(const char* program)
+      : name(program), application(StartApplication(argument_count, arguments.data())) {
     QAccessible::installFactory(MakeAccessible);
   }
   ~Parts() {
@@ -54,11 +57,15 @@ struct QtDisplay::Parts {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
+  // What Qt takes for the arguments of main, and refers to as long as it lives.
+  std::string name;
+  std::array<char*, 2> arguments{name.data(), nullptr};
+  int argument_count = 1;
   std::unique_ptr<QApplication> application;
   Activation activation;
 };
 
-QtDisplay::QtDisplay(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {}
+QtDisplay::QtDisplay(const char* program) : parts_(std::make_unique<Parts>(program)) {}
 QtDisplay::~QtDisplay() = default;
 
 void QtDisplay::Run() { QApplication::exec(); }
@@ -95,8 +102,8 @@ void QtDisplay::SetClipboardText(std::string_view text) {
 
 bool QtDisplay::MenuBarsLiveInWindows() const { return !kOneMenuBarOnScreen; }
 
-std::unique_ptr<Display> MakeQtDisplay(int& argc, char** argv) {
-  return std::make_unique<QtDisplay>(argc, argv);
+std::unique_ptr<Display> MakeQtDisplay(const char* program) {
+  return std::make_unique<QtDisplay>(program);
 }
 
 }  // namespace vamo

@@ -13,10 +13,10 @@ namespace vamo {
 // windows: the toolkit does, and lets them go before the display.
 class QtDisplay : public Display {
  public:
-  // Connects to the desktop. `argc` and `argv` are the arguments of main and must outlive the
-  // display. Where there is no desktop to connect to, the process says so in one line on standard
-  // error and ends with exit status 1.
-  QtDisplay(int& argc, char** argv);
+  // Connects to the desktop. `program` is what the program was started as, the first argument of
+  // main; Qt would act on the further ones. Where there is no desktop to connect to, the process
+  // says so in one line on standard error and ends with exit status 1.
+  explicit QtDisplay(const char* program);
   ~QtDisplay() override;
 
   void Run() override;
@@ -36,7 +36,7 @@ class QtDisplay : public Display {
   std::unique_ptr<Parts> parts_;
 };
 
-std::unique_ptr<Display> MakeQtDisplay(int& argc, char** argv);
+std::unique_ptr<Display> MakeQtDisplay(const char* program);
 
 }  // namespace vamo
 
