@@ -126,6 +126,7 @@ bool ChooseByShortcut(const Key& key) {
   const Ref<MenuItem> item = FindByShortcut(*bar, shortcut);
   if (!item) return false;
   EnableMenuItems();
+  if (!item->Enabled()) return false;
   Choose(item);
   return true;
 }

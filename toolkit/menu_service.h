@@ -41,7 +41,8 @@ void UserOpensMenu();
 // the toolkit serves Quit and the Edit items.
 void UserChose(const Ref<MenuItem>& item);
 
-// Chooses the item whose shortcut the key is, if it is then enabled. Whether there is such an item.
+// Chooses the item whose shortcut the key is. Whether there is one that is enabled; else the key is
+// a key like any other.
 bool ChooseByShortcut(const Key& key);
 
 }  // namespace vamo

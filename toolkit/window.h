@@ -131,8 +131,8 @@ class Window : public Object {
 
   // The events. A class implements one by overriding it; else the toolkit's default stands, which
   // is to do nothing. `Layout` and `CreateControls` come while the window is constructed; `KeyDown`
-  // for every key but a bare modifier and a menu shortcut, with the empty text for a key that
-  // carries no character; True of `KeyDown` and `MouseDown` ends the event.
+  // for every key but a bare modifier and an enabled item's shortcut, with the empty text for one
+  // that carries no character; True of `KeyDown` and `MouseDown` ends the event.
   virtual void Layout() {}
   virtual void CreateControls() {}
   // The table that is applied once the controls are there.

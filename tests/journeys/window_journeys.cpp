@@ -85,7 +85,7 @@ TEST(WindowJourney, TheInfoTextCanBeSelectedAndCopiedButNotChanged) {
 }
 
 TEST(WindowJourney, AnyKeyEndsTheSplash) {
-  for (const Key& key : {Arrow(KeyCode::kLeft), Key::Command("b"), Arrow(KeyCode::kOther)}) {
+  for (const Key& key : {Arrow(KeyCode::kLeft), Key::Command("c"), Arrow(KeyCode::kOther)}) {
     FromTheStart([&](User& user) {
       user.PressKey(key);
       EXPECT_EQ(user.ActiveTitle(), "Vamo");
