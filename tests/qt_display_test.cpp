@@ -159,6 +159,32 @@ QRect Ink(QLabel& label) {
   return ink;
 }
 
+// Whether the highlight of a selection is among what a widget shows.
+bool ShowsHighlight(QWidget& widget) {
+  const QImage image = widget.grab().toImage();
+  const QColor highlight = widget.palette().color(QPalette::Active, QPalette::Highlight);
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, y) == highlight) return true;
+    }
+  }
+  return false;
+}
+
+TEST(QtDisplayTest, TheInfoTextsSelectionShowsOnlyWhileItsWindowIsActive) {
+  InControlWindow([](User& user) {
+    user.Click(Role::kButton, "Info");
+    user.Click(Role::kText, "About Vamo");
+    user.PressKey(Key::Command("a"));
+    QWidget& info = *QApplication::activeWindow();
+    EXPECT_TRUE(ShowsHighlight(info));
+    user.ActivateWindow("Vamo");
+    EXPECT_FALSE(ShowsHighlight(info));
+    user.ActivateWindow("Info");
+    EXPECT_TRUE(ShowsHighlight(info));
+  });
+}
+
 TEST(QtDisplayTest, NoTextIsCutOff) {
   InControlWindow([](User& user) {
     user.Type("99");

@@ -133,11 +133,16 @@ class TextArea : public TextEdit {
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
+  // Whether the selection shows only while the area has the keys.
+  bool HideSelection() const { return hide_selection_; }
+
  protected:
   bool TakesKeys() const override { return true; }
 
  private:
   struct Properties;
+
+  bool hide_selection_ = true;
 };
 
 }  // namespace vamo

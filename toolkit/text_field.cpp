@@ -21,10 +21,14 @@ constinit const ClassInfo TextField::kClass{"TextField", &TextEdit::kClass, Prop
 
 struct TextArea::Properties {
   static constexpr std::array kRows{
-      ReadOver<bool>("HideSelection"),          ReadOver<double>("LineHeight"),
-      ReadOver<double>("LineSpacing"),          ReadOver<bool>("Multiline"),
-      ReadOver<bool>("HasHorizontalScrollbar"), ReadOver<bool>("HasVerticalScrollbar"),
-      ReadOver<bool>("AllowStyledText"),        ReadOver<std::int64_t>("MaximumCharactersAllowed"),
+      Declare<&TextArea::hide_selection_>("HideSelection"),
+      ReadOver<double>("LineHeight"),
+      ReadOver<double>("LineSpacing"),
+      ReadOver<bool>("Multiline"),
+      ReadOver<bool>("HasHorizontalScrollbar"),
+      ReadOver<bool>("HasVerticalScrollbar"),
+      ReadOver<bool>("AllowStyledText"),
+      ReadOver<std::int64_t>("MaximumCharactersAllowed"),
       ReadOver<std::string>("ValidationMask"),
   };
 };

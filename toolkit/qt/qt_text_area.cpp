@@ -52,6 +52,11 @@ void AreaWidget::ShowColours() {
   colours.setColor(QPalette::Text, ToQColor(TheControl().TextColor()));
   colours.setColor(QPalette::Base, ToQColor(TheControl().BackgroundColor()));
   colours.setColor(QPalette::WindowText, palette().color(QPalette::Mid));
+  // Qt paints with the inactive colours while the keys go elsewhere.
+  if (TheControl().HideSelection()) {
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, colours.color(QPalette::Base));
+    colours.setColor(QPalette::Inactive, QPalette::HighlightedText, colours.color(QPalette::Text));
+  }
   if (colours != palette()) setPalette(colours);
 }
 
