@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "controlwnd/accessors.h"
-#include "controlwnd/menu_items.h"
+#include "controlwnd/menu_accessors.h"
 #include "toolkit/label.h"
 #include "toolkit/picture.h"
 #include "toolkit/push_button.h"

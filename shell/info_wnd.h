@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "controlwnd/accessors.h"
-#include "controlwnd/menu_items.h"
+#include "controlwnd/menu_accessors.h"
 #include "toolkit/text_edit.h"
 #include "toolkit/window.h"
 

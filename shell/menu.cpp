@@ -1,10 +1,8 @@
 // The menu bar of the program, built from its table.
 #include "shell/menu.h"
 
-#include <array>
 #include <string_view>
 
-#include "controlwnd/menu_items.h"
 #include "toolkit/runtime.h"
 
 namespace vamo {
@@ -12,14 +10,16 @@ namespace {
 
 enum class Level { kMenu, kItem };
 
+// A menu, or an item of the menu above it. Items are found by name alone; one with an empty text is
+// not drawn.
 struct Row {
   Level level;
   Ref<MenuItem> (*make)();
   std::string_view name;
-  std::string_view text;
+  std::string_view text = {};
   // Nothing where the shortcut is never written.
-  const char* shortcut;
-  bool auto_enabled;
+  const char* shortcut = "";
+  bool auto_enabled = false;
 };
 
 template <class Item>
@@ -27,12 +27,27 @@ Ref<MenuItem> Make() {
   return New<Item>();
 }
 
-#define VAMO_MENU_ROW(name, text) Row{Level::kMenu, Make<MenuItem>, #name, text, "", false},
-#define VAMO_ITEM_ROW(Class, name, text, shortcut, auto_enabled) \
-  Row{Level::kItem, Make<Class>, #name, text, shortcut, auto_enabled},
-#define VAMO_SEPARATOR_ROW(name) Row{Level::kItem, Make<MenuItem>, #name, "-", nullptr, false},
-
-constexpr Row kRows[] = {VAMO_MENU_ITEMS(VAMO_MENU_ROW, VAMO_ITEM_ROW, VAMO_SEPARATOR_ROW)};
+constexpr Row kRows[] = {
+    {Level::kMenu, Make<MenuItem>, "UntitledMenu3"},
+    {Level::kMenu, Make<MenuItem>, "UntitledMenu2", "File"},
+    {Level::kItem, Make<QuitMenuItem>, "FileQuit", "Quit", "Cmd+Q", true},
+    {Level::kItem, Make<MenuItem>, "UntitledMenu8"},
+    {Level::kMenu, Make<MenuItem>, "UntitledMenu0", "Edit"},
+    {Level::kItem, Make<MenuItem>, "EditUndo", "Undo", "Cmd+Z"},
+    {Level::kItem, Make<MenuItem>, "UntitledMenu1", "-", nullptr},
+    {Level::kItem, Make<MenuItem>, "EditCut", "Cut", "Cmd+X"},
+    {Level::kItem, Make<MenuItem>, "EditCopy", "Copy", "Cmd+C"},
+    {Level::kItem, Make<MenuItem>, "EditPaste", "Paste", "Cmd+V"},
+    {Level::kItem, Make<MenuItem>, "EditClear"},
+    {Level::kItem, Make<MenuItem>, "UntitledMenu7"},
+    {Level::kMenu, Make<MenuItem>, "WindowMenu", "Window"},
+    {Level::kItem, Make<MenuItem>, "ControlMenuItem", "Control"},
+    {Level::kItem, Make<MenuItem>, "AboutMenuItem", "About Vamo"},
+    {Level::kItem, Make<MenuItem>, "UntitledMenu6"},
+    {Level::kItem, Make<AppleMenuItem>, "AboutKEL", "About Vamo"},
+    {Level::kItem, Make<AppleMenuItem>, "UntitledMenu5"},
+    {Level::kMenu, Make<MenuItem>, "UntitledMenu4"},
+};
 
 Ref<MenuItem> Build(const Row& row) {
   Ref<MenuItem> item = row.make();

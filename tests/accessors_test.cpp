@@ -36,6 +36,20 @@ TEST_F(AccessorsTest, EachControlIsFoundUnderItsOwnName) {
   EXPECT_EQ(NamesOf(&W::tText, &W::pText, &W::ciText, &W::nText), "tText,pText,ciText,nText,");
 }
 
+TEST_F(AccessorsTest, EachMenuItemIsFoundUnderItsOwnName) {
+  using W = class ControlWnd;
+  EXPECT_EQ(NamesOf(&W::UntitledMenu0, &W::UntitledMenu1, &W::UntitledMenu2, &W::UntitledMenu3,
+                    &W::UntitledMenu4, &W::UntitledMenu5, &W::UntitledMenu6, &W::UntitledMenu7,
+                    &W::UntitledMenu8),
+            "UntitledMenu0,UntitledMenu1,UntitledMenu2,UntitledMenu3,UntitledMenu4,UntitledMenu5,"
+            "UntitledMenu6,UntitledMenu7,UntitledMenu8,");
+  EXPECT_EQ(
+      NamesOf(&W::WindowMenu, &W::AboutKEL, &W::AboutMenuItem, &W::ControlMenuItem, &W::EditClear,
+              &W::EditPaste, &W::EditCopy, &W::EditCut, &W::EditUndo, &W::FileQuit),
+      "WindowMenu,AboutKEL,AboutMenuItem,ControlMenuItem,EditClear,EditPaste,EditCopy,EditCut,"
+      "EditUndo,FileQuit,");
+}
+
 TEST_F(AccessorsTest, TheDescriptionItemIsPassedOn) {
   EXPECT_FALSE(window_->GetMenuHandlers().at("DescriptionMenuItem").Invoke());
 }
