@@ -10,7 +10,7 @@ constexpr std::int64_t kInitialN = 4;
 }  // namespace
 
 bool ControlWnd::IsEventImplemented(std::string_view event) const {
-  return _RuntimeIsEventHandled(*this, "ControlWnd.ControlWnd", event);
+  return _RuntimeIsEventHandled(*this, "ControlWnd.ControlWnd", event, /*user=*/true);
 }
 
 void ControlWnd::Event_Activate() {

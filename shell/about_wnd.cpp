@@ -54,7 +54,7 @@ constinit const ClassInfo AboutWnd::kClass{
     "AboutWnd.AboutWnd", &Window::kClass, {}, ImplementsWindowEvent<class AboutWnd>};
 
 bool AboutWnd::IsEventImplemented(std::string_view event) const {
-  return _RuntimeIsEventHandled(*this, "AboutWnd.AboutWnd", event);
+  return _RuntimeIsEventHandled(*this, "AboutWnd.AboutWnd", event, /*user=*/true);
 }
 
 void AboutWnd::Layout() { _SetProperties(*this, kWindow); }

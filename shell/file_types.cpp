@@ -7,26 +7,19 @@
 
 namespace vamo::FileTypes {
 
-struct Fields {
-  std::vector<Ref<FileType>> pAllFileTypes;
-  Ref<FileType> pText;
-  Ref<FileType> pUntitledType;
-};
-
 namespace {
 
 Fields& ModuleFields() { return Runtime::Current().ModuleFields<Fields>(); }
 
-Ref<FileType> Make(std::string_view name, std::string_view mac_type, std::string_view mac_creator) {
-  Ref<FileType> type = New<FileType>();
-  type->SetName(name);
-  type->SetExtensions("");
-  type->SetMacType(mac_type);
-  type->SetMacCreator(mac_creator);
-  type->SetMimeType("");
-  type->SetImported(true);
-  type->SetConformsTo("");
-  return type;
+void WriteProperties(FileType& type, std::string_view name, std::string_view mac_type,
+                     std::string_view mac_creator) {
+  type.SetName(name);
+  type.SetExtensions("");
+  type.SetMacType(mac_type);
+  type.SetMacCreator(mac_creator);
+  type.SetMimeType("");
+  type.SetImported(true);
+  type.SetConformsTo("");
 }
 
 // Only the registration counts that comes with the conversion to a text.
@@ -38,9 +31,11 @@ void Enter(const Ref<FileType>& type) {
 }  // namespace
 
 void _Initialize() {
-  ModuleFields().pText = Make("text", "TEXT", "R*ch");
+  ModuleFields().pText = New<FileType>();
+  WriteProperties(*Text(), "text", "TEXT", "R*ch");
   Enter(Text());
-  ModuleFields().pUntitledType = Make("", "", "");
+  ModuleFields().pUntitledType = New<FileType>();
+  WriteProperties(*UntitledType(), "", "", "");
   Enter(UntitledType());
 }
 

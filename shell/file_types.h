@@ -10,6 +10,13 @@
 // The set is registered at start-up; nothing in the program opens or saves a file of these types.
 namespace vamo::FileTypes {
 
+// The module-level fields, nil and empty before the set is made.
+struct Fields {
+  std::vector<Ref<FileType>> pAllFileTypes;
+  Ref<FileType> pText;
+  Ref<FileType> pUntitledType;
+};
+
 // Makes the two types and registers them, in the order of their names here. Called once.
 void _Initialize();
 

@@ -10,12 +10,12 @@ namespace vamo {
 constinit const ClassInfo HandleAboutMenu::kClass{
     "HandleAboutMenu", nullptr, {}, ImplementsApplicationEvent<HandleAboutMenu>};
 
-Ref<HandleAboutMenu> App() { return Cast<HandleAboutMenu>(Runtime::Current().App()); }
+Ref<HandleAboutMenu> App() { return Cast<HandleAboutMenu>(_GetAppObject()); }
 
 Ref<AppleMenuItem> AboutKEL() { return Cast<AppleMenuItem>(App()->MenuBar()->_Lookup("AboutKEL")); }
 
 bool HandleAboutMenu::IsEventImplemented(std::string_view event) const {
-  return _RuntimeIsEventHandled(*this, "HandleAboutMenu", event);
+  return _RuntimeIsEventHandled(*this, "HandleAboutMenu", event, /*user=*/true);
 }
 
 void HandleAboutMenu::Event_EnableMenuItems() { AboutKEL()->SetEnabled(true); }

@@ -21,6 +21,8 @@ class HandleAboutMenu : public Application {
   void Event_EnableMenuItems() override;
   virtual bool _AboutKEL_Action();
   virtual bool _AboutMenuItem_Action();
+  // Called by start-up before anything else is; there is nothing to set up.
+  virtual void Constructor() {}
 };
 
 // The registered application object. Raises NilObjectException on use before its registration.

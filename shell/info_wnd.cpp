@@ -68,7 +68,7 @@ constinit const ClassInfo InfoWnd::kClass{
     "InfoWnd.InfoWnd", &Window::kClass, {}, ImplementsWindowEvent<class InfoWnd>};
 
 bool InfoWnd::IsEventImplemented(std::string_view event) const {
-  return _RuntimeIsEventHandled(*this, "InfoWnd.InfoWnd", event);
+  return _RuntimeIsEventHandled(*this, "InfoWnd.InfoWnd", event, /*user=*/true);
 }
 
 void InfoWnd::Layout() {

@@ -74,14 +74,10 @@ void AddTopLevelMenu(MenuBar& bar, std::string_view name) {
 
 }  // namespace
 
-struct MenuFields {
-  Ref<class Menu> implicit_instance;
-};
-
 constinit const ClassInfo Menu::kClass{"Menu.Menu", &MenuBar::kClass, {}};
 
 Ref<MenuBar> Menu() {
-  Ref<class Menu>& instance = Runtime::Current().ModuleFields<MenuFields>().implicit_instance;
+  Ref<class Menu>& instance = Runtime::Current().ModuleFields<MenuFields>()._implicitInstance;
   if (!instance) {
     const Ref<class Menu> menu = New<class Menu>();
     menu->Constructor();

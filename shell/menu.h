@@ -23,6 +23,11 @@ class Menu : public MenuBar {
   virtual void Untitled4();
 };
 
+// The module-level field: the one bar, nil before its first use.
+struct MenuFields {
+  Ref<class Menu> _implicitInstance;
+};
+
 }  // namespace vamo
 
 #endif  // VAMO_SHELL_MENU_H_

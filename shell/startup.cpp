@@ -1,12 +1,15 @@
 // The road of the process: from its entry to the event loop and back, in the order of its steps.
 #include "shell/startup.h"
 
+#include <cstdint>
 #include <exception>
+#include <memory>
 #include <utility>
 
 #include "controlwnd/accessors.h"
 #include "shell/file_types.h"
 #include "shell/handle_about_menu.h"
+#include "shell/menu.h"
 #include "shell/rights.h"
 #include "toolkit/delegate.h"
 #include "toolkit/runtime.h"
@@ -27,19 +30,29 @@ void Step(std::string_view name, StepFunction&& step) {
   step();
 }
 
+std::unique_ptr<Runtime> RuntimeInit(std::unique_ptr<Display> display) {
+  return std::make_unique<Runtime>(std::move(display));
+}
+
+// The tables of the classes are constants, so only the fields of the modules are left to begin
+// with.
+void RuntimePerformInitializers() {
+  Runtime& runtime = Runtime::Current();
+  runtime.ModuleFields<FileTypes::Fields>() = {};
+  runtime.ModuleFields<MenuFields>() = {};
+}
+
+void _InitFileTypes() { FileTypes::_Initialize(); }
+
 // The menu bar is there before the object is registered, and App works from the registration on.
 void _NewAppInstance() {
+  constexpr std::int64_t kMajor = 3;
+  constexpr std::int64_t kFinalStage = 3;
   const Ref<HandleAboutMenu> app = New<HandleAboutMenu>();
-  app->_x_SetVersionData({.major = 3,
-                          .minor = 0,
-                          .bug = 0,
-                          .non_release = 0,
-                          .stage_code = 3,
-                          .long_version = std::string(kRightsNotice),
-                          .short_version = "3.0",
-                          .package_info = "Vamo"});
+  app->Constructor();
+  app->_x_SetVersionData(kMajor, 0, 0, 0, kFinalStage, kRightsNotice, "3.0", "Vamo");
   app->SetMenuBar(Menu());
-  Runtime::Current().RegisterApp(app);
+  _RuntimeRegisterAppObject(app);
 }
 
 void _ApplicationAddMenuHandlers() {
@@ -51,7 +64,8 @@ void _ApplicationAddMenuHandlers() {
 }
 
 void _EarlyStartup() {
-  Step("_InitFileTypes", FileTypes::_Initialize);
+  Step("_SetSupportsHiDPI", [] { Application::_SetSupportsHiDPI(true); });
+  Step("_InitFileTypes", _InitFileTypes);
   Step("_NewAppInstance", _NewAppInstance);
   Step("_ApplicationAddMenuHandlers", _ApplicationAddMenuHandlers);
 }
@@ -80,20 +94,28 @@ void _Main() {
   }
 }
 
+void RuntimePerformFinalizers() { Runtime::Current().PerformFinalizers(); }
+
+std::int32_t RuntimeExit() { return Runtime::Current().ExitCode(); }
+
 }  // namespace
 
+// The observer is held here, since the finalisers take the module-level fields.
 int Main(std::unique_ptr<Display> display, StepObserver observer) {
-  Runtime runtime(std::move(display));
-  runtime.ModuleFields<StartupFields>().observer = observer;
+  if (observer == nullptr) observer = [](std::string_view) {};
+  observer("RuntimeInit");
+  const std::unique_ptr<Runtime> runtime = RuntimeInit(std::move(display));
+  runtime->ModuleFields<StartupFields>().observer = observer;
   try {
+    Step("RuntimePerformInitializers", RuntimePerformInitializers);
     Step("_Main", _Main);
   } catch (...) {
     _UnhandledException(std::current_exception());
   }
-  if (observer != nullptr) observer("RuntimePerformFinalizers");
-  runtime.PerformFinalizers();
-  if (observer != nullptr) observer("RuntimeExit");
-  return runtime.ExitCode();
+  observer("RuntimePerformFinalizers");
+  RuntimePerformFinalizers();
+  observer("RuntimeExit");
+  return RuntimeExit();
 }
 
 }  // namespace vamo

@@ -55,8 +55,8 @@ TEST_F(AccessorsTest, TheDescriptionItemIsPassedOn) {
 }
 
 TEST_F(AccessorsTest, AClassThatIsNoneOfTheObjectsHandlesNoEvent) {
-  EXPECT_TRUE(_RuntimeIsEventHandled(*window_, "ControlWnd.ControlWnd", "Layout"));
-  EXPECT_FALSE(_RuntimeIsEventHandled(*window_, "InfoWnd.InfoWnd", "Layout"));
+  EXPECT_TRUE(_RuntimeIsEventHandled(*window_, "ControlWnd.ControlWnd", "Layout", true));
+  EXPECT_FALSE(_RuntimeIsEventHandled(*window_, "InfoWnd.InfoWnd", "Layout", true));
 }
 
 }  // namespace

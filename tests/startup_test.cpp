@@ -47,28 +47,34 @@ TEST(StartupTest, TakesItsStepsInOrder) {
     ran = true;
     EXPECT_EQ(display.Windows(), Steps{""}) << "the About window is the first and only one";
     EXPECT_FALSE(_GetImplicitWindow("ControlWnd.ControlWnd"));
+    EXPECT_TRUE(Runtime::Current().SupportsHiDPI());
   });
   EXPECT_TRUE(ran);
-  EXPECT_EQ(outcome.steps,
-            (Steps{"_Main", "_RuntimeSetExceptionHelper", "_EarlyStartup", "_InitFileTypes",
-                   "_NewAppInstance", "_ApplicationAddMenuHandlers", "_RunFrameworkInitialization",
-                   "_MakeDefaultView", "_RuntimeRun", "RuntimePerformFinalizers", "RuntimeExit"}));
+  EXPECT_EQ(
+      outcome.steps,
+      (Steps{"RuntimeInit", "RuntimePerformInitializers", "_Main", "_RuntimeSetExceptionHelper",
+             "_EarlyStartup", "_SetSupportsHiDPI", "_InitFileTypes", "_NewAppInstance",
+             "_ApplicationAddMenuHandlers", "_RunFrameworkInitialization", "_MakeDefaultView",
+             "_RuntimeRun", "RuntimePerformFinalizers", "RuntimeExit"}));
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.said, "");
   EXPECT_FALSE(Runtime::Exists());
 }
 
 TEST(StartupTest, AFailingStepIsHandedOverOnceAndStillEndsInOrder) {
-  const Steps before{"_Main",
+  const Steps before{"RuntimeInit",
+                     "RuntimePerformInitializers",
+                     "_Main",
                      "_RuntimeSetExceptionHelper",
                      "_EarlyStartup",
+                     "_SetSupportsHiDPI",
                      "_InitFileTypes",
                      "_NewAppInstance",
                      "_ApplicationAddMenuHandlers",
                      "_RunFrameworkInitialization",
                      "_MakeDefaultView",
                      "_RuntimeRun"};
-  for (std::size_t i = 1; i < before.size(); ++i) {
+  for (std::size_t i = 3; i < before.size(); ++i) {
     Steps expected(before.begin(), before.begin() + static_cast<std::ptrdiff_t>(i) + 1);
     expected.insert(expected.end(),
                     {"_UnhandledException", "RuntimePerformFinalizers", "RuntimeExit"});
@@ -82,7 +88,8 @@ TEST(StartupTest, AFailingStepIsHandedOverOnceAndStillEndsInOrder) {
 
 TEST(StartupTest, AnExceptionOutOfMainStillRunsTheFinalisers) {
   const Outcome outcome = RunFailingAt("_Main");
-  EXPECT_EQ(outcome.steps, (Steps{"_Main", "RuntimePerformFinalizers", "RuntimeExit"}));
+  EXPECT_EQ(outcome.steps, (Steps{"RuntimeInit", "RuntimePerformInitializers", "_Main",
+                                  "RuntimePerformFinalizers", "RuntimeExit"}));
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.said, "vamo: UnsupportedOperationException: made to fail\n");
 }
@@ -118,6 +125,7 @@ TEST_F(ProgramTest, TheApplicationCarriesItsVersionAndTheBar) {
     EXPECT_EQ(app->MajorVersion(), 3);
     EXPECT_EQ(app->MinorVersion() + app->BugVersion() + app->NonReleaseVersion(), 0);
     EXPECT_EQ(app->StageCode(), 3);
+    EXPECT_EQ(app->RegionCode(), 0);
     EXPECT_EQ(app->ShortVersion(), "3.0");
     EXPECT_EQ(app->Version(), "3.0");
     EXPECT_EQ(app->PackageInfo() + app->Description(), "VamoVamo");

@@ -18,17 +18,8 @@ namespace vamo {
 // does.
 class Application : public Object {
  public:
-  // The version data, in the order in which start-up hands them over.
-  struct VersionData {
-    std::int64_t major = 0;
-    std::int64_t minor = 0;
-    std::int64_t bug = 0;
-    std::int64_t non_release = 0;
-    std::int64_t stage_code = 0;
-    std::string long_version;
-    std::string short_version;
-    std::string package_info;
-  };
+  // Called first in start-up, before there is an application object.
+  static void _SetSupportsHiDPI(bool supports);
 
   // Enters the function for the menu item of that name. The first one entered for a name stands.
   void _AddMenuHandler(std::string_view name, MenuHandler handler);
@@ -36,17 +27,23 @@ class Application : public Object {
   // Called at the end of the process: a handler may hold this very object as its receiver.
   void ReleaseMenuHandlers() { menu_handlers_.clear(); }
 
-  void _x_SetVersionData(VersionData version) { version_ = std::move(version); }
-  std::int64_t MajorVersion() const { return version_.major; }
-  std::int64_t MinorVersion() const { return version_.minor; }
-  std::int64_t BugVersion() const { return version_.bug; }
-  std::int64_t NonReleaseVersion() const { return version_.non_release; }
-  std::int64_t StageCode() const { return version_.stage_code; }
-  const std::string& LongVersion() const { return version_.long_version; }
-  const std::string& ShortVersion() const { return version_.short_version; }
-  const std::string& Version() const { return version_.short_version; }
-  const std::string& PackageInfo() const { return version_.package_info; }
-  const std::string& Description() const { return version_.package_info; }
+  // The version data, which nothing but a reader of the object looks at. `stage_code` 3 is a final
+  // version; the region code is never set.
+  virtual void _x_SetVersionData(std::int64_t major, std::int64_t minor, std::int64_t bug,
+                                 std::int64_t non_release, std::int64_t stage_code,
+                                 std::string_view long_version, std::string_view short_version,
+                                 std::string_view package_info);
+  std::int64_t MajorVersion() const { return _x_mMajorVersion; }
+  std::int64_t MinorVersion() const { return _x_mMinorVersion; }
+  std::int64_t BugVersion() const { return _x_mBugVersion; }
+  std::int64_t NonReleaseVersion() const { return _x_mNonReleaseVersion; }
+  std::int64_t StageCode() const { return _x_mStageCode; }
+  std::int64_t RegionCode() const { return _x_mRegionCode; }
+  const std::string& LongVersion() const { return _x_mLongVersion; }
+  const std::string& ShortVersion() const { return _x_mShortVersion; }
+  const std::string& Version() const { return _x_mShortVersion; }
+  const std::string& PackageInfo() const { return _x_mPackageInfo; }
+  const std::string& Description() const { return _x_mPackageInfo; }
 
   // The menu tree that is used where no window gives one.
   const Ref<class MenuBar>& MenuBar() const { return menu_bar_; }
@@ -60,7 +57,15 @@ class Application : public Object {
   virtual bool Event_UnhandledException(const RuntimeException& /*exception*/) { return false; }
 
  private:
-  VersionData version_;
+  std::int64_t _x_mMajorVersion = 0;
+  std::int64_t _x_mMinorVersion = 0;
+  std::int64_t _x_mBugVersion = 0;
+  std::int64_t _x_mNonReleaseVersion = 0;
+  std::int64_t _x_mStageCode = 0;
+  std::int64_t _x_mRegionCode = 0;
+  std::string _x_mLongVersion;
+  std::string _x_mShortVersion;
+  std::string _x_mPackageInfo;
   Ref<class MenuBar> menu_bar_;
   MenuHandlers menu_handlers_;
 };

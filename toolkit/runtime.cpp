@@ -87,7 +87,7 @@ void Runtime::Run() {
   if (raised_again_ != nullptr) std::rethrow_exception(std::exchange(raised_again_, nullptr));
 }
 
-void Runtime::End(int exit_code) {
+void Runtime::End(std::int32_t exit_code) {
   if (ending_) return;
   ending_ = true;
   exit_code_ = exit_code;
@@ -104,9 +104,15 @@ void _UITrap() {
   }
 }
 
+void _RuntimeRegisterAppObject(Ref<Application> app) {
+  Runtime::Current().RegisterApp(std::move(app));
+}
+
+Ref<Application> _GetAppObject() { return Runtime::Current().App(); }
+
 void Beep() { Runtime::Current().GetDisplay().Beep(); }
 
-void Quit(int exit_code) { Runtime::Current().End(exit_code); }
+void Quit(std::int32_t exit_code) { Runtime::Current().End(exit_code); }
 
 void _UnhandledException(const std::exception_ptr& exception) {
   std::string what = "an object of an unknown class was raised";
@@ -123,9 +129,11 @@ void _UnhandledException(const std::exception_ptr& exception) {
 }
 
 bool _RuntimeIsEventHandled(const Object& object, std::string_view class_name,
-                            std::string_view event) {
-  for (const ClassInfo* info = object.Class(); info != nullptr; info = info->base) {
-    if (info->name == class_name) return info->implements != nullptr && info->implements(event);
+                            std::string_view event, bool user) {
+  const ClassInfo* info = object.Class();
+  while (info != nullptr && info->name != class_name) info = info->base;
+  for (; info != nullptr; info = user ? nullptr : info->base) {
+    if (info->implements != nullptr && info->implements(event)) return true;
   }
   return false;
 }

@@ -3,6 +3,7 @@
 #define VAMO_TOOLKIT_RUNTIME_H_
 
 #include <any>
+#include <cstdint>
 #include <exception>
 #include <functional>
 #include <memory>
@@ -44,6 +45,11 @@ class Runtime {
   static bool Exists() { return current_ != nullptr; }
 
   Display& GetDisplay() { return *display_; }
+
+  // Whether pictures are drawn in the screen's own pixels, where these are finer than logical ones.
+  bool SupportsHiDPI() const { return supports_hidpi_; }
+  void SetSupportsHiDPI(bool supports) { supports_hidpi_ = supports; }
+
   std::thread::id MainThread() const { return main_thread_; }
 
   const Ref<Application>& App() const { return app_; }
@@ -94,8 +100,9 @@ class Runtime {
   void Run();
 
   // Ends the event loop. The first exit code stands.
-  void End(int exit_code);
-  int ExitCode() const { return exit_code_; }
+  void End(std::int32_t exit_code);
+  // The process-wide word that becomes the exit status.
+  std::int32_t ExitCode() const { return exit_code_; }
 
  private:
   void TakeException(const std::exception_ptr& exception);
@@ -117,27 +124,33 @@ class Runtime {
   ExceptionHelper exception_helper_;
   std::exception_ptr raised_again_;
   Cause event_cause_ = Cause::kUser;
+  bool supports_hidpi_ = false;
   bool ending_ = false;
-  int exit_code_ = 0;
+  std::int32_t exit_code_ = 0;
 };
 
 // Raises ThreadAccessingUIException when an application object exists and the caller is not on the
 // main thread. Each operation on a window, a control, a menu item or a picture begins with it.
 void _UITrap();
 
+// The one application object: enters it, for the rest of the process, and gives it; nil before.
+void _RuntimeRegisterAppObject(Ref<Application> app);
+Ref<Application> _GetAppObject();
+
 // Sounds the system alert; no other effect.
 void Beep();
 
 // Ends the event loop and with it the program. `exit_code` becomes the exit status of the process.
-void Quit(int exit_code);
+void Quit(std::int32_t exit_code);
 
 // The default action for an exception that nothing has taken: says its class and message in one
 // line on standard error and ends the event loop with exit code 1.
 void _UnhandledException(const std::exception_ptr& exception);
 
 // Whether the class of that name, which is the object's or one of its bases, implements the event.
+// `user` asks for the class itself; else an event that a base of it implements counts too.
 bool _RuntimeIsEventHandled(const Object& object, std::string_view class_name,
-                            std::string_view event);
+                            std::string_view event, bool user);
 
 }  // namespace vamo
 

@@ -8,6 +8,7 @@
 
 #include "qt_convert.h"
 #include "qt_picture.h"
+#include "toolkit/runtime.h"
 
 namespace vamo {
 
@@ -39,7 +40,8 @@ void CanvasWidget::paintEvent(QPaintEvent* /*event*/) {
   if (GetControl() == nullptr || !TheControl().Backdrop()) return;
   const auto* picture = dynamic_cast<const QtPicture*>(TheControl().Backdrop()->Image().get());
   if (picture == nullptr) return;
-  const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  const double ratio = Runtime::Current().SupportsHiDPI() ? devicePixelRatioF() : 1;
+  const QSize pixels = (QSizeF(size()) * ratio).toSize();
   if (scaled_.size() != pixels) {
     scaled_ = picture->Image().scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   }
