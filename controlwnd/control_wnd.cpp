@@ -30,7 +30,7 @@ bool Refuse(bool passes) {
 
 }  // namespace
 
-void ControlWnd::DoIt(double r_arg, std::int64_t /*n_arg*/) {
+void ControlWnd::DoIt(double rArg, std::int64_t /*nArg*/) {
   const std::int64_t n = Truncate(Val(nEdit()->Text()));
   if (kHighestN < n) {
     Beep();
@@ -40,11 +40,11 @@ void ControlWnd::DoIt(double r_arg, std::int64_t /*n_arg*/) {
     ciText()->SetText("");
     return;
   }
-  t = ComputeT(r_arg, n);
+  t = ComputeT(rArg, n);
   tText()->SetText(Format(t, "#####.00"));
   p = ComputeP(t, n);
   pText()->SetText(Format(p, ".00000"));
-  const Interval interval = ComputeInterval(r_arg, n);
+  const Interval interval = ComputeInterval(rArg, n);
   ciText()->SetText(Format(interval.lo, "+.000") + " to " + Format(interval.hi, "+.000"));
 }
 

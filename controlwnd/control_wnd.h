@@ -85,10 +85,10 @@ class ControlWnd : public Window {
   virtual bool _DescriptionMenuItem_Action();
   virtual bool _AboutKEL_Action();
 
-  // Works out t, p and the interval for the correlation `r_arg` and the sample size in `nEdit`, and
-  // shows them; `n_arg` is not looked at. Above a sample size of 1000 it beeps, shows the warning
+  // Works out t, p and the interval for the correlation `rArg` and the sample size in `nEdit`, and
+  // shows them; `nArg` is not looked at. Above a sample size of 1000 it beeps, shows the warning
   // and empties the results instead.
-  virtual void DoIt(double r_arg, std::int64_t n_arg);
+  virtual void DoIt(double rArg, std::int64_t nArg);
 };
 
 }  // namespace vamo

@@ -35,8 +35,10 @@ double FisherZ(double r) {
 Interval ComputeInterval(double r, std::int64_t N) {
   const double z = FisherZ(r);
   const double se = StandardError(N);
-  double lo = CorrelationOf(z - kStandardErrors * se);
-  double hi = CorrelationOf(z + kStandardErrors * se);
+  const double zLow = z - kStandardErrors * se;
+  const double zHigh = z + kStandardErrors * se;
+  double lo = CorrelationOf(zLow);
+  double hi = CorrelationOf(zHigh);
   // Not std::clamp: not-a-number passes, and each limit has the one end that it can reach.
   if (-1.0 > lo) {
     lo = -1.0;

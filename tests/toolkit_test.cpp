@@ -65,6 +65,8 @@ class TestWindow : public Window {
   Ref<TextField> field() { return ControlNamed<TextField>("field"); }
   Ref<Timer> timer() { return ControlNamed<Timer>("timer"); }
 
+  void Hear(Ref<Slider> /*slider*/) {}
+
   int activations = 0;
   int enablings = 0;
 
@@ -116,6 +118,8 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
       [&] { window->Hide(); },
       [&] { item->SetEnabled(false); },
       [&] { window->_ControlByName("field"); },
+      [&] { window->MenuBar(); },
+      [&] { AddHandler(window->slider()->ValueChanged, &*window, &TestWindow::Hear); },
       [&] { window->__New<Label>(); },
       [&] { Picture::_OpenFromApp("ChartSmall.jpg"); },
   };
@@ -246,10 +250,15 @@ TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   window->timer()->SetRunMode(2);
   program.display().LetTimePass(350ms);
   EXPECT_EQ(log->entries.size(), 4U);
+  window->timer()->Reset();
+  program.display().LetTimePass(99ms);
+  EXPECT_EQ(log->entries.size(), 4U) << "the period has begun anew";
+  program.display().LetTimePass(1ms);
+  EXPECT_EQ(log->entries.size(), 5U);
   const auto timer = window->timer();
   window->Close();
   program.display().LetTimePass(1000ms);
-  EXPECT_EQ(log->entries.size(), 4U);
+  EXPECT_EQ(log->entries.size(), 5U);
 }
 
 TEST(TimerTest, TheWrapperDoesNotKeepItsWindow) {

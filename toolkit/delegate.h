@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "toolkit/object.h"
+#include "toolkit/ui_trap.h"
 
 namespace vamo {
 
@@ -119,6 +120,7 @@ class Delegate<Result(Arguments...)> {
 template <class Receiver, class Result, class... Arguments>
 void AddHandler(Delegate<Result(Arguments...)>& event, Receiver* receiver,
                 Result (Receiver::*method)(Arguments...)) {
+  _UITrap();
   event = Delegate<Result(Arguments...)>(Self(receiver), method, ReceiverFlag::kWeak);
 }
 

@@ -23,11 +23,14 @@ class RuntimeException : public std::exception {
   const std::string& Message() const { return message_; }
   void SetMessage(std::string message) { message_ = std::move(message); }
   std::int64_t ErrorNumber() const { return error_number_; }
-  const std::string& Reason() const { return message_; }
+  // Why it went wrong, beside what did.
+  const std::string& Reason() const { return reason_; }
+  void SetReason(std::string reason) { reason_ = std::move(reason); }
   const char* what() const noexcept override { return message_.c_str(); }
 
  private:
   std::string message_;
+  std::string reason_;
   std::int64_t error_number_ = 0;
 };
 

@@ -17,6 +17,7 @@
 #include "toolkit/delegate.h"
 #include "toolkit/display.h"
 #include "toolkit/object.h"
+#include "toolkit/ui_trap.h"
 
 namespace vamo {
 
@@ -128,10 +129,6 @@ class Runtime {
   bool ending_ = false;
   std::int32_t exit_code_ = 0;
 };
-
-// Raises ThreadAccessingUIException when an application object exists and the caller is not on the
-// main thread. Each operation on a window, a control, a menu item or a picture begins with it.
-void _UITrap();
 
 // The one application object: enters it, for the rest of the process, and gives it; nil before.
 void _RuntimeRegisterAppObject(Ref<Application> app);

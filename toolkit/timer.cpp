@@ -20,15 +20,15 @@ constinit const ClassInfo Timer::kClass{"Timer", nullptr, Properties::kRows};
 
 void Timer::SetRunMode(std::int64_t run_mode) {
   run_mode_ = static_cast<RunMode>(run_mode);
-  Restart();
+  Reset();
 }
 
 void Timer::SetPeriod(std::int64_t period) {
   period_ = period;
-  Restart();
+  Reset();
 }
 
-void Timer::Restart() {
+void Timer::Reset() {
   running_ = nullptr;
   if (run_mode_ == RunMode::kOff || period_ <= 0) return;
   running_ = Runtime::Current().GetDisplay().StartTimer(std::chrono::milliseconds(period_),
@@ -44,10 +44,8 @@ void Timer::_CallAction() {
   Runtime::Current().Dispatch(act, Runtime::Cause::kTimer);
 }
 
-void _wrapper_Timer1::_SetWindow(const Ref<class Window>& window) {
-  owner_window_ = WeakRef(window);
-}
+void _wrapper_Timer1::_SetWindow(const Ref<class Window>& window) { ownerWindow = WeakRef(window); }
 
-Ref<Window> _wrapper_Timer1::Window() const { return Cast<class Window>(owner_window_.Value()); }
+Ref<Window> _wrapper_Timer1::Window() const { return Cast<class Window>(ownerWindow.Value()); }
 
 }  // namespace vamo

@@ -32,14 +32,15 @@ class Timer : public Object {
   // Raised when the period has passed; in single mode the timer is off by then.
   Delegate<void(Ref<Timer>)> Action;
 
+  // Begins the period anew.
+  virtual void Reset();
   // Stops the timer for good. The window that holds it does so when it is closed.
   void Stop() { SetRunMode(static_cast<std::int64_t>(RunMode::kOff)); }
 
-  void _CallAction();
+  virtual void _CallAction();
 
  private:
   struct Properties;
-  void Restart();
 
   RunMode run_mode_ = RunMode::kOff;
   std::int64_t period_ = 0;
@@ -51,12 +52,12 @@ class _wrapper_Timer1 : public Timer, public _PaneChild {
  public:
   void _SetWindow(const Ref<class Window>& window) override;
   Ref<class Window> Window() const override;
-  std::int64_t _Index() const override { return index_; }
-  void _SetIndex(std::int64_t index) override { index_ = index; }
+  std::int64_t _Index() const override { return Index; }
+  void _SetIndex(std::int64_t index) override { Index = index; }
 
  private:
-  WeakRef owner_window_;
-  std::int64_t index_ = 0;
+  WeakRef ownerWindow;
+  std::int64_t Index = 0;
 };
 
 }  // namespace vamo

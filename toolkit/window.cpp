@@ -135,6 +135,11 @@ void Window::_AddMenuHandler(std::string_view name, MenuHandler handler) {
   menu_handlers_.emplace(name, std::move(handler));
 }
 
+const Ref<MenuBar>& Window::MenuBar() const {
+  _UITrap();
+  return menu_bar_;
+}
+
 void Window::SetMenuBar(Ref<class MenuBar> menu_bar) {
   _UITrap();
   menu_bar_ = std::move(menu_bar);

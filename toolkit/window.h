@@ -16,11 +16,9 @@
 #include "toolkit/key.h"
 #include "toolkit/menu_item.h"
 #include "toolkit/object.h"
+#include "toolkit/ui_trap.h"
 
 namespace vamo {
-
-// Declared in runtime.h, which needs this header.
-void _UITrap();
 
 // What assistive technology reads of one control, beside its text. Empty: nothing of the kind.
 struct AccessibleText {
@@ -81,7 +79,7 @@ class Window : public Object {
   void _AddMenuHandler(std::string_view name, MenuHandler handler);
   const MenuHandlers& GetMenuHandlers() const { return menu_handlers_; }
 
-  const Ref<class MenuBar>& MenuBar() const { return menu_bar_; }
+  const Ref<class MenuBar>& MenuBar() const;
   void SetMenuBar(Ref<class MenuBar> menu_bar);
 
   // The initial state, as the window's stream gives it. Lengths in logical pixels.
