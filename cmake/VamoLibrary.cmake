@@ -5,7 +5,8 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# No contraction into fused multiply-add: results are promised to the last bit on every machine.
+# No contraction into fused multiply-add: the order of the operations is kept, so that all builds on one
+# machine agree to the last bit.
 add_library(vamo_options INTERFACE)
 if(MSVC)
   target_compile_options(vamo_options INTERFACE /W4 /fp:precise /utf-8)

@@ -1,4 +1,4 @@
-// Fisher's z and the interval. The order of the operations is part of the result, to its last bit.
+// Fisher's z and the interval. The order of the operations is kept: the result depends on it.
 #include "stats/interval.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Student's t and its p. The order of the operations is part of the result, to its last bit.
+// Student's t and its p. The order of the operations is kept: the result depends on it.
 #include "stats/significance.h"
 
 #include <algorithm>
@@ -16,9 +16,6 @@ constexpr double kLargestP = 0.99999;
 
 // What 2 / pi, to eight places, lacks to 1: the odd series has 2 / pi in front, the even one 1.
 constexpr double kOddSeriesLack = 0.36338023;
-
-// The longest series that is worth summing: beyond it the distribution hardly changes.
-constexpr std::int64_t kMostDegreesOfFreedom = 1'000'000;
 
 // An N below 0 counts as 0, which has no distribution either: N - 2 cannot overflow.
 std::int64_t DegreesOfFreedom(std::int64_t N) { return std::max<std::int64_t>(N, 0) - 2; }
@@ -89,9 +86,7 @@ double ComputeT(double r, std::int64_t N) {
 }
 
 double ComputeP(double t, std::int64_t N) {
-  const double central =
-      CentralProbability(t, std::min(DegreesOfFreedom(N), kMostDegreesOfFreedom));
-  double p = 0.5 * (1.0 + central);
+  double p = 0.5 * (1.0 + CentralProbability(t, DegreesOfFreedom(N)));
   p = (1.0 - p) * 2.0;
   if (kSmallest > t) {
     p = kLargestP;

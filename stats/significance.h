@@ -25,8 +25,10 @@ double ComputeT(double r, std::int64_t N);
 // decimals and is not to read as 0 or 1. An N below 3 leaves no degree of freedom: a t of 0, the
 // only one that ComputeT gives then, has its .99999, and the p of any other t means nothing.
 //
-// All of this is for N up to 1000. A larger N works too; the degrees of freedom stop at a
-// million, where p is that of the normal distribution within 4e-7, so that no N takes long.
+// All of this is for N up to 1000. A larger N works too, in a time that grows with it.
+//
+// Builds on one machine agree to the last bit. Between machines the C library's sine, cosine and
+// arctangent differ in the last bits, and with them p by some 1e-15.
 double ComputeP(double t, std::int64_t N);
 
 }  // namespace vamo
