@@ -57,7 +57,7 @@ constexpr auto kWindow = WindowStream({.width = 450,
 constexpr auto kStaticText1 =
     TextAreaStream({.place = {"StaticText1", -1, -1, 447, 358, 0},
                     .value = std::string_view(kText.data(), kText.size())});
-constexpr std::array kAccessibleTexts{AccessibleText{"StaticText1", "About Vamo", "", ""}};
+constexpr std::array kAccessibleTexts{AccessibleText{"StaticText1", "Info", "", ""}};
 
 static_assert(kText.size() == 911);
 static_assert(kStaticText1.Length() == 1592);

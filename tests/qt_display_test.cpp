@@ -174,7 +174,7 @@ bool ShowsHighlight(QWidget& widget) {
 TEST(QtDisplayTest, TheInfoTextsSelectionShowsOnlyWhileItsWindowIsActive) {
   InControlWindow([](User& user) {
     user.Click(Role::kButton, "Info");
-    user.Click(Role::kText, "About Vamo");
+    user.Click(Role::kText, "Info");
     user.PressKey(Key::Command("a"));
     QWidget& info = *QApplication::activeWindow();
     EXPECT_TRUE(ShowsHighlight(info));

@@ -98,7 +98,8 @@ class Display {
   // answered without asking another program, and with true where that is not possible.
   virtual bool ClipboardMayHoldText() const = 0;
 
-  // Called for Cut and Copy, with text that is not empty.
+  // Called for Cut and Copy, with text that is not empty and whose lines end with a line feed; must
+  // give it the platform's own line ends.
   virtual void SetClipboardText(std::string_view text) = 0;
 
   // Whether a menu bar lives in its window, so that a program without any window is out of reach.

@@ -28,17 +28,17 @@ class Flagged {
   const bool before_;
 };
 
-// The text with a blank for each line break, so that two numbers do not become one.
-std::string OnOneLine(std::string_view text) {
-  std::string line;
-  line.reserve(text.size());
+// The text with each line break, of whatever kind, in the same form.
+std::string WithLineBreaksAs(char line_break, std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
   char previous = 0;
   for (const char c : text) {
     const bool ends_pair = previous == '\r' && c == '\n';
-    if (!ends_pair) line += c == '\r' || c == '\n' ? ' ' : c;
+    if (!ends_pair) result += c == '\r' || c == '\n' ? line_break : c;
     previous = c;
   }
-  return line;
+  return result;
 }
 
 }  // namespace
@@ -75,7 +75,7 @@ void TextEdit::SetText(std::string_view text) {
   // What the program itself wrote cannot be undone; what it corrected in the user's edit can.
   if (!in_users_edit_) history_.clear();
   text_ = std::move(valid);
-  selection_ = {text_.size(), text_.size()};
+  selection_ = {CaretAfterWrite(), CaretAfterWrite()};
   Changed();
   RaiseTextChange();
 }
@@ -103,7 +103,8 @@ void TextEdit::Cut() {
 }
 
 void TextEdit::Copy() {
-  if (CanCopy()) Runtime::Current().GetDisplay().SetClipboardText(SelectedText());
+  if (CanCopy())
+    Runtime::Current().GetDisplay().SetClipboardText(WithLineBreaksAs('\n', TextToCopy()));
 }
 
 void TextEdit::Paste() { UserPasted(Runtime::Current().GetDisplay().ClipboardText()); }
@@ -118,7 +119,8 @@ void TextEdit::UserSelected(std::size_t anchor, std::size_t caret) {
 void TextEdit::UserPasted(std::string_view text) {
   Runtime::Current().Dispatch([this, self = Self(this), text] {
     if (read_only_ || !Enabled()) return;
-    ReplaceSelection(OnOneLine(ValidUtf8(text)));
+    // So that two numbers do not become one.
+    ReplaceSelection(WithLineBreaksAs(' ', ValidUtf8(text)));
   });
 }
 

@@ -24,8 +24,9 @@ class TextEdit : public RectControl {
 
   // Valid UTF-8, of any length.
   const std::string& Text() const;
-  // Writes the text, whatever the limits on typing, and puts the caret at its end. Where the text
-  // really changes, the change is raised inside the call. Broken UTF-8 becomes U+FFFD.
+  // Writes the text, whatever the limits on typing, and puts the caret at its end, or at its start
+  // where the text is there to be read. Where the text really changes, the change is raised inside
+  // the call. Broken UTF-8 becomes U+FFFD.
   void SetText(std::string_view text);
 
   // Byte offsets into the text, at boundaries of characters. Equal: a caret and no selection.
@@ -47,7 +48,7 @@ class TextEdit : public RectControl {
   // The Edit commands. One that cannot act does nothing.
   bool CanUndo() const { return !read_only_ && !history_.empty(); }
   bool CanCut() const { return !read_only_ && !SelectedText().empty(); }
-  bool CanCopy() const { return !SelectedText().empty(); }
+  bool CanCopy() const { return !TextToCopy().empty(); }
   bool CanPaste() const;
   void Undo();
   void Cut();
@@ -61,9 +62,10 @@ class TextEdit : public RectControl {
   // UTF-8 and for line breaks, which become a blank each; no filter, mask or limit holds.
   void UserPasted(std::string_view text);
 
-  void EnteredByTab() override { UserSelected(0, text_.size()); }
-
  protected:
+  // What Copy takes; with line ends of any kind.
+  virtual std::string_view TextToCopy() const { return SelectedText(); }
+  virtual std::size_t CaretAfterWrite() const { return text_.size(); }
   // Puts `text` in the place of what lies between two offsets, and the caret behind it, as the
   // user's own edit. The change is raised even where the text is the same afterwards: the program
   // may have changed its mind about that text since. Nothing for nothing is no edit.
@@ -113,6 +115,7 @@ class TextField : public TextEdit {
   bool Password() const { return password_; }
 
   bool TakeKey(const Key& key) override;
+  void EnteredByTab() override { UserSelected(0, Text().size()); }
 
  protected:
   bool TakesKeys() const override { return true; }
@@ -127,7 +130,8 @@ class TextField : public TextEdit {
   bool password_ = false;
 };
 
-// Text of several lines, to be read, selected and copied. The user does not type into it.
+// Text of several lines, to be read, selected and copied. The user does not type into it. Copy
+// takes the whole where nothing is selected.
 class TextArea : public TextEdit {
  public:
   static const ClassInfo kClass;
@@ -138,6 +142,8 @@ class TextArea : public TextEdit {
 
  protected:
   bool TakesKeys() const override { return true; }
+  std::string_view TextToCopy() const override;
+  std::size_t CaretAfterWrite() const override { return 0; }
 
  private:
   struct Properties;

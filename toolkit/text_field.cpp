@@ -83,6 +83,10 @@ void TextField::Type(std::string_view character) {
   }
 }
 
+std::string_view TextArea::TextToCopy() const {
+  return SelectedText().empty() ? std::string_view(Text()) : SelectedText();
+}
+
 void TextField::RaiseTextChange() {
   if (TextChange) TextChange.Invoke(Self(this));
 }

@@ -103,6 +103,9 @@ class Window : public Object {
   const State& GetState() const { return state_; }
   // Type 2: a splash without a frame, in the middle of the screen.
   bool IsSplash() const { return state_.type == 2; }
+  // Type 7: a window to be read beside the working window; Escape and the command key with W close
+  // it.
+  bool IsReading() const { return state_.type == 7; }
   bool Visible() const { return visible_; }
 
   // The controls in the order of their creation; other children are not among them.

@@ -7,6 +7,13 @@
 #include "toolkit/window.h"
 
 namespace vamo {
+namespace {
+
+bool ClosesWindow(const Key& key) {
+  return key.command ? key.text == "w" : key.text == std::string_view(&kEscape, 1);
+}
+
+}  // namespace
 
 void Window::UserActivated() {
   Runtime& runtime = Runtime::Current();
@@ -49,6 +56,10 @@ bool Window::TakeKey(const Key& key) {
   // With the command key held, a letter is no character.
   const bool carries_character = key.code == KeyCode::kCharacter && !key.command;
   if (Event_KeyDown(carries_character ? key.text : "")) return true;
+  if (IsReading() && ClosesWindow(key)) {
+    Close();
+    return true;
+  }
   if (key.command && key.code == KeyCode::kCharacter) return false;
   if (focus_ && focus_->CanTakeFocus() && focus_->TakeKey(key)) return true;
   if (key.text != std::string_view(&kTab, 1)) return false;
@@ -58,10 +69,12 @@ bool Window::TakeKey(const Key& key) {
 
 void Window::MoveFocus(bool backwards) {
   std::vector<Ref<RectControl>> stops = Controls();
-  std::erase_if(stops, [](const Ref<RectControl>& control) {
-    return !control->TabStop() || !control->CanTakeFocus();
-  });
+  std::erase_if(stops, [](const Ref<RectControl>& control) { return !control->CanTakeFocus(); });
   if (stops.empty()) return;
+  // Without a stop for Tab the keys go to the first control that can have them, and stay there.
+  const Ref<RectControl> first = stops.front();
+  std::erase_if(stops, [](const Ref<RectControl>& control) { return !control->TabStop(); });
+  if (stops.empty()) return SetFocus(focus_ ? focus_ : first);
   std::stable_sort(stops.begin(), stops.end(), [](const auto& left, const auto& right) {
     return left->TabIndex() < right->TabIndex();
   });

@@ -70,17 +70,29 @@ TEST(WindowJourney, InfoIsOneWindowThatCanBeReopened) {
   });
 }
 
-TEST(WindowJourney, TheInfoTextCanBeSelectedAndCopiedButNotChanged) {
+TEST(WindowJourney, TheInfoTextIsReadAndCopiedByKeysButNotChanged) {
   InControlWindow([](User& user) {
     user.Click(Role::kButton, "Info");
-    user.Click(Role::kText, "About Vamo");
-    user.PressKey(Key::Command("a"));
+    EXPECT_EQ(user.Focused().name, "Info");
+    EXPECT_EQ(user.Focused().selected_text, "");
     user.Type("x");
     user.PressKey(kBackspaceKey);
     user.PressKey(Key::Command("c"));
     const std::string copied = user.Clipboard();
     EXPECT_EQ(copied.rfind("Vamo simulates how the 95% confidence interval", 0), 0U);
     EXPECT_EQ(copied.substr(copied.rfind(' ') - 4), "this software.");
+    EXPECT_NE(copied.find(".\n\nCopyright"), std::string::npos) << "the lines of the platform";
+    EXPECT_EQ(copied.find('\r'), std::string::npos);
+    user.PressKey(Arrow(KeyCode::kRight, /*shift=*/true));
+    user.PressKey(Key::Command("c"));
+    EXPECT_EQ(user.Clipboard(), "V") << "the caret has begun at the start";
+    user.PressKey(Key::Character(std::string(1, kEscape)));
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
+    user.ActivateWindow("Vamo");
+    user.PressKey(Key::Command("w"));
+    user.Click(Role::kButton, "Info");
+    user.PressKey(Key::Command("w"));
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"}) << "but the control window stays";
   });
 }
 

@@ -99,8 +99,8 @@ TEST(Reading, TheSplashAndTheInfoWindow) {
     user.PressNamed("space");
     user.Click(Role::kButton, "Info");
     ASSERT_EQ(user.ActiveTitle(), "Info");
-    EXPECT_EQ(ReadAll(user), (std::vector<ReadOut>{{"text", "About Vamo", "", ""}}));
-    const Element& text = user.Find(Role::kText, "About Vamo");
+    EXPECT_EQ(ReadAll(user), (std::vector<ReadOut>{{"text", "Info", "", ""}}));
+    const Element& text = user.Find(Role::kText, "Info");
     EXPECT_TRUE(text.HasState(ATSPI_STATE_READ_ONLY));
     EXPECT_FALSE(text.HasState(ATSPI_STATE_EDITABLE));
     const std::string content = text.Text();
