@@ -13,7 +13,9 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "toolkit/property_stream.h"
 #include "toolkit/text_edit.h"
@@ -145,11 +147,17 @@ TEST(QtDisplayTest, ADesktopThatIsReadFromTheRightChangesNothing) {
   });
 }
 
+// What a widget draws, on white.
+QImage Drawn(QWidget& widget) {
+  QImage image(widget.size(), QImage::Format_RGB32);
+  image.fill(Qt::white);
+  widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+  return image;
+}
+
 // The smallest rectangle that holds all that a label has drawn.
 QRect Ink(QLabel& label) {
-  QImage image(label.size(), QImage::Format_RGB32);
-  image.fill(Qt::white);
-  label.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+  const QImage image = Drawn(label);
   QRect ink;
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
@@ -198,6 +206,49 @@ TEST(QtDisplayTest, NoTextIsCutOff) {
       const int left = label->alignment().testFlag(Qt::AlignHCenter) ? 1 : 0;
       EXPECT_TRUE(label->rect().adjusted(left, 0, -1, 0).contains(ink)) << text;
     }
+  });
+}
+
+double Luminance(QColor colour) {
+  const auto linear = [](double share) {
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
+// The greatest contrast to white among the pixels of a part.
+double Contrast(const QImage& image, const QRect& part) {
+  double contrast = 0;
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    for (int x = part.left(); x <= part.right(); ++x) {
+      contrast = std::max(contrast, 1.05 / (Luminance(image.pixelColor(x, y)) + 0.05));
+    }
+  }
+  return contrast;
+}
+
+TEST(QtDisplayTest, OutlinesStandOutAndShowWhereTheKeysGo) {
+  InControlWindow([](User& user) {
+    constexpr double kLeast = 3;
+    auto& field = Named<QLineEdit>("r");
+    auto& slider = Named<QSlider>("r");
+    auto& button = Named<QPushButton>("Info");
+    const QImage field_with_keys = Drawn(field);
+    const QImage slider_without = Drawn(slider);
+    user.Click(Role::kSlider, "r");
+    const QRect edge(0, field.height() / 2, 2, 1);
+    for (const QImage& drawn : {field_with_keys, Drawn(field), Drawn(button)}) {
+      EXPECT_GE(Contrast(drawn, edge), kLeast);
+    }
+    EXPECT_NE(Drawn(field).copy(edge), field_with_keys.copy(edge));
+    user.PressKey({KeyCode::kHome, "", false, false});
+    for (const QImage& drawn : {slider_without, Drawn(slider)}) {
+      EXPECT_GE(Contrast(drawn, QRect(drawn.width() / 2, 0, 1, drawn.height())), kLeast);
+      // Above the groove there is nothing but the knob's upper edge.
+      EXPECT_GE(Contrast(drawn, QRect(7, 0, 1, 3)), kLeast);
+    }
+    EXPECT_NE(Drawn(slider), slider_without);
   });
 }
 

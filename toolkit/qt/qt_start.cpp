@@ -2,10 +2,11 @@
 #include "qt_start.h"
 
 #include <QPalette>
-#include <QStyle>
 #include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
+
+#include "qt_style.h"
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -62,7 +63,7 @@ std::unique_ptr<QApplication> StartApplication(int& argc, char** argv) {
   const QtMessageHandler usual = qInstallMessageHandler(SayNoDisplay);
   auto application = std::make_unique<QApplication>(argc, argv);
   qInstallMessageHandler(usual);
-  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication::setStyle(new OutlinedStyle);
   QApplication::setPalette(LightColours());
   // A number that begins with a point would end with it on a desktop that is read from the right.
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
