@@ -147,11 +147,11 @@ TEST(QtDisplayTest, ADesktopThatIsReadFromTheRightChangesNothing) {
   });
 }
 
-// What a widget draws, on white.
+// What a widget draws, on white, where it draws no background of its own.
 QImage Drawn(QWidget& widget) {
   QImage image(widget.size(), QImage::Format_RGB32);
   image.fill(Qt::white);
-  widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+  widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
   return image;
 }
 
@@ -249,6 +249,18 @@ TEST(QtDisplayTest, OutlinesStandOutAndShowWhereTheKeysGo) {
       EXPECT_GE(Contrast(drawn, QRect(7, 0, 1, 3)), kLeast);
     }
     EXPECT_NE(Drawn(slider), slider_without);
+  });
+}
+
+// Its text area ends a little before the window does, and begins a little outside of it.
+TEST(QtDisplayTest, InfoIsOfOneColourUpToItsEdges) {
+  InControlWindow([](User& user) {
+    user.Click(Role::kButton, "Info");
+    QWidget& window = *QApplication::activeWindow();
+    const int bar = window.findChild<QMenuBar*>()->height();
+    const QImage drawn = Drawn(window);
+    EXPECT_EQ(Contrast(drawn, QRect(440, bar + 1, 10, 359)), 1);
+    EXPECT_EQ(Contrast(drawn, QRect(0, bar + 340, 450, 20)), 1);
   });
 }
 

@@ -34,9 +34,10 @@ ContentWidget::ContentWidget(WindowWidget& parent)
       designed_size_(DesignedSize(parent.GetWindow()->GetState())) {
   const Window::State& state = parent.GetWindow()->GetState();
   setAutoFillBackground(true);
-  if (!state.has_background_colour) return;
   QPalette colours = palette();
-  colours.setColor(QPalette::Window, ToQColor(state.background_colour));
+  // Without a colour of its own a window has that of the text on it, which then needs no edge.
+  colours.setColor(QPalette::Window, state.has_background_colour ? ToQColor(state.background_colour)
+                                                                 : colours.color(QPalette::Base));
   setPalette(colours);
 }
 

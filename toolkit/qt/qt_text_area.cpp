@@ -8,6 +8,7 @@
 
 #include "qt_convert.h"
 #include "qt_text_commands.h"
+#include "toolkit/window.h"
 
 namespace vamo {
 namespace {
@@ -40,11 +41,22 @@ AreaWidget::AreaWidget(TextArea& area, QWidget& parent) : WidgetFor(area, parent
 void AreaWidget::ShowState() {
   const TextArea& area = TheControl();
   setFont(ToQFont(area.Font()));
-  setFrameStyle(area.HasBorder() ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+  ShowBorder();
   ShowColours();
   const QString shown = DocumentText(area.Text());
   if (toPlainText() != shown) setPlainText(shown);
   ShowSelection();
+}
+
+// Where a side lies outside of the window, the rest of the border would look like a mistake.
+void AreaWidget::ShowBorder() {
+  const TextArea& area = TheControl();
+  const Window::State& window = area.Window()->GetState();
+  const Bounds& bounds = area.Bounds();
+  const bool whole = bounds.left >= 0 && bounds.top >= 0 &&
+                     bounds.left + bounds.width <= window.width &&
+                     bounds.top + bounds.height <= window.height;
+  setFrameStyle(area.HasBorder() && whole ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
 }
 
 void AreaWidget::ShowColours() {

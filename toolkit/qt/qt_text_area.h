@@ -21,6 +21,7 @@ class AreaWidget : public WidgetFor<QPlainTextEdit, TextArea> {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
+  void ShowBorder();
   void ShowColours();
   void ShowSelection();
   void ReportSelection();
