@@ -17,6 +17,7 @@
 #include <array>
 #include <cmath>
 
+#include "toolkit/label.h"
 #include "toolkit/property_stream.h"
 #include "toolkit/text_edit.h"
 #include "toolkit/window.h"
@@ -264,20 +265,50 @@ TEST(QtDisplayTest, InfoIsOfOneColourUpToItsEdges) {
   });
 }
 
-TEST(QtDisplayTest, TheSplashStretchesItsControls) {
-  RunProgram([](User&) {
+// A window that its user can resize, with one control locked to all of its sides.
+class ElasticWindow : public Window {
+ public:
+  void Layout() override {
+    _SetProperties(*this, EncodedStream<640>()
+                              .Integer("Width", 300)
+                              .Integer("Height", 200)
+                              .Integer("MinimumWidth", 64)
+                              .Boolean("Resizeable", true));
+  }
+  void CreateControls() override {
+    _AddControl("label", __New<Label>());
+    _SetProperties(*ControlNamed<Label>("label"), EncodedStream<640>()
+                                                      .Integer("Top", 180)
+                                                      .Integer("Width", 298)
+                                                      .Integer("Height", 15)
+                                                      .Boolean("LockLeft", true)
+                                                      .Boolean("LockTop", true)
+                                                      .Boolean("LockRight", true)
+                                                      .Boolean("LockBottom", true));
+  }
+};
+
+TEST(QtDisplayTest, AWindowThatIsResizedStretchesItsControls) {
+  InControlWindow([](User& user) {
+    const Ref<ElasticWindow> elastic = New<ElasticWindow>();
+    elastic->Constructor();
+    user.Wait(std::chrono::milliseconds(0));
     QWidget& window = *QApplication::activeWindow();
     EXPECT_EQ(window.size(), QSize(300, 200));
-    const auto notice = [&] {
-      for (const auto* label : window.findChildren<QLabel*>()) {
-        if (label->text().contains("2026")) return label->geometry();
-      }
-      return QRect();
-    };
-    EXPECT_EQ(notice(), QRect(0, 181, 298, 15));
     window.resize(360, 250);
     QCoreApplication::processEvents();
-    EXPECT_EQ(notice(), QRect(0, 181, 358, 65));
+    EXPECT_EQ(window.findChild<QLabel*>()->geometry(), QRect(0, 180, 358, 65));
+    window.resize(10, 250);
+    EXPECT_EQ(window.width(), 64);
+    elastic->Close();
+  });
+}
+
+TEST(QtDisplayTest, TheSplashHasOneSize) {
+  RunProgram([](User&) {
+    const QWidget& window = *QApplication::activeWindow();
+    EXPECT_EQ(window.minimumSize(), QSize(300, 200));
+    EXPECT_EQ(window.maximumSize(), QSize(300, 200));
   });
 }
 

@@ -106,6 +106,9 @@ class Window : public Object {
   // Type 7: a window to be read beside the working window; Escape and the command key with W close
   // it.
   bool IsReading() const { return state_.type == 7; }
+  // A splash has one size, whatever its state says: a desktop that tiles its windows would make a
+  // poster of it.
+  bool CanBeResized() const { return state_.resizeable && !IsSplash(); }
   bool Visible() const { return visible_; }
 
   // The controls in the order of their creation; other children are not among them.

@@ -22,7 +22,7 @@ Qt::WindowFlags Flags(const Window& window) {
   flags.setFlag(Qt::WindowCloseButtonHint, state.has_close_button);
   flags.setFlag(Qt::WindowMinimizeButtonHint, state.has_minimize_button);
   // A window of a fixed size has nothing to maximise.
-  flags.setFlag(Qt::WindowMaximizeButtonHint, state.has_maximize_button && state.resizeable);
+  flags.setFlag(Qt::WindowMaximizeButtonHint, state.has_maximize_button && window.CanBeResized());
   return flags;
 }
 
@@ -63,7 +63,7 @@ void WindowWidget::SetSizes() {
   const Window::State& state = window_->GetState();
   const int width = ToInt(state.width);
   const int height = ToInt(state.height);
-  if (!state.resizeable) {
+  if (!window_->CanBeResized()) {
     content_->setFixedSize(width, height);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     return;
