@@ -218,7 +218,8 @@ class QtUser : public User {
   static std::vector<QWidget*> OnScreen() {
     std::vector<QWidget*> windows;
     for (QWidget* widget : QApplication::topLevelWidgets()) {
-      if (widget->isVisible() && widget->windowType() == Qt::Window) windows.push_back(widget);
+      const bool window = widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog;
+      if (widget->isVisible() && window) windows.push_back(widget);
     }
     return windows;
   }

@@ -74,6 +74,7 @@ void Window::Show() {
   if (visible_ && Runtime::Current().EventCause() != Runtime::Cause::kUser) return;
   visible_ = true;
   view_->Show();
+  has_been_shown_ = true;
 }
 
 void Window::Hide() {

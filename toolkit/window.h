@@ -111,6 +111,24 @@ class Window : public Object {
   bool CanBeResized() const { return state_.resizeable && !IsSplash(); }
   bool Visible() const { return visible_; }
 
+  // Where a display is to put the window that it brings on the screen, as far as it can.
+  struct Placement {
+    enum class Rule {
+      // Where it was, or else where the platform puts a new window.
+      kAnywhere,
+      kMiddleOfScreen,
+      // Its middle at that of the other window, which may be off the screen by now.
+      kOver,
+      // Right of the other window, else left of it, where the screen has the room.
+      kBeside
+    };
+    Rule rule = Rule::kAnywhere;
+    Ref<Window> other = nullptr;
+    // Whether it stays in front of the other one, and goes where that one goes.
+    bool stays_with_other = false;
+  };
+  Placement WhereToShow() const;
+
   // The controls in the order of their creation; other children are not among them.
   std::vector<Ref<RectControl>> Controls() const;
   // The control that has the keys while the window is active, or nil.
@@ -163,6 +181,7 @@ class Window : public Object {
 
   State state_;
   bool visible_ = false;
+  bool has_been_shown_ = false;
   std::vector<Child> children_;
   Ref<RectControl> focus_;
   Ref<class MenuBar> menu_bar_;

@@ -95,6 +95,48 @@ TEST(Desktop, TheSplashStaysForFourSeconds) {
   });
 }
 
+void ExpectSameMiddle(const WindowOnScreen& window, const WindowOnScreen& other) {
+  // Menu bars and frames may be of any height and do not count.
+  EXPECT_NEAR(window.x + window.width / 2, other.x + other.width / 2, 2);
+  EXPECT_NEAR(window.y + window.height / 2, other.y + other.height / 2, 20);
+}
+
+void ExpectOnScreen(OutsideUser& user, const WindowOnScreen& window) {
+  EXPECT_GE(window.x, 0);
+  EXPECT_GE(window.y, window.frame_top);
+  EXPECT_LE(window.x + window.width + window.frame_right, user.ScreenWidth());
+  EXPECT_LE(window.y + window.height, user.ScreenHeight());
+}
+
+TEST(Desktop, WindowsOpenWhereTheUserLooks) {
+  RunProgramWith({}, [](OutsideUser& user) {
+    const WindowOnScreen splash = user.WindowTitled("");
+    EXPECT_NEAR(splash.x + splash.width / 2, user.ScreenWidth() / 2, 2);
+    user.PressNamed("space");
+    ExpectSameMiddle(user.WindowTitled("Vamo"), splash);
+    user.MoveWindow("Vamo", 10, 500);
+    user.Choose("Window/About Vamo");
+    const WindowOnScreen control = user.WindowTitled("Vamo");
+    ExpectSameMiddle(user.WindowTitled(""), control);
+    EXPECT_EQ(user.WindowTitled("").stays_with, control.id);
+    user.PressNamed("space");
+
+    user.Click(Role::kButton, "Info");
+    WindowOnScreen info = user.WindowTitled("Info");
+    EXPECT_EQ(info.x, control.x + control.width + control.frame_right + info.frame_right);
+    ExpectOnScreen(user, info);
+    user.Close("Info");
+    user.MoveWindow("Vamo", user.ScreenWidth() - 510, 0);
+    user.Click(Role::kButton, "Info");
+    info = user.WindowTitled("Info");
+    EXPECT_EQ(info.x + info.width + 2 * info.frame_right, user.WindowTitled("Vamo").x);
+    user.Close("Info");
+    user.MoveWindow("Vamo", user.ScreenWidth() / 2 - 250, 0);
+    user.Click(Role::kButton, "Info");
+    ExpectOnScreen(user, user.WindowTitled("Info"));
+  });
+}
+
 TEST(Desktop, TheCloseButtonEndsTheProgram) {
   EXPECT_EQ(InControlWindow({},
                             [](OutsideUser& user) {

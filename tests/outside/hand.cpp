@@ -69,6 +69,10 @@ void TurnWheel(int notches_up) {
 
 void Activate(unsigned long window) { Xdotool("windowactivate", std::to_string(window)); }
 
+void MoveWindow(unsigned long window, int x, int y) {
+  Xdotool("windowmove", "--sync", std::to_string(window), std::to_string(x), std::to_string(y));
+}
+
 void Disconnect(unsigned long window) { Xdotool("windowkill", std::to_string(window)); }
 
 void SetClipboard(std::string_view text) { Offer("clipboard", text); }

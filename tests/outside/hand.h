@@ -20,6 +20,7 @@ void Press();
 void Release();
 void TurnWheel(int notches_up);
 void Activate(unsigned long window);
+void MoveWindow(unsigned long window, int x, int y);
 // Cuts the connection of a window's program to the X server.
 void Disconnect(unsigned long window);
 

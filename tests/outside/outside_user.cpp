@@ -125,6 +125,10 @@ void OutsideUser::ClickCloseButton(std::string_view title) {
   });
 }
 
+void OutsideUser::MoveWindow(std::string_view title, int x, int y) {
+  Act([&] { hand::MoveWindow(WindowTitled(title).id, x, y); });
+}
+
 void OutsideUser::ActivateWindow(std::string_view title) {
   if (ActiveTitle() == title) return;
   Act([&] { hand::Activate(WindowTitled(title).id); });

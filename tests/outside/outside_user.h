@@ -51,6 +51,8 @@ class OutsideUser : public User {
   // A combination of keys by their X names.
   void PressNamed(const std::string& keys);
   void ClickCloseButton(std::string_view title);
+  // Takes the upper left corner of the window's frame there.
+  void MoveWindow(std::string_view title, int x, int y);
   void PasteSelection(Role role, std::string_view name, std::string_view text);
   void PressKnob(std::string_view slider, std::int64_t at);
   void MoveKnob(std::string_view slider, std::int64_t to);
@@ -61,6 +63,7 @@ class OutsideUser : public User {
   const Element& FindDescribed(std::string_view description);
   // Everything in the active window, whether it shows or not, menus left out.
   const std::vector<Element>& Elements();
+  int ScreenWidth() const { return screen_.Width(); }
   int ScreenHeight() const { return screen_.Height(); }
   bool Running() { return program_.Running(); }
   pid_t Process() const { return program_.id(); }

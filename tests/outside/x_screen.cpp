@@ -90,6 +90,7 @@ struct XScreen::Parts {
     XTranslateCoordinates(display, window, root, 0, 0, &shown.x, &shown.y, &child);
     shown.width = attributes.width;
     shown.height = attributes.height;
+    XGetTransientForHint(display, window, &shown.stays_with);
     const std::vector<unsigned long> frame = Numbers(window, "_NET_FRAME_EXTENTS");
     if (frame.size() == 4) {
       shown.frame_right = static_cast<int>(frame[1]);
@@ -165,6 +166,8 @@ int XScreen::Bells() {
   parts_->ReadEvents();
   return parts_->bells;
 }
+
+int XScreen::Width() const { return DisplayWidth(parts_->display, DefaultScreen(parts_->display)); }
 
 int XScreen::Height() const {
   return DisplayHeight(parts_->display, DefaultScreen(parts_->display));

@@ -21,6 +21,8 @@ struct WindowOnScreen {
   int width = 0;
   int height = 0;
   bool active = false;
+  // The window in front of which this one stays; 0 for none.
+  unsigned long stays_with = 0;
   // What the window manager draws.
   int frame_right = 0;
   int frame_top = 0;
@@ -39,6 +41,7 @@ class XScreen {
   bool RoundTrip(unsigned long window, const std::function<bool()>& runs);
   // How often the bell has rung since the start.
   int Bells();
+  int Width() const;
   int Height() const;
 
  private:

@@ -3,19 +3,21 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "qt_convert.h"
 #include "qt_menu.h"
+#include "qt_placement.h"
 #include "toolkit/window.h"
 
 namespace vamo {
 namespace {
 
 Qt::WindowFlags Flags(const Window& window) {
-  if (window.IsSplash()) return Qt::Window | Qt::FramelessWindowHint;
+  // A dialog can stay in front of a window, and no desktop tiles it.
+  if (window.IsSplash()) return Qt::Dialog | Qt::FramelessWindowHint;
   const Window::State& state = window.GetState();
   Qt::WindowFlags flags =
       Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
@@ -66,6 +68,7 @@ void WindowWidget::SetSizes() {
   if (!window_->CanBeResized()) {
     content_->setFixedSize(width, height);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
+    layout()->activate();
     return;
   }
   const bool bar_above = menu_bar_ != nullptr && !kOneMenuBarOnScreen;
@@ -81,17 +84,9 @@ ControlWidget& WindowWidget::AddControl(RectControl& control) {
   return widget;
 }
 
-void WindowWidget::PlaceAtFirst() {
-  if (placed_) return;
-  placed_ = true;
-  // Where other windows go, the window manager knows best.
-  if (!window_->IsSplash()) return;
-  const QRect available = screen()->availableGeometry();
-  move(available.center() - rect().center());
-}
-
 void WindowWidget::BringToFront() {
-  PlaceAtFirst();
+  if (window_ != nullptr) Place(*this, window_->WhereToShow());
+  if (!isVisible()) just_placed_ = true;
   ShowFocus();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
@@ -120,6 +115,10 @@ void WindowWidget::ShowFocus() {
 }
 
 bool WindowWidget::event(QEvent* event) {
+  // By now the window manager has drawn its frame, or has itself chosen the place.
+  if (event->type() == QEvent::WindowActivate && std::exchange(just_placed_, false)) {
+    KeepOnScreen(*this);
+  }
   if (event->type() == QEvent::WindowActivate) activation_.Activated(*this);
   if (event->type() == QEvent::WindowDeactivate) activation_.Deactivated(*this);
   return QWidget::event(event);

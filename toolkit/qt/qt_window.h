@@ -42,14 +42,13 @@ class WindowWidget : public QWidget {
  private:
   void AddMenuBar();
   void SetSizes();
-  void PlaceAtFirst();
 
   Window* window_;
   Activation& activation_;
   ContentWidget* content_;
   KeyRoad keys_;
   QMenuBar* menu_bar_ = nullptr;
-  bool placed_ = false;
+  bool just_placed_ = false;
 };
 
 // A window's end of its widget, which it owns.

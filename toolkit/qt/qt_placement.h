@@ -1,0 +1,21 @@
+// Where windows go on the screen.
+#ifndef VAMO_TOOLKIT_QT_QT_PLACEMENT_H_
+#define VAMO_TOOLKIT_QT_QT_PLACEMENT_H_
+
+#include "toolkit/window.h"
+
+class QWidget;
+
+namespace vamo {
+
+// Puts a window that is about to be shown where the toolkit wants it. A platform that places all
+// windows itself goes its own way.
+void Place(QWidget& window, const Window::Placement& placement);
+
+// Moves a window by as little as possible so that it lies on its screen, with what the platform
+// draws around it. Of one that is too large the top left corner does.
+void KeepOnScreen(QWidget& window);
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_QT_QT_PLACEMENT_H_
