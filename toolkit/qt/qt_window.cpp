@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -98,6 +99,9 @@ void WindowWidget::BringToFront() {
 }
 
 void WindowWidget::TakeAway() {
+  QWindow* stays_with = windowHandle() == nullptr ? nullptr : windowHandle()->transientParent();
+  // Before it goes: a window manager that loses the active window may choose any other one.
+  if (stays_with != nullptr && isActiveWindow()) stays_with->requestActivate();
   const QPoint at = pos();
   hide();
   move(at);
