@@ -4,18 +4,22 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QDropEvent>
+#include <QFontInfo>
 #include <QImage>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QSlider>
 #include <QTest>
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "toolkit/label.h"
 #include "toolkit/property_stream.h"
@@ -194,22 +198,6 @@ TEST(QtDisplayTest, TheInfoTextsSelectionShowsOnlyWhileItsWindowIsActive) {
   });
 }
 
-TEST(QtDisplayTest, NoTextIsCutOff) {
-  InControlWindow([](User& user) {
-    user.Type("99");
-    user.Click(Role::kText, "N");
-    user.Type("1000");
-    for (auto* label : QApplication::activeWindow()->findChildren<QLabel*>()) {
-      const QRect ink = Ink(*label);
-      const std::string text = label->text().toStdString();
-      ASSERT_FALSE(text.empty() || ink.isEmpty()) << text;
-      // A text that begins at the left begins in the first column.
-      const int left = label->alignment().testFlag(Qt::AlignHCenter) ? 1 : 0;
-      EXPECT_TRUE(label->rect().adjusted(left, 0, -1, 0).contains(ink)) << text;
-    }
-  });
-}
-
 double Luminance(QColor colour) {
   const auto linear = [](double share) {
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
@@ -227,6 +215,65 @@ double Contrast(const QImage& image, const QRect& part) {
     }
   }
   return contrast;
+}
+
+void ExpectNoTextCutOff() {
+  for (auto* label : QApplication::activeWindow()->findChildren<QLabel*>()) {
+    const QRect ink = Ink(*label);
+    const std::string text = label->text().toStdString();
+    ASSERT_FALSE(text.empty() || ink.isEmpty()) << text;
+    // A text that begins at the left begins in the first column.
+    const int left = label->alignment().testFlag(Qt::AlignHCenter) ? 1 : 0;
+    EXPECT_TRUE(label->rect().adjusted(left, 0, -1, 0).contains(ink)) << text;
+  }
+}
+
+void MakeWindowsLarger(User& user, int steps) {
+  for (int step = 0; step < steps; ++step) user.PressKey(Key::Command("+"));
+}
+
+TEST(QtDisplayTest, NoTextIsCutOffAtAnySize) {
+  InControlWindow([](User& user) {
+    user.Type("99");
+    user.Click(Role::kText, "N");
+    user.Type("1000");
+    for (int size = 0; size < 5; ++size) {
+      ExpectNoTextCutOff();
+      MakeWindowsLarger(user, 1);
+    }
+  });
+}
+
+int MenuLetters() {
+  return QFontInfo(QApplication::activeWindow()->findChild<QMenu*>()->font()).pixelSize();
+}
+
+TEST(QtDisplayTest, KeysMakeAllWindowsLargerAndThenAsTheyWere) {
+  InControlWindow([](User& user) {
+    QApplication::setCursorFlashTime(0);
+    QWidget& control = *QApplication::activeWindow();
+    const QImage before = Drawn(control);
+    const int menu_letters = MenuLetters();
+    user.PressKey(Key::Command("-"));
+    EXPECT_EQ(Drawn(control), before);
+    MakeWindowsLarger(user, 4);
+    const int bar = control.findChild<QMenuBar*>()->height();
+    EXPECT_EQ(control.size(), QSize(1000, 850 + bar));
+    EXPECT_EQ(Named<QSlider>("r").geometry(), QRect(50, 440, 900, 30));
+    EXPECT_EQ(Named<QLineEdit>("r").font().pixelSize(), 24);
+    // The upper edge of a knob that has grown as well.
+    EXPECT_GE(Contrast(Drawn(Named<QSlider>("r")), QRect(14, 0, 1, 6)), 3);
+    EXPECT_EQ(MenuLetters(), 2 * menu_letters);
+    user.Click(Role::kButton, "Info");
+    EXPECT_EQ(QApplication::activeWindow()->width(), 900);
+    EXPECT_EQ(MenuLetters(), 2 * menu_letters);
+    user.PressKey(Key::Command("0"));
+    EXPECT_EQ(QApplication::activeWindow()->width(), 450);
+    user.ActivateWindow("Vamo");
+    EXPECT_EQ(Drawn(control), before);
+    MakeWindowsLarger(user, 20);
+    EXPECT_TRUE(control.screen()->availableGeometry().contains(control.frameGeometry()));
+  });
 }
 
 TEST(QtDisplayTest, OutlinesStandOutAndShowWhereTheKeysGo) {
@@ -275,6 +322,11 @@ class ElasticWindow : public Window {
                               .Integer("MinimumWidth", 64)
                               .Boolean("Resizeable", true));
   }
+  bool Event_MouseDown(std::int64_t x, std::int64_t y) override {
+    pressed = {x, y};
+    return false;
+  }
+  std::pair<std::int64_t, std::int64_t> pressed;
   void CreateControls() override {
     _AddControl("label", __New<Label>());
     _SetProperties(*ControlNamed<Label>("label"), EncodedStream<640>()
@@ -290,13 +342,19 @@ class ElasticWindow : public Window {
 
 TEST(QtDisplayTest, AWindowThatIsResizedStretchesItsControls) {
   InControlWindow([](User& user) {
+    MakeWindowsLarger(user, 4);
     const Ref<ElasticWindow> elastic = New<ElasticWindow>();
     elastic->Constructor();
     user.Wait(std::chrono::milliseconds(0));
     QWidget& window = *QApplication::activeWindow();
-    EXPECT_EQ(window.size(), QSize(300, 200));
-    window.resize(360, 250);
+    EXPECT_EQ(window.size(), QSize(600, 400));
+    window.resize(720, 500);
     QCoreApplication::processEvents();
+    EXPECT_EQ(window.findChild<QLabel*>()->geometry(), QRect(0, 360, 716, 130));
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(100, 50));
+    EXPECT_EQ(elastic->pressed, std::pair(std::int64_t{50}, std::int64_t{25}));
+    user.PressKey(Key::Command("0"));
+    EXPECT_EQ(window.size(), QSize(360, 250));
     EXPECT_EQ(window.findChild<QLabel*>()->geometry(), QRect(0, 180, 358, 65));
     window.resize(10, 250);
     EXPECT_EQ(window.width(), 64);

@@ -8,9 +8,10 @@
 namespace vamo {
 
 int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int width) {
-  constexpr int kKnob = 15;
-  const auto offset = (position - least) * (width - kKnob) / (greatest - least);
-  return kKnob / 2 + static_cast<int>(offset);
+  // 15 pixels of 450, and at each size of the windows the same share.
+  const int knob = width / 30;
+  const auto offset = (position - least) * (width - knob) / (greatest - least);
+  return knob / 2 + static_cast<int>(offset);
 }
 
 void NudgeSlider(User& user, std::string_view name, std::int64_t position) {

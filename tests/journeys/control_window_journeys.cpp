@@ -258,6 +258,25 @@ TEST(ControlWindowJourney, AWordIsDeletedOrLeftAsItWas) {
   });
 }
 
+// On a display with sizes, that is; the results are the same on every one.
+TEST(ControlWindowJourney, AtTwiceTheSizeAllIsAsBefore) {
+  InControlWindow([](User& user) {
+    for (int step = 0; step < 4; ++step) user.PressKey(Key::Command("+"));
+    Retype(user, "N", "30");
+    Retype(user, "r", ".5");
+    EXPECT_EQ(ResultLine(user), "3.06 | .00490 | +.170 to +.729");
+    user.DragSlider("r", {12, 37});
+    EXPECT_EQ(ResultLine(user), "2.11 | .04416 | +.011 to +.644");
+    user.PressGroove("r", 80, 80);
+    EXPECT_EQ(FieldText(user, "r"), ".800");
+    user.Click(Role::kButton, "Info");
+    EXPECT_EQ(user.ActiveTitle(), "Info");
+    user.Choose("Help/About Vamo");
+    user.PressKey(Key::Command("0"));
+    EXPECT_EQ(user.ActiveTitle(), "Vamo") << "any key ends the splash";
+  });
+}
+
 TEST(ControlWindowJourney, TabGoesAroundFieldsAndSliders) {
   InControlWindow([](User& user) {
     const std::pair<Role, const char*> kStops[] = {

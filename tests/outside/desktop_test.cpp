@@ -95,17 +95,36 @@ TEST(Desktop, TheSplashStaysForFourSeconds) {
   });
 }
 
-void ExpectSameMiddle(const WindowOnScreen& window, const WindowOnScreen& other) {
-  // Menu bars and frames may be of any height and do not count.
-  EXPECT_NEAR(window.x + window.width / 2, other.x + other.width / 2, 2);
-  EXPECT_NEAR(window.y + window.height / 2, other.y + other.height / 2, 20);
-}
-
 void ExpectOnScreen(OutsideUser& user, const WindowOnScreen& window) {
   EXPECT_GE(window.x, 0);
   EXPECT_GE(window.y, window.frame_top);
   EXPECT_LE(window.x + window.width + window.frame_right, user.ScreenWidth());
   EXPECT_LE(window.y + window.height, user.ScreenHeight());
+}
+
+TEST(Desktop, KeysMakeTheWindowsLargerAndSmaller) {
+  InControlWindow({}, [](OutsideUser& user) {
+    if (user.ScreenHeight() < 960) GTEST_SKIP() << "the screen is too low";
+    user.PressNamed("ctrl+minus");
+    EXPECT_EQ(user.WindowTitled("Vamo").width, 500);
+    for (const char* key : {"ctrl+plus", "ctrl+equal", "ctrl+KP_Add", "ctrl+plus"}) {
+      user.PressNamed(key);
+    }
+    EXPECT_EQ(user.WindowTitled("Vamo").width, 1000);
+    EXPECT_EQ(user.Beeps(), 0);
+    WorkTheWindow(user);
+    EXPECT_EQ(user.WindowTitled("Info").width, 900);
+    for (int step = 0; step < 9; ++step) user.PressNamed("ctrl+plus");
+    for (const char* title : {"Vamo", "Info"}) ExpectOnScreen(user, user.WindowTitled(title));
+    user.PressNamed("ctrl+0");
+    EXPECT_EQ(user.WindowTitled("Vamo").width, 500);
+  });
+}
+
+void ExpectSameMiddle(const WindowOnScreen& window, const WindowOnScreen& other) {
+  // Menu bars and frames may be of any height and do not count.
+  EXPECT_NEAR(window.x + window.width / 2, other.x + other.width / 2, 2);
+  EXPECT_NEAR(window.y + window.height / 2, other.y + other.height / 2, 20);
 }
 
 TEST(Desktop, WindowsOpenWhereTheUserLooks) {

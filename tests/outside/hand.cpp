@@ -48,7 +48,9 @@ void Offer(const std::string& selection, std::string_view text) {
 void PressKey(const Key& key) {
   std::string name = NameOf(key);
   if (name.empty() && !key.command) return Type(key.text);
-  if (name.empty()) name = key.text;
+  static const std::map<std::string, std::string> kSigns{{"+", "plus"}, {"-", "minus"}};
+  const auto sign = kSigns.find(key.text);
+  if (name.empty()) name = sign == kSigns.end() ? key.text : sign->second;
   PressNamed((key.command || key.word ? "ctrl+" : "") + std::string(key.shift ? "shift+" : "") +
              name);
 }

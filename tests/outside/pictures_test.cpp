@@ -54,6 +54,9 @@ TEST(Pictures, OfTheWindows) {
     ExpectPicture(user, "Vamo", "control_window");
     Retype(user, "N", "2");
     ExpectPicture(user, "Vamo", "control_window_warned");
+    for (int step = 0; step < 4; ++step) user.PressNamed("ctrl+plus");
+    ExpectPicture(user, "Vamo", "control_window_at_twice_its_size");
+    user.PressNamed("ctrl+0");
     user.Click(Role::kButton, "Info");
     ExpectPicture(user, "Info", "info_window");
   });

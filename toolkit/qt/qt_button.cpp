@@ -4,8 +4,6 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 
-#include "qt_convert.h"
-
 namespace vamo {
 
 ButtonWidget::ButtonWidget(PushButton& button, QWidget& parent) : WidgetFor(button, parent) {
@@ -19,7 +17,6 @@ ButtonWidget::ButtonWidget(PushButton& button, QWidget& parent) : WidgetFor(butt
 void ButtonWidget::ShowState() {
   const PushButton& button = TheControl();
   setText(ToQString(button.Caption()).replace(u'&', QStringLiteral("&&")));
-  setFont(ToQFont(button.Font()));
   setDefault(button.Default());
 }
 
@@ -28,7 +25,7 @@ void ButtonWidget::mousePressEvent(QMouseEvent* event) {
     event->ignore();
     return;
   }
-  const QPoint at = event->position().toPoint();
+  const QPoint at = (event->position() / Factor()).toPoint();
   if (TheControl().UserPressed(at.x(), at.y())) return;
   const QScopedValueRollback<bool> in_mouse_press(in_mouse_press_, true);
   QPushButton::mousePressEvent(event);

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "qt_control.h"
+#include "qt_convert.h"
 #include "toolkit/push_button.h"
 
 namespace vamo {
@@ -17,6 +18,7 @@ class ButtonWidget : public WidgetFor<QPushButton, PushButton> {
 
  protected:
   void ShowState() override;
+  void ShowLook() override { setFont(ToQFont(TheControl().Font(), Factor())); }
   void mousePressEvent(QMouseEvent* event) override;
 
  private:

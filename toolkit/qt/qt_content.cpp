@@ -17,21 +17,22 @@ struct Span {
   int length;
 };
 
-// One dimension of a control in a window that has grown by so much since it was designed.
+// Both ends go to whole pixels, so that what touches as designed does so at every factor.
+Span ScaledSpan(std::int64_t begin, std::int64_t length, double factor) {
+  const int from = Scaled(begin, factor);
+  return {from, Scaled(begin + length, factor) - from};
+}
+
+// One dimension of a control in a window that its user has made larger by so much.
 Span Stretched(Span designed, int growth, bool begin_locked, bool end_locked) {
   if (!end_locked) return designed;
   if (!begin_locked) return {designed.begin + growth, designed.length};
   return {designed.begin, std::max(0, designed.length + growth)};
 }
 
-QSize DesignedSize(const Window::State& state) { return {ToInt(state.width), ToInt(state.height)}; }
-
 }  // namespace
 
-ContentWidget::ContentWidget(WindowWidget& parent)
-    : QWidget(&parent),
-      window_(parent),
-      designed_size_(DesignedSize(parent.GetWindow()->GetState())) {
+ContentWidget::ContentWidget(WindowWidget& parent) : QWidget(&parent), window_(parent) {
   const Window::State& state = parent.GetWindow()->GetState();
   setAutoFillBackground(true);
   QPalette colours = palette();
@@ -45,8 +46,16 @@ ControlWidget& ContentWidget::AddControl(RectControl& control) {
   ControlWidget& widget = MakeControlWidget(control, *this);
   controls_.push_back(&widget);
   Place(widget);
+  widget.Rescale(window_.Factor());
   widget.Refresh();
   return widget;
+}
+
+void ContentWidget::Rescale() {
+  for (ControlWidget* widget : controls_) {
+    Place(*widget);
+    widget->Rescale(window_.Factor());
+  }
 }
 
 QWidget* ContentWidget::Find(const RectControl* control) const {
@@ -58,20 +67,22 @@ QWidget* ContentWidget::Find(const RectControl* control) const {
 
 void ContentWidget::Place(ControlWidget& widget) {
   const RectControl* control = widget.GetControl();
-  if (control == nullptr) return;
+  const Window* window = window_.GetWindow();
+  if (control == nullptr || window == nullptr) return;
+  const double factor = window_.Factor();
   const Bounds& bounds = control->Bounds();
   const RectControl::Locks& locks = control->GetLocks();
-  const QSize growth = size() - designed_size_;
-  const Span across =
-      Stretched({ToInt(bounds.left), ToInt(bounds.width)}, growth.width(), locks.left, locks.right);
-  const Span down = Stretched({ToInt(bounds.top), ToInt(bounds.height)}, growth.height(), locks.top,
-                              locks.bottom);
+  const Window::State& designed = window->GetState();
+  const Span across = Stretched(ScaledSpan(bounds.left, bounds.width, factor),
+                                width() - Scaled(designed.width, factor), locks.left, locks.right);
+  const Span down = Stretched(ScaledSpan(bounds.top, bounds.height, factor),
+                              height() - Scaled(designed.height, factor), locks.top, locks.bottom);
   widget.AsWidget().setGeometry(across.begin, down.begin, across.length, down.length);
 }
 
 void ContentWidget::mousePressEvent(QMouseEvent* event) {
   event->accept();
-  const QPoint at = event->position().toPoint();
+  const QPoint at = (event->position() / window_.Factor()).toPoint();
   if (Window* window = window_.GetWindow()) window->UserPressedMouse(at.x(), at.y());
 }
 
@@ -84,8 +95,9 @@ void ContentWidget::paintEvent(QPaintEvent* /*event*/) {
   if (window == nullptr || !window->IsSplash()) return;
   // A window without a frame needs an edge where it lies on another one of its colour.
   QPainter painter(this);
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  const int edge = Scaled(1, window_.Factor());
+  painter.setClipRegion(QRegion(rect()) - rect().adjusted(edge, edge, -edge, -edge));
+  painter.fillRect(rect(), palette().color(QPalette::Mid));
 }
 
 }  // namespace vamo

@@ -19,6 +19,8 @@ class ContentWidget : public QWidget {
   explicit ContentWidget(WindowWidget& parent);
 
   ControlWidget& AddControl(RectControl& control);
+  // Makes all controls as large as the window's factor says.
+  void Rescale();
   // The widget of a control, or nil.
   QWidget* Find(const RectControl* control) const;
 
@@ -31,7 +33,6 @@ class ContentWidget : public QWidget {
   void Place(ControlWidget& widget);
 
   WindowWidget& window_;
-  const QSize designed_size_;
   std::vector<ControlWidget*> controls_;
 };
 

@@ -23,6 +23,14 @@ ControlWidget* MakeIf(RectControl& control, QWidget& parent) {
 
 }  // namespace
 
+void ControlWidget::Rescale(double factor) {
+  if (control_ == nullptr) return;
+  const QScopedValueRollback<bool> refreshing(refreshing_, true);
+  factor_ = factor;
+  ShowLook();
+  AsWidget().update();
+}
+
 void ControlWidget::Refresh() {
   if (control_ == nullptr) return;
   const QScopedValueRollback<bool> refreshing(refreshing_, true);

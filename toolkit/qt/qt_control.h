@@ -24,11 +24,16 @@ class ControlWidget {
   RectControl* GetControl() const { return control_; }
   void Detach() { control_ = nullptr; }
 
+  // Makes everything so many times larger than the control says. The place is the parent's matter.
+  void Rescale(double factor);
   // Shows the control's present state.
   void Refresh();
 
  protected:
   virtual void ShowState() = 0;
+  // Shows what the control's stream has settled for good. Called again when the factor changes.
+  virtual void ShowLook() {}
+  double Factor() const { return factor_; }
   // Whether what happens now is the user's doing.
   bool IsUsersDoing() const { return control_ != nullptr && !refreshing_; }
   // To be called when the widget has got the keys: reports it if the user has brought them here.
@@ -38,6 +43,7 @@ class ControlWidget {
   void ShowCommonState();
 
   RectControl* control_;
+  double factor_ = 1;
   bool refreshing_ = false;
 };
 
@@ -70,7 +76,7 @@ class QtControlView : public ControlView {
 };
 
 // A widget of the right class for the control, as a child of `parent`, which owns it. It shows
-// nothing before Refresh.
+// nothing before Rescale and Refresh.
 ControlWidget& MakeControlWidget(RectControl& control, QWidget& parent);
 
 }  // namespace vamo

@@ -32,10 +32,10 @@ std::string ToUtf8(const QString& text) {
 
 QColor ToQColor(Colour colour) { return {colour.red, colour.green, colour.blue}; }
 
-QFont ToQFont(const Font& font) {
+QFont ToQFont(const Font& font, double factor) {
   QFont result = font.name == "System" ? QFontDatabase::systemFont(QFontDatabase::GeneralFont)
                                        : QFont(ToQString(font.name));
-  result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size))));
+  result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * factor))));
   result.setBold(font.bold);
   result.setItalic(font.italic);
   result.setUnderline(font.underline);
@@ -59,6 +59,12 @@ Qt::Alignment ToQtAlignment(TextAlignment alignment) {
 int ToInt(std::int64_t number) {
   return static_cast<int>(std::clamp<std::int64_t>(number, std::numeric_limits<int>::min(),
                                                    std::numeric_limits<int>::max()));
+}
+
+int Scaled(std::int64_t length, double factor) {
+  constexpr double kLargest = std::numeric_limits<int>::max();
+  return static_cast<int>(
+      std::lround(std::clamp(static_cast<double>(length) * factor, -kLargest, kLargest)));
 }
 
 int Utf16Position(std::string_view utf8, std::size_t byte_offset) {

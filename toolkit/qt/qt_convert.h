@@ -21,12 +21,14 @@ QString ToQString(std::string_view utf8);
 std::string ToUtf8(const QString& text);
 
 QColor ToQColor(Colour colour);
-// The font of that size in logical pixels, which is rounded to whole ones and at least 1.
-QFont ToQFont(const Font& font);
+// The font of that size in pixels, which is rounded to whole ones and at least 1.
+QFont ToQFont(const Font& font, double factor);
 // The text's place, centred vertically.
 Qt::Alignment ToQtAlignment(TextAlignment alignment);
 // The nearest number that an int can hold.
 int ToInt(std::int64_t number);
+// So many times a length, as a whole number.
+int Scaled(std::int64_t length, double factor);
 
 // The place in the UTF-16 form of valid UTF-8 that belongs to a byte offset, and the other way
 // round. A place past the end is the end.

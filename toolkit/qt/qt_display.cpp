@@ -17,6 +17,7 @@
 #include "qt_picture.h"
 #include "qt_start.h"
 #include "qt_window.h"
+#include "qt_zoom.h"
 
 namespace vamo {
 namespace {
@@ -63,6 +64,7 @@ struct QtDisplay::Parts {
   int argument_count = 1;
   std::unique_ptr<QApplication> application;
   Activation activation;
+  Zoom zoom;
 };
 
 QtDisplay::QtDisplay(const char* program) : parts_(std::make_unique<Parts>(program)) {}
@@ -74,7 +76,7 @@ void QtDisplay::Run() { QApplication::exec(); }
 void QtDisplay::Stop() { QCoreApplication::exit(0); }
 
 std::unique_ptr<WindowView> QtDisplay::OpenWindow(Window& window) {
-  return std::make_unique<QtWindowView>(window, parts_->activation);
+  return std::make_unique<QtWindowView>(window, parts_->activation, parts_->zoom);
 }
 
 void QtDisplay::Beep() { QApplication::beep(); }

@@ -126,6 +126,7 @@ bool KeyRoad::TakeKey(const QKeyEvent& event) {
     return true;
   }
   const bool dealt_with = window->UserPressedKey(*key);
+  if (!dealt_with && window_.TakeZoomKey(event)) return true;
   return dealt_with || (key->code == KeyCode::kCharacter && !key->command);
 }
 

@@ -7,8 +7,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "qt_convert.h"
-
 namespace vamo {
 namespace {
 
@@ -22,9 +20,9 @@ double BaseLine(const QTextLine& line, const QRectF& extent, double height) {
 }
 
 // How wide a text may be in a box, so that it does not touch what stands beside the box.
-double Room(double width) {
-  constexpr double kGap = 3;
-  return width - std::min(kGap, width / 20);
+double Room(double width, double factor) {
+  const double gap = 3 * factor;
+  return width - std::min(gap, width / 20);
 }
 
 double Left(Qt::Alignment alignment, double free) {
@@ -36,7 +34,6 @@ double Left(Qt::Alignment alignment, double free) {
 
 LabelWidget::LabelWidget(Label& label, QWidget& parent) : WidgetFor(label, parent) {
   setTextFormat(Qt::PlainText);
-  setFont(ToQFont(label.Font()));
   setAlignment(ToQtAlignment(label.Alignment()));
   QPalette colours = palette();
   colours.setColor(QPalette::WindowText, ToQColor(label.TextColor()));
@@ -68,7 +65,7 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
   const QTextLine line = line_.lineAt(0);
-  const double x_scale = std::min(1.0, Room(width()) / extent_.width());
+  const double x_scale = std::min(1.0, Room(width(), Factor()) / extent_.width());
   const double y_scale = std::min(1.0, height() / extent_.height());
   const double box = height() / y_scale;
   const double left = Left(alignment(), width() - extent_.width() * x_scale);

@@ -7,6 +7,7 @@
 #include <QTextLayout>
 
 #include "qt_control.h"
+#include "qt_convert.h"
 #include "toolkit/label.h"
 
 namespace vamo {
@@ -19,6 +20,7 @@ class LabelWidget : public WidgetFor<QLabel, Label> {
 
  protected:
   void ShowState() override;
+  void ShowLook() override { setFont(ToQFont(TheControl().Font(), Factor())); }
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -74,9 +74,19 @@ void Place(QWidget& window, const Window::Placement& placement) {
   }
 }
 
-void KeepOnScreen(QWidget& window) {
-  const QPoint place = MovedInto(Available(window), window.frameGeometry()).topLeft();
+bool RoomFor(const QWidget& window, const QSize& size) {
+  const QSize frame = window.frameGeometry().size() - window.size();
+  const QSize room = Available(window).size();
+  return (size + frame).boundedTo(room) == size + frame;
+}
+
+void MoveMiddle(QWidget& window, const QPoint& middle) {
+  QRect frame = window.frameGeometry();
+  frame.moveCenter(middle);
+  const QPoint place = MovedInto(Available(window), frame).topLeft();
   if (place != window.pos()) window.move(place);
 }
+
+void KeepOnScreen(QWidget& window) { MoveMiddle(window, window.frameGeometry().center()); }
 
 }  // namespace vamo

@@ -4,6 +4,8 @@
 
 #include "toolkit/window.h"
 
+class QPoint;
+class QSize;
 class QWidget;
 
 namespace vamo {
@@ -12,8 +14,15 @@ namespace vamo {
 // windows itself goes its own way.
 void Place(QWidget& window, const Window::Placement& placement);
 
-// Moves a window by as little as possible so that it lies on its screen, with what the platform
-// draws around it. Of one that is too large the top left corner does.
+// Whether the screen has the room for a window of that size, with what the platform draws around
+// it.
+bool RoomFor(const QWidget& window, const QSize& size);
+
+// Moves the middle of a window there, as far as all of it then lies on its screen, with what the
+// platform draws around it. Of one that is too large the top left corner does.
+void MoveMiddle(QWidget& window, const QPoint& middle);
+
+// Moves a window by as little as possible so that it lies on its screen.
 void KeepOnScreen(QWidget& window);
 
 }  // namespace vamo

@@ -19,7 +19,7 @@ void RectangleWidget::paintEvent(QPaintEvent* /*event*/) {
   const QRectF box = rect();
   // A whole number of the screen's own pixels, so that the border is crisp and does not vanish.
   const double pixels = devicePixelRatioF();
-  const double wanted = std::max(0.0, rectangle.BorderThickness());
+  const double wanted = std::max(0.0, rectangle.BorderThickness() * Factor());
   const double pixel_count = wanted > 0 ? std::max(1.0, std::round(wanted * pixels)) : 0;
   const double border = std::min({pixel_count / pixels, box.width() / 2, box.height() / 2});
   const QRectF inside = box.adjusted(border, border, -border, -border);

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QStyleOptionSlider>
 
+#include "qt_convert.h"
+
 namespace vamo {
 namespace {
 
@@ -18,14 +20,17 @@ Outline OutlineOf(const QStyleOption& option, bool marked) {
   return {QColor(0x80, 0x80, 0x80), 1};
 }
 
-void DrawBox(QPainter& painter, const QRect& box, const Outline& outline, const QBrush& fill) {
-  constexpr double kRadius = 2.5;
-  const double half = outline.width / 2.0;
+void DrawBox(QPainter& painter, const QRect& box, const Outline& outline, const QBrush& fill,
+             double factor) {
+  const double radius = 2.5 * factor;
+  // A whole number, so that straight lines are sharp.
+  const int width = Scaled(outline.width, factor);
+  const double half = width / 2.0;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(outline.colour, outline.width));
+  painter.setPen(QPen(outline.colour, width));
   painter.setBrush(fill);
-  painter.drawRoundedRect(QRectF(box).adjusted(half, half, -half, -half), kRadius, kRadius);
+  painter.drawRoundedRect(QRectF(box).adjusted(half, half, -half, -half), radius, radius);
   painter.restore();
 }
 
@@ -42,13 +47,35 @@ QBrush Face(const QStyleOption& option, const QRect& box) {
 
 }  // namespace
 
+int OutlinedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                               const QWidget* widget) const {
+  const int designed = QProxyStyle::pixelMetric(metric, option, widget);
+  switch (metric) {
+    case PM_DefaultFrameWidth:
+    case PM_MenuBarHMargin:
+    case PM_MenuBarItemSpacing:
+    case PM_MenuBarVMargin:
+    case PM_MenuHMargin:
+    case PM_MenuVMargin:
+    case PM_SliderControlThickness:
+    case PM_SliderLength:
+    case PM_SliderThickness:
+    case PM_TextCursorWidth:
+    case PM_ToolTipLabelFrameWidth:
+      return Scaled(designed, factor_);
+    default:
+      return designed;
+  }
+}
+
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
   if (element == PE_FrameLineEdit) {
     const bool has_keys = option->state.testFlag(State_HasFocus);
-    DrawBox(*painter, option->rect, OutlineOf(*option, has_keys), Qt::NoBrush);
+    DrawBox(*painter, option->rect, OutlineOf(*option, has_keys), Qt::NoBrush, factor_);
   } else if (element == PE_PanelButtonCommand) {
-    DrawBox(*painter, option->rect, OutlineOf(*option, false), Face(*option, option->rect));
+    DrawBox(*painter, option->rect, OutlineOf(*option, false), Face(*option, option->rect),
+            factor_);
   } else {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
@@ -61,17 +88,18 @@ void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     return;
   }
-  constexpr int kGrooveHeight = 5;
+  const int groove_height = Scaled(5, factor_);
+  const int free = Scaled(1, factor_);
   QRect groove = subControlRect(CC_Slider, option, SC_SliderGroove, widget);
-  groove.setTop(groove.center().y() - kGrooveHeight / 2);
-  groove.setHeight(kGrooveHeight);
+  groove.setTop(groove.center().y() - groove_height / 2);
+  groove.setHeight(groove_height);
   const QRect knob =
-      subControlRect(CC_Slider, option, SC_SliderHandle, widget).adjusted(1, 1, -1, -1);
+      subControlRect(CC_Slider, option, SC_SliderHandle, widget).adjusted(free, free, -free, -free);
   const Outline outline = OutlineOf(*option, option->state.testFlag(State_HasFocus));
   const Outline plain = OutlineOf(*option, false);
   DrawBox(*painter, groove, {outline.colour, plain.width},
-          option->palette.color(QPalette::Window).darker(108));
-  DrawBox(*painter, knob, outline, Face(*option, knob));
+          option->palette.color(QPalette::Window).darker(108), factor_);
+  DrawBox(*painter, knob, outline, Face(*option, knob), factor_);
 }
 
 }  // namespace vamo

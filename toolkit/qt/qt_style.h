@@ -12,10 +12,18 @@ class OutlinedStyle : public QProxyStyle {
  public:
   OutlinedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+  // Draws everything so many times larger.
+  void SetFactor(double factor) { factor_ = factor; }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
+
+ private:
+  double factor_ = 1;
 };
 
 }  // namespace vamo

@@ -38,12 +38,16 @@ AreaWidget::AreaWidget(TextArea& area, QWidget& parent) : WidgetFor(area, parent
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, report_selection);
 }
 
-void AreaWidget::ShowState() {
-  const TextArea& area = TheControl();
-  setFont(ToQFont(area.Font()));
+void AreaWidget::ShowLook() {
+  setFont(ToQFont(TheControl().Font(), Factor()));
+  document()->setDocumentMargin(Scaled(4, Factor()));
+  setCursorWidth(Scaled(1, Factor()));
   ShowBorder();
   ShowColours();
-  const QString shown = DocumentText(area.Text());
+}
+
+void AreaWidget::ShowState() {
+  const QString shown = DocumentText(TheControl().Text());
   if (toPlainText() != shown) setPlainText(shown);
   ShowSelection();
 }
@@ -56,6 +60,7 @@ void AreaWidget::ShowBorder() {
   const bool whole = bounds.left >= 0 && bounds.top >= 0 &&
                      bounds.left + bounds.width <= window.width &&
                      bounds.top + bounds.height <= window.height;
+  setLineWidth(Scaled(1, Factor()));
   setFrameStyle(area.HasBorder() && whole ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
 }
 

@@ -16,6 +16,7 @@ class AreaWidget : public WidgetFor<QPlainTextEdit, TextArea> {
 
  protected:
   void ShowState() override;
+  void ShowLook() override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;

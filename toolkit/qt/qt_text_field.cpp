@@ -19,7 +19,6 @@ namespace vamo {
 
 FieldWidget::FieldWidget(TextField& field, QWidget& parent) : WidgetFor(field, parent) {
   setMaxLength(std::numeric_limits<int>::max());
-  ShowLook();
   const auto report_selection = [this] {
     if (IsUsersDoing()) ReportSelection();
   };
@@ -32,7 +31,10 @@ FieldWidget::FieldWidget(TextField& field, QWidget& parent) : WidgetFor(field, p
 
 void FieldWidget::ShowLook() {
   const TextField& field = TheControl();
-  setFont(ToQFont(field.Font()));
+  setFont(ToQFont(field.Font(), Factor()));
+  // Beside the two pixels that Qt keeps free at both ends of the text.
+  const int margin = Scaled(2, Factor()) - 2;
+  setTextMargins(margin, 0, margin, 0);
   setAlignment(ToQtAlignment(field.Alignment()));
   setFrame(field.HasBorder());
   setReadOnly(field.ReadOnly());

@@ -20,6 +20,7 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
 
  protected:
   void ShowState() override;
+  void ShowLook() override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -30,8 +31,6 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
   void showEvent(QShowEvent* event) override;
 
  private:
-  // What the field's stream has settled for good.
-  void ShowLook();
   void ShowCaption();
   void ShowSelection();
   void ReportSelection();

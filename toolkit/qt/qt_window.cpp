@@ -36,10 +36,12 @@ int Maximum(std::int64_t length, int extra) {
 
 }  // namespace
 
-WindowWidget::WindowWidget(Window& window, Activation& activation)
+WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
     : QWidget(nullptr, Flags(window)),
       window_(&window),
       activation_(activation),
+      zoom_(zoom),
+      factor_(zoom.Factor()),
       content_(new ContentWidget(*this)),
       keys_(*this) {
   const Window::State& state = window.GetState();
@@ -51,7 +53,7 @@ WindowWidget::WindowWidget(Window& window, Activation& activation)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(content_);
   AddMenuBar();
-  SetSizes();
+  SetSizes(DesignedSize());
 }
 
 void WindowWidget::AddMenuBar() {
@@ -62,21 +64,38 @@ void WindowWidget::AddMenuBar() {
   layout()->setMenuBar(menu_bar_);
 }
 
-void WindowWidget::SetSizes() {
+QSize WindowWidget::DesignedSize() const {
   const Window::State& state = window_->GetState();
-  const int width = ToInt(state.width);
-  const int height = ToInt(state.height);
+  return {Scaled(state.width, Factor()), Scaled(state.height, Factor())};
+}
+
+void WindowWidget::SetSizes(const QSize& content) {
   if (!window_->CanBeResized()) {
-    content_->setFixedSize(width, height);
+    content_->setFixedSize(content);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     layout()->activate();
     return;
   }
+  const Window::State& state = window_->GetState();
+  const auto scaled = [this](std::int64_t length) { return Scaled(length, Factor()); };
   const bool bar_above = menu_bar_ != nullptr && !kOneMenuBarOnScreen;
-  const int bar = bar_above ? menu_bar_->heightForWidth(width) : 0;
-  content_->setMinimumSize(ToInt(state.minimum_width), ToInt(state.minimum_height));
-  setMaximumSize(Maximum(state.maximum_width, 0), Maximum(state.maximum_height, bar));
-  resize(width, height + bar);
+  const int bar = bar_above ? menu_bar_->heightForWidth(content.width()) : 0;
+  content_->setMinimumSize(scaled(state.minimum_width), scaled(state.minimum_height));
+  layout()->activate();
+  setMaximumSize(Maximum(scaled(state.maximum_width), 0),
+                 Maximum(scaled(state.maximum_height), bar));
+  resize(content.width(), content.height() + bar);
+}
+
+void WindowWidget::Rescale() {
+  if (window_ == nullptr) return;
+  const double change = Factor() / std::exchange(factor_, Factor());
+  SetSizes(window_->CanBeResized() ? content_->size() * change : DesignedSize());
+  content_->Rescale();
+}
+
+QSize WindowWidget::SizeAt(double factor) const {
+  return (QSizeF(size()) * (factor / Factor())).toSize();
 }
 
 ControlWidget& WindowWidget::AddControl(RectControl& control) {
@@ -133,8 +152,8 @@ void WindowWidget::closeEvent(QCloseEvent* event) {
   if (window_ != nullptr) window_->UserAskedToClose();
 }
 
-QtWindowView::QtWindowView(Window& window, Activation& activation)
-    : activation_(activation), widget_(new WindowWidget(window, activation)) {}
+QtWindowView::QtWindowView(Window& window, Activation& activation, Zoom& zoom)
+    : activation_(activation), widget_(new WindowWidget(window, activation, zoom)) {}
 
 QtWindowView::~QtWindowView() {
   if (widget_ == nullptr) return;

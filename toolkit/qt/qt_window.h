@@ -9,6 +9,7 @@
 #include "qt_activation.h"
 #include "qt_content.h"
 #include "qt_keys.h"
+#include "qt_zoom.h"
 #include "toolkit/display.h"
 
 class QMenuBar;
@@ -22,11 +23,20 @@ class Window;
 // the toolkit's window, out of sight, and does nothing then.
 class WindowWidget : public QWidget {
  public:
-  WindowWidget(Window& window, Activation& activation);
+  WindowWidget(Window& window, Activation& activation, Zoom& zoom);
 
   // Nil when the window's part on the display has been given up.
   Window* GetWindow() const { return window_; }
   void Detach() { window_ = nullptr; }
+
+  // How many times larger than designed the window is.
+  double Factor() const { return zoom_.Factor(); }
+  // Takes on a factor that has changed.
+  void Rescale();
+  // How large the window would be with another factor.
+  QSize SizeAt(double factor) const;
+  // The keys that make windows larger and smaller. False: it is another key.
+  bool TakeZoomKey(const QKeyEvent& event) { return zoom_.TakeKey(event); }
 
   ControlWidget& AddControl(RectControl& control);
   void BringToFront();
@@ -41,10 +51,14 @@ class WindowWidget : public QWidget {
 
  private:
   void AddMenuBar();
-  void SetSizes();
+  QSize DesignedSize() const;
+  void SetSizes(const QSize& content);
 
   Window* window_;
   Activation& activation_;
+  Zoom& zoom_;
+  // The factor that the sizes have been set for.
+  double factor_;
   ContentWidget* content_;
   KeyRoad keys_;
   QMenuBar* menu_bar_ = nullptr;
@@ -54,7 +68,7 @@ class WindowWidget : public QWidget {
 // A window's end of its widget, which it owns.
 class QtWindowView : public WindowView {
  public:
-  QtWindowView(Window& window, Activation& activation);
+  QtWindowView(Window& window, Activation& activation, Zoom& zoom);
   ~QtWindowView() override;
 
   std::unique_ptr<ControlView> CreateControl(RectControl& control) override;
