@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QFontInfo>
+#include <QFontMetricsF>
 #include <QImage>
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -240,6 +241,42 @@ TEST(QtDisplayTest, NoTextIsCutOffAtAnySize) {
     for (int size = 0; size < 5; ++size) {
       ExpectNoTextCutOff();
       MakeWindowsLarger(user, 1);
+    }
+  });
+}
+
+// What the label of that text has drawn, in the coordinates of the fields, and how much narrower
+// that is than the font has it.
+QRect InkOf(const QString& text, double* lost_width) {
+  for (auto* label : QApplication::activeWindow()->findChildren<QLabel*>()) {
+    if (label->text() != text) continue;
+    const QRect ink = Ink(*label);
+    *lost_width = QFontMetricsF(label->font()).tightBoundingRect(text).width() - ink.width();
+    return ink.translated(label->pos());
+  }
+  throw std::runtime_error(text.toStdString());
+}
+
+// With a wide font, that is; these tests run with DejaVu Sans.
+TEST(QtDisplayTest, CaptionsAreNeitherSqueezedNorTouchWhatTheyStandBeside) {
+  InControlWindow([](User& user) {
+    user.Type("50");
+    user.Click(Role::kText, "N");
+    user.Type("200");
+    for (const double factor : {1.0, 2.0}) {
+      double lost_width = 0;
+      const int interval = InkOf("+.388 to +.597", &lost_width).left();
+      const std::pair<const char*, int> kCaptions[] = {
+          {"r =", Named<QLineEdit>("r").x()},
+          {"N =", Named<QLineEdit>("N").x()},
+          {"Fisher's z =", Named<QLineEdit>("Fisher's z").x()},
+          {"95% CI of r =", interval}};
+      for (const auto& [text, next] : kCaptions) {
+        const QRect ink = InkOf(QString::fromUtf8(text), &lost_width);
+        EXPECT_LE(lost_width, 1.5) << text;
+        EXPECT_GE(next - ink.right() - 1, 4 * factor) << text;
+      }
+      MakeWindowsLarger(user, 4);
     }
   });
 }

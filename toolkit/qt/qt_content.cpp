@@ -77,7 +77,7 @@ void ContentWidget::Place(ControlWidget& widget) {
                                 width() - Scaled(designed.width, factor), locks.left, locks.right);
   const Span down = Stretched(ScaledSpan(bounds.top, bounds.height, factor),
                               height() - Scaled(designed.height, factor), locks.top, locks.bottom);
-  widget.AsWidget().setGeometry(across.begin, down.begin, across.length, down.length);
+  widget.SetBox({across.begin, down.begin, across.length, down.length});
 }
 
 void ContentWidget::mousePressEvent(QMouseEvent* event) {

@@ -26,6 +26,8 @@ class ControlWidget {
 
   // Makes everything so many times larger than the control says. The place is the parent's matter.
   void Rescale(double factor);
+  // Puts the widget where the control's box is.
+  virtual void SetBox(const QRect& box) { AsWidget().setGeometry(box); }
   // Shows the control's present state.
   void Refresh();
 

@@ -6,6 +6,10 @@
 #include <QTextOption>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+
+#include "qt_convert.h"
+#include "toolkit/window.h"
 
 namespace vamo {
 namespace {
@@ -19,15 +23,38 @@ double BaseLine(const QTextLine& line, const QRectF& extent, double height) {
   return std::clamp(middle, highest, lowest);
 }
 
-// How wide a text may be in a box, so that it does not touch what stands beside the box.
-double Room(double width, double factor) {
-  const double gap = 3 * factor;
-  return width - std::min(gap, width / 20);
+// What a label's text may cover across the window: up to a gap from what stands beside it.
+struct Reach {
+  double left;
+  double right;
+};
+
+Reach ReachOf(const RectControl& label) {
+  constexpr double kGap = 5;
+  const Bounds& box = label.Bounds();
+  const Ref<Window> window = label.Window();
+  const Ref<RectControl> parent = label.Parent();
+  const Bounds whole = parent ? parent->Bounds() : Bounds{0, 0, window->GetState().width, 0};
+  std::int64_t left = whole.left;
+  std::int64_t right = whole.left + whole.width;
+  for (const Ref<RectControl>& other : window->Controls()) {
+    const Bounds& beside = other->Bounds();
+    const bool in_line = beside.top < box.top + box.height && box.top < beside.top + beside.height;
+    if (!in_line || other == parent) continue;
+    const std::int64_t end = beside.left + beside.width;
+    if (2 * end <= 2 * box.left + box.width) left = std::max(left, end);
+    if (2 * beside.left >= 2 * box.left + box.width) right = std::min(right, beside.left);
+  }
+  // Where the boxes of two texts touch, the gap is at the end of the first.
+  return {std::min(static_cast<double>(box.left), static_cast<double>(left) + kGap),
+          static_cast<double>(right) - kGap};
 }
 
-double Left(Qt::Alignment alignment, double free) {
-  if (alignment.testFlag(Qt::AlignHCenter)) return free / 2;
-  return alignment.testFlag(Qt::AlignRight) ? free : 0;
+// Where a text of that width begins that is aligned in a box.
+double Left(Qt::Alignment alignment, const QRect& box, double width) {
+  const double free = box.width() - width;
+  if (alignment.testFlag(Qt::AlignHCenter)) return box.left() + free / 2;
+  return box.left() + (alignment.testFlag(Qt::AlignRight) ? free : 0);
 }
 
 }  // namespace
@@ -40,9 +67,38 @@ LabelWidget::LabelWidget(Label& label, QWidget& parent) : WidgetFor(label, paren
   setPalette(colours);
 }
 
+void LabelWidget::SetBox(const QRect& box) {
+  box_ = box;
+  Fit();
+}
+
+void LabelWidget::ShowLook() {
+  const Label& label = TheControl();
+  setFont(ToQFont(label.Font(), Factor()));
+  const Reach reach = ReachOf(label);
+  const Bounds& box = label.Bounds();
+  room_left_ = (static_cast<double>(box.left) - reach.left) * Factor();
+  room_right_ = (reach.right - static_cast<double>(box.left + box.width)) * Factor();
+  Fit();
+}
+
 void LabelWidget::ShowState() {
   const QString shown = ToQString(TheControl().Text());
-  if (text() != shown) setText(shown);
+  if (text() == shown) return;
+  setText(shown);
+  Fit();
+}
+
+void LabelWidget::Fit() {
+  if (!text().isEmpty()) LayOut();
+  const double left = box_.left() - room_left_;
+  const double room = std::max(1.0, box_.left() + box_.width() + room_right_ - left);
+  x_scale_ = std::min(1.0, room / extent_.width());
+  const double width = extent_.width() * x_scale_;
+  text_left_ = std::max(left, std::min(Left(alignment(), box_, width), left + room - width));
+  // A little more than the text, for the smoothed edges of its letters.
+  const QRectF covered(text_left_ - 1, box_.top(), width + 2, box_.height());
+  setGeometry(text().isEmpty() ? box_ : box_.united(covered.toAlignedRect()));
 }
 
 void LabelWidget::LayOut() {
@@ -60,21 +116,17 @@ void LabelWidget::LayOut() {
 
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   if (text().isEmpty()) return;
-  // What lies beside a changing text is painted with it, and measuring costs more than painting.
-  if (line_.text() != text() || line_.font() != font()) LayOut();
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
   const QTextLine line = line_.lineAt(0);
-  const double x_scale = std::min(1.0, Room(width(), Factor()) / extent_.width());
   const double y_scale = std::min(1.0, height() / extent_.height());
   const double box = height() / y_scale;
-  const double left = Left(alignment(), width() - extent_.width() * x_scale);
   const double pixels = devicePixelRatioF();
   const double base = std::round(BaseLine(line, extent_, box) * pixels) / pixels;
-  painter.scale(x_scale, y_scale);
+  painter.scale(x_scale_, y_scale);
   // A line's own place is in sixty-fourths, which would miss the whole pixel.
   painter.translate(0, base);
-  line.draw(&painter, QPointF(left / x_scale - extent_.left(), -line.ascent()));
+  line.draw(&painter, QPointF((text_left_ - x()) / x_scale_ - extent_.left(), -line.ascent()));
 }
 
 }  // namespace vamo
