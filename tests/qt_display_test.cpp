@@ -334,6 +334,10 @@ TEST(QtDisplayTest, OutlinesStandOutAndShowWhereTheKeysGo) {
       EXPECT_GE(Contrast(drawn, QRect(7, 0, 1, 3)), kLeast);
     }
     EXPECT_NE(Drawn(slider), slider_without);
+    const int groove = slider.height() / 2;
+    const QColor ahead = Drawn(slider).pixelColor(100, groove);
+    user.PressKey({KeyCode::kEnd, "", false, false});
+    EXPECT_NE(Drawn(slider).pixelColor(100, groove), ahead) << "how far the knob has come";
   });
 }
 

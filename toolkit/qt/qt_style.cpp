@@ -4,8 +4,6 @@
 #include <QPainter>
 #include <QStyleOptionSlider>
 
-#include "qt_convert.h"
-
 namespace vamo {
 namespace {
 
@@ -24,7 +22,7 @@ void DrawBox(QPainter& painter, const QRect& box, const Outline& outline, const 
              double factor) {
   const double radius = 2.5 * factor;
   // A whole number, so that straight lines are sharp.
-  const int width = Scaled(outline.width, factor);
+  const int width = qRound(outline.width * factor);
   const double half = width / 2.0;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
@@ -45,6 +43,16 @@ QBrush Face(const QStyleOption& option, const QRect& box) {
   return shine;
 }
 
+// The part of a slider's groove that the knob has come along.
+QRect Passed(QRect groove, const QRect& knob, bool from_the_right) {
+  if (from_the_right) {
+    groove.setLeft(knob.center().x());
+  } else {
+    groove.setRight(knob.center().x());
+  }
+  return groove;
+}
+
 }  // namespace
 
 int OutlinedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -62,7 +70,7 @@ int OutlinedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_SliderThickness:
     case PM_TextCursorWidth:
     case PM_ToolTipLabelFrameWidth:
-      return Scaled(designed, factor_);
+      return qRound(designed * factor_);
     default:
       return designed;
   }
@@ -88,17 +96,18 @@ void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     return;
   }
-  const int groove_height = Scaled(5, factor_);
-  const int free = Scaled(1, factor_);
+  const int groove_height = qRound(5 * factor_);
+  const int free = qRound(factor_);
   QRect groove = subControlRect(CC_Slider, option, SC_SliderGroove, widget);
   groove.setTop(groove.center().y() - groove_height / 2);
   groove.setHeight(groove_height);
   const QRect knob =
       subControlRect(CC_Slider, option, SC_SliderHandle, widget).adjusted(free, free, -free, -free);
   const Outline outline = OutlineOf(*option, option->state.testFlag(State_HasFocus));
-  const Outline plain = OutlineOf(*option, false);
-  DrawBox(*painter, groove, {outline.colour, plain.width},
-          option->palette.color(QPalette::Window).darker(108), factor_);
+  const Outline narrow = {outline.colour, OutlineOf(*option, false).width};
+  DrawBox(*painter, groove, narrow, option->palette.color(QPalette::Window).darker(108), factor_);
+  DrawBox(*painter, Passed(groove, knob, slider->upsideDown), narrow,
+          option->palette.color(QPalette::Highlight), factor_);
   DrawBox(*painter, knob, outline, Face(*option, knob), factor_);
 }
 
