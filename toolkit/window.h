@@ -117,7 +117,7 @@ class Window : public Object {
       // Where it was, or else where the platform puts a new window.
       kAnywhere,
       kMiddleOfScreen,
-      // Its middle at that of the other window, which may be off the screen by now.
+      // Its middle where the other window has or, if that is hidden by now, had its own.
       kOver,
       // Right of the other window, else left of it, where the screen has the room.
       kBeside
