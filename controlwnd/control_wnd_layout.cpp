@@ -149,10 +149,15 @@ constexpr std::array kAccessibleTexts{
     AccessibleText{"nSlider", "N", "", "StaticText3"},
     AccessibleText{"zFld", "Fisher's z", "", "StaticText8"},
     AccessibleText{"Qbtn", "Info", "", ""},
-    AccessibleText{"tText", "", "Student's t", ""},
-    AccessibleText{"pText", "", "two-tailed p", ""},
-    AccessibleText{"ciText", "", "95% confidence interval of r", ""},
-    AccessibleText{"nText", "", "range of N", ""},
+    AccessibleText{
+        .control = "tText", .description = "Student's t", .announced = Announced::kAfterPause},
+    AccessibleText{
+        .control = "pText", .description = "two-tailed p", .announced = Announced::kAfterPause},
+    AccessibleText{.control = "ciText",
+                   .description = "95% confidence interval of r",
+                   .announced = Announced::kAfterPause},
+    AccessibleText{
+        .control = "nText", .description = "range of N", .announced = Announced::kAtOnce},
 };
 
 // Makes a control, enters it in the window under its name, and then sets its properties.

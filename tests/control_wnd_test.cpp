@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -107,6 +108,38 @@ TEST_F(ControlWndTest, AboveTheRangeTheModelKeepsItsLastResults) {
   EXPECT_EQ(program_.display().Beeps(), 4);
   EXPECT_EQ(window_->t, t);
   EXPECT_EQ(window_->p, p);
+}
+
+TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
+  using std::chrono_literals::operator""ms;
+  HeadlessDisplay& display = program_.display();
+  const auto heard_after = [&](std::chrono::milliseconds time) {
+    display.LetTimePass(time);
+    return display.Hears();
+  };
+  const std::vector<std::string> nothing;
+  EXPECT_EQ(heard_after(1000ms), nothing) << "nothing has been worked out";
+  window_->nEdit()->SetText("30");
+  for (const char* r : {".4", ".6", ".5"}) {
+    EXPECT_EQ(heard_after(250ms), nothing);
+    window_->rEdit()->SetText(r);
+  }
+  const std::vector<std::string> results{
+      "Student's t 3.06, two-tailed p .00490, 95% confidence interval of r +.170 to +.729"};
+  EXPECT_EQ(heard_after(300ms), results);
+  window_->rEdit()->SetText(".6");
+  window_->rEdit()->SetText(".5");
+  EXPECT_EQ(heard_after(1000ms), nothing) << "it has been said";
+  window_->nEdit()->SetText("9999");
+  EXPECT_EQ(heard_after(1000ms), std::vector<std::string>{"range of N (4 - 1,1000)"});
+  window_->nEdit()->SetText("2");
+  EXPECT_EQ(heard_after(1000ms).size(), 1U) << "the warning still stands, and is not said again";
+  window_->nEdit()->SetText("30");
+  EXPECT_EQ(heard_after(1000ms), results);
+  window_->nEdit()->SetText("31");
+  display.SwitchAway();
+  window_->nEdit()->SetText("9999");
+  EXPECT_EQ(heard_after(1000ms), nothing) << "it would be spoken into another program";
 }
 
 TEST_F(ControlWndTest, TheControlCode16PassesBothFilters) {

@@ -53,6 +53,7 @@ class HeadlessUser : public User {
   }
   std::string Clipboard() override { return display_.Clipboard(); }
   int Beeps() override { return display_.Beeps(); }
+  std::vector<std::string> Hears() override { return display_.Hears(); }
 
  private:
   HeadlessDisplay& display_;

@@ -90,6 +90,18 @@ void CheckShown(const MonkeyDisplay& display) {
   }
 }
 
+// Results are spoken as they show. A warning may have come and gone in the course of one deed.
+void CheckHeard(MonkeyDisplay& display) {
+  for (const std::string& heard : display.Hears()) {
+    const Ref<class ControlWnd> window = LiveControlWnd();
+    ASSERT_TRUE(window && Runtime::Current().ActiveWindow() == window) << heard;
+    if (heard == "range of N (4 - 1,1000)") continue;
+    EXPECT_EQ(heard, "Student's t " + window->tText()->Text() + ", two-tailed p " +
+                         window->pText()->Text() + ", 95% confidence interval of r " +
+                         window->ciText()->Text());
+  }
+}
+
 // Whether a text is the beginning of what a mask of digits behind `first` allows.
 bool IsTyped(std::string_view text, std::string_view first, std::size_t digits) {
   if (text.empty()) return true;
@@ -133,7 +145,7 @@ class Monkey {
     for (const WeakRef& object : objects) EXPECT_FALSE(object.Value()) << "has outlived the end";
   }
 
-  void Do(MonkeyHand& hand, const MonkeyDisplay& display) {
+  void Do(MonkeyHand& hand, MonkeyDisplay& display) {
     const Before before = Now();
     hand.Act(last_.emplace_back());
     ++done_;
@@ -143,6 +155,7 @@ class Monkey {
 
     CheckWindows(display);
     CheckShown(display);
+    CheckHeard(display);
     if (const Ref<class ControlWnd> window = LiveControlWnd()) CheckControlWnd(*window, before);
   }
 

@@ -87,12 +87,16 @@ class CountingDisplay : public QtDisplay {
     QtDisplay::Stop();
   }
   void Beep() override { ++beeps_; }
+  // Offscreen there is no assistive technology that could hear it.
+  void Announce(std::string_view sentence) override { announcements_.emplace_back(sentence); }
   int beeps() const { return beeps_; }
+  std::vector<std::string> TakeAnnouncements() { return std::exchange(announcements_, {}); }
   bool stopped() const { return stopped_; }
 
  private:
   std::function<void(CountingDisplay&)> user_;
   int beeps_ = 0;
+  std::vector<std::string> announcements_;
   bool stopped_ = false;
 };
 
@@ -189,6 +193,7 @@ class QtUser : public User {
   }
   std::string Clipboard() override { return QGuiApplication::clipboard()->text().toStdString(); }
   int Beeps() override { return display_.beeps(); }
+  std::vector<std::string> Hears() override { return display_.TakeAnnouncements(); }
 
  private:
   using Predicate = std::function<bool(QAccessibleInterface&)>;

@@ -46,6 +46,8 @@ class User {
   virtual ShownControl Focused() = 0;
   virtual std::string Clipboard() = 0;
   virtual int Beeps() = 0;
+  // What the program has had a screen reader say since the last call.
+  virtual std::vector<std::string> Hears() = 0;
 };
 
 // Where the middle of a slider's knob is at a position, from the left of its box.

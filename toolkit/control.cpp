@@ -87,6 +87,8 @@ void RectControl::SetInitialParent(std::string_view name) {
 
 void RectControl::Changed() {
   if (view_ != nullptr) view_->Update();
+  if (announced_ == Announced::kNot) return;
+  if (const Ref<class Window> window = Window()) window->AnnouncedLabelChanged(announced_);
 }
 
 }  // namespace vamo

@@ -63,6 +63,10 @@ struct Bounds {
   }
 };
 
+// Whether and when a change of a label is announced: together with others once they have come to
+// rest, or alone in the same moment.
+enum class Announced { kNot, kAfterPause, kAtOnce };
+
 // How text on a control is drawn. "System" as the name is the platform's interface font.
 struct Font {
   std::string name = "System";
@@ -110,6 +114,7 @@ class RectControl : public Control {
   const std::string& AccessibleDescription() const { return accessible_description_; }
   void SetAccessibleName(std::string_view name);
   void SetAccessibleDescription(std::string_view description);
+  void SetAnnounced(Announced announced) { announced_ = announced; }
   // The caption that stands for this control, or nil.
   Ref<Label> LabelledBy() const;
   void SetLabelledBy(const Ref<Label>& label);
@@ -145,6 +150,7 @@ class RectControl : public Control {
   std::string accessible_name_;
   std::string accessible_description_;
   WeakRef labelled_by_;
+  Announced announced_ = Announced::kNot;
   std::unique_ptr<ControlView> view_;
 };
 

@@ -81,6 +81,10 @@ class Display {
   // Sounds the system alert.
   virtual void Beep() = 0;
 
+  // Called with a sentence, never an empty one, about the active window: must have assistive
+  // technology speak it where there is any, and shows nothing. The keys stay where they are.
+  virtual void Announce(std::string_view sentence) = 0;
+
   // Called by Picture::_OpenFromApp: the image of that file name among the application's resources,
   // or nil where there is none or it cannot be decoded.
   virtual std::shared_ptr<DisplayPicture> OpenPicture(std::string_view file_name) = 0;

@@ -58,6 +58,7 @@ void Window::ApplyAccessibleTexts() {
     control->SetAccessibleName(text.name);
     control->SetAccessibleDescription(text.description);
     control->SetLabelledBy(ControlNamed<Label>(text.labelled_by));
+    control->SetAnnounced(text.announced);
   }
 }
 
@@ -106,6 +107,7 @@ void Window::TakeOffDisplay() {
     if (auto* timer = dynamic_cast<Timer*>(object)) timer->Stop();
     if (auto* control = dynamic_cast<RectControl*>(object)) control->ReleaseView();
   }
+  announcer_.Stop();
   view_ = nullptr;
 }
 

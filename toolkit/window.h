@@ -10,6 +10,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "toolkit/announcer.h"
 #include "toolkit/class_info.h"
 #include "toolkit/control.h"
 #include "toolkit/display.h"
@@ -23,10 +24,12 @@ namespace vamo {
 // What assistive technology reads of one control, beside its text. Empty: nothing of the kind.
 struct AccessibleText {
   std::string_view control;
-  std::string_view name;
-  std::string_view description;
+  std::string_view name = {};
+  std::string_view description = {};
   // The label that is the control's caption.
-  std::string_view labelled_by;
+  std::string_view labelled_by = {};
+  // Of a label.
+  Announced announced = Announced::kNot;
 };
 
 // A window: its state, its children, its focus, and the road of the user's keys and presses through
@@ -134,6 +137,8 @@ class Window : public Object {
   // The control that has the keys while the window is active, or nil.
   const Ref<RectControl>& Focus() const { return focus_; }
   void SetFocus(const Ref<RectControl>& control);
+  // Called by a label that is to be announced.
+  void AnnouncedLabelChanged(Announced when) { announcer_.LabelChanged(when); }
 
   // What a display reports.
   //
@@ -186,6 +191,7 @@ class Window : public Object {
   Ref<RectControl> focus_;
   Ref<class MenuBar> menu_bar_;
   MenuHandlers menu_handlers_;
+  Announcer announcer_{*this};
   std::unique_ptr<WindowView> view_;
 };
 

@@ -1,7 +1,9 @@
 // The journeys of a user through the control window. They run on every display.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <string>
+#include <vector>
 
 #include "journeys/journey_steps.h"
 
@@ -61,6 +63,23 @@ TEST(ControlWindowJourney, AZeroBeforeThePointIsNoDecimal) {
     Retype(user, "r", "05.");
     EXPECT_EQ(FieldText(user, "r"), ".05");
     EXPECT_EQ(user.Beeps(), 1) << "with another digit before it the point is refused";
+  });
+}
+
+TEST(ControlWindowJourney, AScreenReaderSpeaksTheResultsAndTheWarning) {
+  using std::chrono_literals::operator""ms;
+  InControlWindow([](User& user) {
+    Retype(user, "N", "");
+    user.Paste("30");
+    Retype(user, "r", "");
+    user.Paste(".5");
+    user.Wait(500ms);
+    const std::vector<std::string> heard = user.Hears();
+    ASSERT_FALSE(heard.empty());
+    EXPECT_EQ(heard.back(),
+              "Student's t 3.06, two-tailed p .00490, 95% confidence interval of r +.170 to +.729");
+    Retype(user, "N", "");
+    EXPECT_EQ(user.Hears(), std::vector<std::string>{"range of N (4 - 1,1000)"});
   });
 }
 

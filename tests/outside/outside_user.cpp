@@ -20,7 +20,8 @@ bool IsPrintable(char character) {
 
 }  // namespace
 
-OutsideUser::OutsideUser(Child& program, XScreen& screen) : program_(program), screen_(screen) {
+OutsideUser::OutsideUser(Child& program, XScreen& screen, Ears& ears)
+    : program_(program), screen_(screen), ears_(ears) {
   const bool shown =
       Await([&] { return !screen_.WindowsOf(program_.id()).empty() || !program_.Running(); }, 30s);
   now_ = std::chrono::steady_clock::now();
@@ -216,8 +217,9 @@ int RunProgramWith(const Environment& settings, const std::function<void(Outside
   static const int initialised = atspi_init();
   if (initialised > 1) throw std::runtime_error("there is no accessibility bus");
   XScreen screen;
+  Ears ears;
   Child child(command, settings);
-  OutsideUser user(child, screen);
+  OutsideUser user(child, screen, ears);
   journey(user);
   return child.ExitStatus().value_or(kStillRunning);
 }

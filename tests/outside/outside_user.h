@@ -11,6 +11,7 @@
 
 #include "at_spi.h"
 #include "child.h"
+#include "ears.h"
 #include "user.h"
 #include "x_screen.h"
 
@@ -22,7 +23,7 @@ namespace vamo {
 class OutsideUser : public User {
  public:
   // Waits until the program shows its first window.
-  OutsideUser(Child& program, XScreen& screen);
+  OutsideUser(Child& program, XScreen& screen, Ears& ears);
 
   void PressKey(const Key& key) override;
   void Type(std::string_view text) override;
@@ -45,6 +46,7 @@ class OutsideUser : public User {
   ShownControl Focused() override;
   std::string Clipboard() override;
   int Beeps() override;
+  std::vector<std::string> Hears() override { return ears_.Notices(); }
 
   // What other displays have no word for.
   //
@@ -89,6 +91,7 @@ class OutsideUser : public User {
 
   Child& program_;
   XScreen& screen_;
+  Ears& ears_;
   std::optional<Element> application_;
   Frames frames_;
   std::vector<Element> elements_;

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "toolkit/display.h"
@@ -89,6 +90,8 @@ class HeadlessDisplay : public Display {
   // Whether an item of the menu bar can be chosen, with the menu opened for it.
   bool CanChoose(std::string_view path);
   int Beeps() const { return beeps_; }
+  // What assistive technology has been given to say since the last call.
+  std::vector<std::string> Hears() { return std::exchange(announcements_, {}); }
   bool Running() const { return !stopped_; }
   const std::string& Clipboard() const { return clipboard_; }
   // How often the clipboard has been read.
@@ -99,6 +102,7 @@ class HeadlessDisplay : public Display {
   void Stop() override { stopped_ = true; }
   std::unique_ptr<WindowView> OpenWindow(Window& window) override;
   void Beep() override { ++beeps_; }
+  void Announce(std::string_view sentence) override { announcements_.emplace_back(sentence); }
   std::shared_ptr<DisplayPicture> OpenPicture(std::string_view file_name) override;
   std::unique_ptr<RunningTimer> StartTimer(std::chrono::milliseconds period,
                                            std::function<void()> fire) override;
@@ -139,6 +143,7 @@ class HeadlessDisplay : public Display {
   // The keys go to another program.
   bool away_ = false;
   int beeps_ = 0;
+  std::vector<std::string> announcements_;
 };
 
 }  // namespace vamo

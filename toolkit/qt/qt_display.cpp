@@ -15,6 +15,7 @@
 #include "qt_convert.h"
 #include "qt_menu.h"
 #include "qt_picture.h"
+#include "qt_speaker.h"
 #include "qt_start.h"
 #include "qt_window.h"
 #include "qt_zoom.h"
@@ -65,6 +66,7 @@ struct QtDisplay::Parts {
   std::unique_ptr<QApplication> application;
   Activation activation;
   Zoom zoom;
+  Speaker speaker;
 };
 
 QtDisplay::QtDisplay(const char* program) : parts_(std::make_unique<Parts>(program)) {}
@@ -80,6 +82,8 @@ std::unique_ptr<WindowView> QtDisplay::OpenWindow(Window& window) {
 }
 
 void QtDisplay::Beep() { QApplication::beep(); }
+
+void QtDisplay::Announce(std::string_view sentence) { parts_->speaker.Say(ToQString(sentence)); }
 
 std::shared_ptr<DisplayPicture> QtDisplay::OpenPicture(std::string_view file_name) {
   return FindPicture(file_name);

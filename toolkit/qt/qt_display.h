@@ -23,6 +23,7 @@ class QtDisplay : public Display {
   void Stop() override;
   std::unique_ptr<WindowView> OpenWindow(Window& window) override;
   void Beep() override;
+  void Announce(std::string_view sentence) override;
   std::shared_ptr<DisplayPicture> OpenPicture(std::string_view file_name) override;
   std::unique_ptr<RunningTimer> StartTimer(std::chrono::milliseconds period,
                                            std::function<void()> fire) override;

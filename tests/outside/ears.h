@@ -1,0 +1,35 @@
+// The ears of a user who works with a screen reader.
+#ifndef VAMO_TESTS_OUTSIDE_EARS_H_
+#define VAMO_TESTS_OUTSIDE_EARS_H_
+
+#include <atspi/atspi.h>
+
+#include <string>
+#include <vector>
+
+namespace vamo {
+
+// Takes down what programs tell assistive technology of their own accord, as long as it lives. To
+// miss nothing it is there before the program.
+class Ears {
+ public:
+  Ears();
+  ~Ears();
+  Ears(const Ears&) = delete;
+  Ears& operator=(const Ears&) = delete;
+
+  // The notices that have come up since the last call.
+  std::vector<std::string> Notices();
+
+ private:
+  static void Take(AtspiEvent* event, void* ears);
+  static void Listen();
+  void Note(const AtspiEvent& event);
+
+  AtspiEventListener* const listener_;
+  std::vector<std::string> notices_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TESTS_OUTSIDE_EARS_H_
