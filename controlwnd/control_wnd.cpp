@@ -14,7 +14,6 @@ constexpr double kLowestR = 0.0;
 constexpr double kHighestR = 0.99999;
 constexpr std::int64_t kLowestN = 4;
 constexpr std::int64_t kHighestN = 1000;
-constexpr double kPositionsPerR = 100.0;
 
 bool IsDigit(std::int64_t code) { return code > 47 && code < 58; }
 
@@ -72,7 +71,7 @@ void ControlWnd::rEdit_TextChange(Ref<TextField> /*sender*/) {
 }
 
 void ControlWnd::rSlider_ValueChanged(Ref<Slider> /*sender*/) {
-  r = static_cast<double>(rSlider()->Value()) / kPositionsPerR;
+  r = static_cast<double>(rSlider()->Value()) / static_cast<double>(kPositionsPerR);
   rEdit()->SetText(Format(r, ".000"));
   DoIt(r, N);
 }

@@ -27,6 +27,9 @@ class ControlWnd : public Window {
   const ClassInfo* Class() const override { return &kClass; }
   bool IsEventImplemented(std::string_view event) const;
 
+  // The slider of r counts in hundredths.
+  static constexpr std::int64_t kPositionsPerR = 100;
+
   // The model. r is the correlation in force; N the sample size that the handlers last took up,
   // while the calculation takes the one in `nEdit`; t and p are those of the last calculation; z is
   // Fisher's z of r.

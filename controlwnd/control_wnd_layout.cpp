@@ -144,7 +144,10 @@ static_assert(kRSlider.Length() == 388);
 
 constexpr std::array kAccessibleTexts{
     AccessibleText{"rEdit", "r", "", "StaticText2"},
-    AccessibleText{"rSlider", "r", "", "StaticText2"},
+    AccessibleText{.control = "rSlider",
+                   .name = "r",
+                   .labelled_by = "StaticText2",
+                   .positions_per_unit = ControlWnd::kPositionsPerR},
     AccessibleText{"nEdit", "N", "", "StaticText3"},
     AccessibleText{"nSlider", "N", "", "StaticText3"},
     AccessibleText{"zFld", "Fisher's z", "", "StaticText8"},

@@ -91,10 +91,14 @@ TEST(QtDisplayTest, ADropGoesInAsAPaste) {
 TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
   InControlWindow([](User& user) {
     auto* slider = QAccessible::queryAccessibleInterface(&Named<QSlider>("r"));
-    slider->valueInterface()->setCurrentValue(42);
-    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".420");
+    slider->valueInterface()->setCurrentValue(.57);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".570");
+    EXPECT_EQ(slider->valueInterface()->currentValue(), .57);
     slider->valueInterface()->setCurrentValue(1000);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".990");
+    // Whatever way a position gets into the widget, the program hears of it.
+    Named<QSlider>("r").setValue(7);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".070");
   });
 }
 

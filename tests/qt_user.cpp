@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <memory>
 
@@ -43,6 +44,11 @@ std::string Text(QAccessibleInterface& accessible, QAccessible::Text which) {
   return accessible.text(which).toStdString();
 }
 
+// A value of a slider, counted in its steps.
+std::int64_t InSteps(const QAccessibleValueInterface& slider, double value) {
+  return std::llround(value / slider.minimumStepSize().toDouble());
+}
+
 ShownControl Read(QAccessibleInterface& accessible) {
   ShownControl shown;
   shown.role = RoleOf(accessible).value_or(Role::kLabel);
@@ -51,8 +57,10 @@ ShownControl Read(QAccessibleInterface& accessible) {
   shown.visible = !accessible.state().invisible;
   shown.enabled = !accessible.state().disabled;
   shown.text = shown.role == Role::kLabel ? shown.name : Text(accessible, QAccessible::Value);
-  if (auto* value = accessible.valueInterface())
-    shown.position = value->currentValue().toLongLong();
+  if (auto* value = accessible.valueInterface()) {
+    shown.value = value->currentValue().toDouble();
+    shown.position = InSteps(*value, shown.value);
+  }
   if (auto* text = accessible.textInterface()) {
     shown.text = text->text(0, text->characterCount()).toStdString();
     int start = 0;
@@ -122,7 +130,7 @@ class QtUser : public User {
   }
   void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) override {
     QAccessibleInterface& slider = Find(Role::kSlider, name);
-    Drag(slider, slider.valueInterface()->currentValue().toLongLong(), positions);
+    Drag(slider, Read(slider).position, positions);
     NudgeSlider(*this, name, positions.back());
   }
   void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) override {
@@ -242,8 +250,8 @@ class QtUser : public User {
   static QPoint KnobIn(QAccessibleInterface& slider, std::int64_t position) {
     QAccessibleValueInterface& value = *slider.valueInterface();
     const QRect rect = slider.rect();
-    const int offset = KnobAt(position, value.minimumValue().toLongLong(),
-                              value.maximumValue().toLongLong(), rect.width());
+    const int offset = KnobAt(position, InSteps(value, value.minimumValue().toDouble()),
+                              InSteps(value, value.maximumValue().toDouble()), rect.width());
     return {rect.left() + offset, rect.center().y()};
   }
   void Drag(QAccessibleInterface& slider, std::int64_t from,

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "toolkit/conversions.h"
 #include "toolkit/runtime.h"
@@ -35,6 +36,10 @@ void Slider::UserMovedTo(std::int64_t position) {
     Changed();
     if (ValueChanged) ValueChanged.Invoke(self);
   });
+}
+
+void Slider::UserSetByAssistiveTechnology(double value) {
+  UserMovedTo(Truncate(std::round(value * static_cast<double>(positions_per_unit_))));
 }
 
 void Slider::UserTurnedWheel(std::int64_t notches) { MoveBy(notches, line_step_); }

@@ -20,12 +20,19 @@ class Slider : public RectControl {
   std::int64_t MaximumValue() const { return maximum_; }
   std::int64_t LineStep() const { return line_step_; }
   std::int64_t PageStep() const { return page_step_; }
+  // What assistive technology reads a position as: a number of which so many positions make one.
+  void SetPositionsPerUnit(std::int64_t positions) { positions_per_unit_ = positions; }
+  double InUnits(std::int64_t position) const {
+    return static_cast<double>(position) / static_cast<double>(positions_per_unit_);
+  }
 
   // Raised for each new position that the user has set.
   Delegate<void(Ref<Slider>)> ValueChanged;
 
   // The user has moved the knob to a position; one outside of the range is the nearer end.
   void UserMovedTo(std::int64_t position);
+  // Assistive technology has set a value, in its own unit: the nearest position.
+  void UserSetByAssistiveTechnology(double value);
   // The user has turned the wheel by so many notches, away from the user counted as positive.
   void UserTurnedWheel(std::int64_t notches);
 
@@ -44,6 +51,7 @@ class Slider : public RectControl {
   std::int64_t maximum_ = 100;
   std::int64_t line_step_ = 1;
   std::int64_t page_step_ = 10;
+  std::int64_t positions_per_unit_ = 1;
 };
 
 }  // namespace vamo

@@ -7,6 +7,7 @@
 
 #include "toolkit/label.h"
 #include "toolkit/runtime.h"
+#include "toolkit/slider.h"
 #include "toolkit/timer.h"
 
 namespace vamo {
@@ -59,6 +60,8 @@ void Window::ApplyAccessibleTexts() {
     control->SetAccessibleDescription(text.description);
     control->SetLabelledBy(ControlNamed<Label>(text.labelled_by));
     control->SetAnnounced(text.announced);
+    if (text.positions_per_unit == 1) continue;
+    ControlNamed<Slider>(text.control)->SetPositionsPerUnit(text.positions_per_unit);
   }
 }
 

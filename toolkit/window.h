@@ -30,6 +30,8 @@ struct AccessibleText {
   std::string_view labelled_by = {};
   // Of a label.
   Announced announced = Announced::kNot;
+  // Of a slider.
+  std::int64_t positions_per_unit = 1;
 };
 
 // A window: its state, its children, its focus, and the road of the user's keys and presses through

@@ -2,6 +2,7 @@
 #include "at_spi.h"
 
 #include <array>
+#include <cmath>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -129,6 +130,10 @@ std::string Element::LabelledBy() const {
 double Element::Value() const { return Number(Get(), atspi_value_get_current_value); }
 double Element::LeastValue() const { return Number(Get(), atspi_value_get_minimum_value); }
 double Element::GreatestValue() const { return Number(Get(), atspi_value_get_maximum_value); }
+
+std::int64_t Element::InSteps(double value) const {
+  return std::llround(value / Number(Get(), atspi_value_get_minimum_increment));
+}
 
 Element::Place Element::Extents() const {
   const Held<AtspiComponent> component(atspi_accessible_get_component_iface(Get()));

@@ -4,6 +4,7 @@
 
 #include <atspi/atspi.h>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -44,6 +45,8 @@ class Element {
   double Value() const;
   double LeastValue() const;
   double GreatestValue() const;
+  // A value of the element, counted in its steps.
+  std::int64_t InSteps(double value) const;
   Place Extents() const;
   // Does the action of that name, or the first one.
   void Do(std::string_view action = {}) const;

@@ -19,7 +19,7 @@ constexpr char kUsage[] =
     "screen_reader APP list                       all that is showing, a line each: role, name,\n"
     "                                             description, text, x y width height, states\n"
     "screen_reader APP wait SECONDS               until APP shows a window\n"
-    "screen_reader APP get ROLE NAME WHAT         WHAT: text, extents or, of a slider, range\n"
+    "screen_reader APP get ROLE NAME WHAT         WHAT: text, extents or, of a slider, steps\n"
     "screen_reader APP described DESCRIPTION WHAT the same, found by its description\n";
 
 // Left, top, width and height.
@@ -30,17 +30,18 @@ std::string Extents(const Element& element) {
   return text.str();
 }
 
-// The least and the greatest value.
-std::string Range(const Element& element) {
+// The present, the least and the greatest value, counted in the slider's steps.
+std::string Steps(const Element& element) {
   std::ostringstream text;
-  text << element.LeastValue() << ' ' << element.GreatestValue();
+  text << element.InSteps(element.Value()) << ' ' << element.InSteps(element.LeastValue()) << ' '
+       << element.InSteps(element.GreatestValue());
   return text.str();
 }
 
 std::string Content(const Element& element, const std::string& what) {
   if (what == "text") return element.Text();
   if (what == "extents") return Extents(element);
-  if (what == "range") return Range(element);
+  if (what == "steps") return Steps(element);
   throw std::invalid_argument("no such content: " + what);
 }
 

@@ -87,6 +87,7 @@ TEST(ControlWindowJourney, DraggingTheSlidersShowsTheResults) {
   InControlWindow([](User& user) {
     user.DragSlider("r", {12, 50, 37});
     EXPECT_EQ(FieldText(user, "r"), ".370");
+    EXPECT_EQ(user.Sees(Role::kSlider, "r").value, .37);
     EXPECT_EQ(FieldText(user, "Fisher's z"), "0.388");
     EXPECT_EQ(ResultLine(user), ".00 | .99999 | n/a to n/a");
     EXPECT_FALSE(Warned(user));

@@ -1,6 +1,5 @@
 // A user who knows only the running program: what it shows.
 #include <algorithm>
-#include <cmath>
 #include <stdexcept>
 
 #include "hand.h"
@@ -28,7 +27,10 @@ ShownControl Read(const Element& element) {
   shown.enabled = element.HasState(ATSPI_STATE_ENABLED);
   shown.text = element.Text();
   if (shown.role == Role::kText) shown.selected_text = element.SelectedText();
-  if (shown.role == Role::kSlider) shown.position = std::llround(element.Value());
+  if (shown.role == Role::kSlider) {
+    shown.value = element.Value();
+    shown.position = element.InSteps(shown.value);
+  }
   return shown;
 }
 

@@ -84,8 +84,8 @@ void OutsideUser::PressKnob(std::string_view slider, std::int64_t at) {
 void OutsideUser::MoveKnob(std::string_view slider, std::int64_t to) {
   const Element& element = Find(Role::kSlider, slider);
   const Element::Place place = element.Extents();
-  const int x = KnobAt(to, std::llround(element.LeastValue()),
-                       std::llround(element.GreatestValue()), place.width);
+  const int x = KnobAt(to, element.InSteps(element.LeastValue()),
+                       element.InSteps(element.GreatestValue()), place.width);
   Act([&] { MoveToPart(element, x, place.height / 2); });
 }
 

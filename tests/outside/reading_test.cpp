@@ -79,11 +79,11 @@ TEST(Reading, AndWorkingTheSliders) {
     const Element& r = user.Find(Role::kSlider, "r");
     const Element& n = user.Find(Role::kSlider, "N");
     EXPECT_EQ(r.LeastValue(), 0);
-    EXPECT_EQ(r.GreatestValue(), 99);
+    EXPECT_EQ(r.GreatestValue(), .99);
     EXPECT_EQ(n.LeastValue(), 4);
     EXPECT_EQ(n.GreatestValue(), 1000);
     n.Set("30");
-    r.Set("50");
+    r.Set("0.5");
     user.Wait(std::chrono::milliseconds(0));
     EXPECT_EQ(FieldText(user, "r") + FieldText(user, "N"), ".50030");
     EXPECT_EQ(ShownResults(user), ExpectedResults(.5, 30));

@@ -34,6 +34,8 @@ struct ShownControl {
   std::string text;
   std::string selected_text;
   std::int64_t position = 0;
+  // The number that a screen reader reads for the position.
+  double value = 0;
   bool visible = false;
   bool enabled = false;
 };

@@ -31,6 +31,7 @@ void HeadlessControl::Update() {
   } else if (const auto* slider = dynamic_cast<Slider*>(&control_)) {
     shown_.role = Role::kSlider;
     shown_.position = slider->Value();
+    shown_.value = slider->InUnits(shown_.position);
   } else if (const auto* button = dynamic_cast<PushButton*>(&control_)) {
     shown_.role = Role::kButton;
     shown_.text = button->Caption();

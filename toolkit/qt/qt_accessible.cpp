@@ -37,13 +37,18 @@ class AccessibleSlider : public QAccessibleWidget, public QAccessibleValueInterf
     return related;
   }
 
-  QVariant currentValue() const override { return slider_.value(); }
-  void setCurrentValue(const QVariant& value) override { slider_.setValue(value.toInt()); }
-  QVariant maximumValue() const override { return slider_.maximum(); }
-  QVariant minimumValue() const override { return slider_.minimum(); }
-  QVariant minimumStepSize() const override { return slider_.singleStep(); }
+  QVariant currentValue() const override { return InUnits(slider_.value()); }
+  void setCurrentValue(const QVariant& value) override { slider_.ReportValue(value.toDouble()); }
+  QVariant maximumValue() const override { return InUnits(slider_.maximum()); }
+  QVariant minimumValue() const override { return InUnits(slider_.minimum()); }
+  QVariant minimumStepSize() const override { return InUnits(slider_.singleStep()); }
 
  private:
+  double InUnits(int position) const {
+    const auto* slider = static_cast<const Slider*>(slider_.GetControl());
+    return slider == nullptr ? position : slider->InUnits(position);
+  }
+
   SliderWidget& slider_;
 };
 

@@ -18,7 +18,7 @@ constexpr int kAnglePerNotch = 120;
 
 SliderWidget::SliderWidget(Slider& slider, QWidget& parent) : WidgetFor(slider, parent) {
   setOrientation(Qt::Horizontal);
-  // The mouse and the wheel are taken below, so what comes this way is assistive technology.
+  // The mouse and the wheel are taken below, so what comes this way is neither.
   connect(this, &QSlider::valueChanged, this, [this](int position) {
     if (IsUsersDoing()) Report(position);
   });
@@ -34,6 +34,12 @@ void SliderWidget::ShowState() {
 
 void SliderWidget::Report(int position) {
   TheControl().UserMovedTo(position);
+  Refresh();
+}
+
+void SliderWidget::ReportValue(double value) {
+  if (!IsUsersDoing()) return;
+  TheControl().UserSetByAssistiveTechnology(value);
   Refresh();
 }
 

@@ -17,6 +17,9 @@ class SliderWidget : public WidgetFor<QSlider, Slider> {
  public:
   SliderWidget(Slider& slider, QWidget& parent);
 
+  // Assistive technology has set a value.
+  void ReportValue(double value);
+
  protected:
   void ShowState() override;
   void mousePressEvent(QMouseEvent* event) override;
