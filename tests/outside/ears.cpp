@@ -1,6 +1,7 @@
 // The ears of a user who works with a screen reader.
 #include "ears.h"
 
+#include <array>
 #include <stdexcept>
 #include <utility>
 
@@ -9,27 +10,39 @@
 namespace vamo {
 namespace {
 
-constexpr char kComingUp[] = "object:state-changed:showing";
+constexpr std::array kNews{"object:state-changed:showing", "object:text-changed"};
 
 }  // namespace
 
 Ears::Ears() : listener_(atspi_event_listener_new(Take, this, nullptr)) {
-  if (!atspi_event_listener_register(listener_, kComingUp, nullptr)) {
-    throw std::runtime_error("the accessibility bus passes no news on");
+  for (const char* news : kNews) {
+    if (!atspi_event_listener_register(listener_, news, nullptr)) {
+      throw std::runtime_error("the accessibility bus passes no news on");
+    }
   }
   // What is left over from programs before.
   Listen();
   notices_.clear();
+  edits_.clear();
 }
 
 Ears::~Ears() {
-  atspi_event_listener_deregister(listener_, kComingUp, nullptr);
+  for (const char* news : kNews) atspi_event_listener_deregister(listener_, news, nullptr);
   g_object_unref(listener_);
 }
 
 std::vector<std::string> Ears::Notices() {
   Listen();
   return std::exchange(notices_, {});
+}
+
+std::vector<std::string> Ears::Edits(std::string_view text) {
+  Listen();
+  std::vector<std::string> edits;
+  for (const auto& [name, edit] : std::exchange(edits_, {})) {
+    if (name == text) edits.push_back(edit);
+  }
+  return edits;
 }
 
 void Ears::Listen() {
@@ -43,8 +56,12 @@ void Ears::Take(AtspiEvent* event, void* ears) {
 
 void Ears::Note(const AtspiEvent& event) {
   const Element source(ATSPI_ACCESSIBLE(g_object_ref(event.source)));
+  const std::string_view type = event.type;
   try {
-    if (event.detail1 != 0 && source.RoleName() == "notification") {
+    if (type.rfind("object:text-changed", 0) == 0) {
+      const std::string sign = type.find("delete") == std::string_view::npos ? "+" : "-";
+      edits_.emplace_back(source.Name(), sign + g_value_get_string(&event.any_data));
+    } else if (event.detail1 != 0 && source.RoleName() == "notification") {
       notices_.push_back(source.Name());
     }
   } catch (const std::runtime_error&) {

@@ -5,6 +5,8 @@
 #include <atspi/atspi.h>
 
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vamo {
@@ -20,6 +22,8 @@ class Ears {
 
   // The notices that have come up since the last call.
   std::vector<std::string> Notices();
+  // What has gone from and come into the text that bears a name since the last call: "-5", "+5".
+  std::vector<std::string> Edits(std::string_view text);
 
  private:
   static void Take(AtspiEvent* event, void* ears);
@@ -28,6 +32,8 @@ class Ears {
 
   AtspiEventListener* const listener_;
   std::vector<std::string> notices_;
+  // With the name of the text.
+  std::vector<std::pair<std::string, std::string>> edits_;
 };
 
 }  // namespace vamo

@@ -52,6 +52,8 @@ class OutsideUser : public User {
   //
   // A combination of keys by their X names.
   void PressNamed(const std::string& keys);
+  // What a screen reader is told that the user has done to a field's text since the last call.
+  std::vector<std::string> HearsEdits(std::string_view field) { return ears_.Edits(field); }
   void ClickCloseButton(std::string_view title);
   // Takes the upper left corner of the window's frame there.
   void MoveWindow(std::string_view title, int x, int y);

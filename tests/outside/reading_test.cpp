@@ -90,6 +90,24 @@ TEST(Reading, AndWorkingTheSliders) {
   });
 }
 
+TEST(Reading, AnEditIsWhatHasGoneAndWhatHasCome) {
+  using Edits = std::vector<std::string>;
+  InControlWindow({}, [](OutsideUser& user) {
+    Retype(user, "r", ".355");
+    user.HearsEdits("r");
+    user.PressNamed("BackSpace");
+    EXPECT_EQ(user.HearsEdits("r"), Edits{"-5"});
+    user.PressNamed("Home");
+    user.PressNamed("Right");
+    user.Type("2");
+    EXPECT_EQ(user.HearsEdits("r"), Edits{"+2"});
+    user.PressKey(Key::Command("a"));
+    user.Type("7");
+    EXPECT_EQ(user.HearsEdits("r"), (Edits{"-235", "+7"})) << "the point has stayed";
+    EXPECT_EQ(FieldText(user, "r"), ".7");
+  });
+}
+
 TEST(Reading, TheSplashAndTheInfoWindow) {
   RunProgramWith({}, [](OutsideUser& user) {
     const std::vector<ReadOut> splash = ReadAll(user);

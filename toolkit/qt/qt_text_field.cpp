@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <algorithm>
 #include <limits>
 
 #include "qt_convert.h"
@@ -51,9 +52,55 @@ void FieldWidget::ShowLook() {
 
 void FieldWidget::ShowState() {
   ShowCaption();
-  const QString shown = ToQString(TheControl().Text());
-  if (text() != shown) setText(shown);
+  ShowText();
   ShowSelection();
+}
+
+// The widget remembers each edit for an undo of its own, which nobody can reach, and forgets them
+// all with a text that is set as a whole.
+void FieldWidget::ShowText() {
+  const QString shown = ToQString(TheControl().Text());
+  if (text() != shown && hasFocus()) Edit(shown);
+  if (text() == shown) return;
+  setText(shown);
+  remembered_ = 0;
+}
+
+// What stays the same is left alone: a screen reader speaks what goes and what comes in the field
+// with the keys, so that a backspace is one character to it.
+void FieldWidget::Edit(const QString& after) {
+  const QString before = text();
+  const qsizetype shorter = std::min(before.size(), after.size());
+  // An edit leaves what is behind the caret as it was.
+  const int caret = Utf16Position(TheControl().Text(), TheControl().GetSelection().caret);
+  const qsizetype behind = std::min(shorter, after.size() - caret);
+  qsizetype tail = 0;
+  while (tail < behind && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
+    ++tail;
+  qsizetype head = 0;
+  while (head < shorter - tail && before[head] == after[head]) ++head;
+  const qsizetype removed = before.size() - tail - head;
+  const qsizetype inserted = after.size() - tail - head;
+  constexpr qsizetype kMostRemembered = 1000;
+  remembered_ += removed + inserted;
+  if (remembered_ <= kMostRemembered) Replace(head, removed, after.mid(head, inserted));
+}
+
+// A single character is not selected first, which would be spoken too.
+void FieldWidget::Replace(qsizetype from, qsizetype length, const QString& inserted) {
+  const int at = static_cast<int>(from);
+  if (length == 0) {
+    setCursorPosition(at);
+  } else if (length > 1 || hasSelectedText()) {
+    setSelection(at, static_cast<int>(length));
+    if (inserted.isEmpty()) del();
+  } else if (cursorPosition() == at) {
+    del();
+  } else {
+    setCursorPosition(at + 1);
+    backspace();
+  }
+  if (!inserted.isEmpty()) insert(inserted);
 }
 
 void FieldWidget::ShowCaption() {

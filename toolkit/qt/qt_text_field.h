@@ -16,8 +16,6 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
  public:
   FieldWidget(TextField& field, QWidget& parent);
 
-  // Selects the word that the key deletes.
-
  protected:
   void ShowState() override;
   void ShowLook() override;
@@ -32,11 +30,19 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
 
  private:
   void ShowCaption();
+  void ShowText();
+  // Makes the difference between what is shown and a text, unless it is too large for that.
+  void Edit(const QString& after);
+  // Puts `inserted` in the place of what is shown there.
+  void Replace(qsizetype from, qsizetype length, const QString& inserted);
   void ShowSelection();
   void ReportSelection();
   void ReportPaste(const QString& pasted);
   // Something other than the toolkit has put a text in: takes it as a paste over the whole.
   void ReportForeignText(const QString& foreign);
+
+  // The characters that the widget remembers for an undo of its own.
+  qsizetype remembered_ = 0;
 };
 
 }  // namespace vamo
