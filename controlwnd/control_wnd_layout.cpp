@@ -152,12 +152,17 @@ constexpr std::array kAccessibleTexts{
     AccessibleText{"nSlider", "N", "", "StaticText3"},
     AccessibleText{"zFld", "Fisher's z", "", "StaticText8"},
     AccessibleText{"Qbtn", "Info", "", ""},
-    AccessibleText{
-        .control = "tText", .description = "Student's t", .announced = Announced::kAfterPause},
-    AccessibleText{
-        .control = "pText", .description = "two-tailed p", .announced = Announced::kAfterPause},
+    AccessibleText{.control = "tText",
+                   .description = "Student's t",
+                   .labelled_by = "StaticText5",
+                   .announced = Announced::kAfterPause},
+    AccessibleText{.control = "pText",
+                   .description = "two-tailed p",
+                   .labelled_by = "StaticText1",
+                   .announced = Announced::kAfterPause},
     AccessibleText{.control = "ciText",
                    .description = "95% confidence interval of r",
+                   .labelled_by = "StaticText7",
                    .announced = Announced::kAfterPause},
     AccessibleText{
         .control = "nText", .description = "range of N", .announced = Announced::kAtOnce},

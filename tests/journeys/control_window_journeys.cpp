@@ -30,6 +30,9 @@ TEST(ControlWindowJourney, OpensEmptyWithTheKeysInR) {
     EXPECT_EQ(user.Sees(Role::kSlider, "r").labelled_by, "r =");
     EXPECT_EQ(user.Sees(Role::kSlider, "N").labelled_by, "N =");
     EXPECT_EQ(user.Sees(Role::kText, "Fisher's z").labelled_by, "Fisher's z =");
+    EXPECT_EQ(user.SeesDescribed("Student's t").labelled_by, "t =");
+    EXPECT_EQ(user.SeesDescribed("two-tailed p").labelled_by, "p =");
+    EXPECT_EQ(user.SeesDescribed("95% confidence interval of r").labelled_by, "95% CI of r =");
   });
 }
 

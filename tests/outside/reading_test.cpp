@@ -41,9 +41,9 @@ std::vector<ReadOut> ReadAll(OutsideUser& user) {
 
 TEST(Reading, TheControlWindow) {
   std::vector<ReadOut> expected{
-      {"label", "3.06", "Student's t", ""},
-      {"label", ".00490", "two-tailed p", ""},
-      {"label", "+.170 to +.729", "95% confidence interval of r", ""},
+      {"label", "3.06", "Student's t", "t ="},
+      {"label", ".00490", "two-tailed p", "p ="},
+      {"label", "+.170 to +.729", "95% confidence interval of r", "95% CI of r ="},
       {"label", "(4 - 1,1000)", "range of N", "", true, false},
       {"label", "Vamo", "", ""},
       {"label", "by Halden Q. Orrin", "", ""},
