@@ -106,7 +106,10 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
 class FleetingWindow : public Window {
  public:
   void Layout() override {
-    _SetProperties(*this, EncodedStream<640>().Integer("Width", 200).Integer("Height", 100));
+    _SetProperties(*this, EncodedStream<640>()
+                              .Integer("Width", 200)
+                              .Integer("Height", 100)
+                              .Text("Title", "Fleeting"));
   }
   void CreateControls() override { _AddControl("field", __New<TextField>()); }
   bool Event_KeyDown(std::string /*key*/) override {
@@ -121,7 +124,7 @@ TEST(QtDisplayTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
     user.Wait(std::chrono::milliseconds(0));
     EXPECT_EQ(user.Windows().size(), 2U);
     EXPECT_EQ(user.Focused().role, Role::kText);
-    EXPECT_NE(user.ActiveTitle(), "Vamo");
+    EXPECT_EQ(user.ActiveTitle(), "Fleeting");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F5);
     EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
   });
@@ -407,11 +410,12 @@ TEST(QtDisplayTest, AWindowThatIsResizedStretchesItsControls) {
   });
 }
 
-TEST(QtDisplayTest, TheSplashHasOneSize) {
+TEST(QtDisplayTest, TheSplashHasOneSizeAndAName) {
   RunProgram([](User&) {
     const QWidget& window = *QApplication::activeWindow();
     EXPECT_EQ(window.minimumSize(), QSize(300, 200));
     EXPECT_EQ(window.maximumSize(), QSize(300, 200));
+    EXPECT_EQ(window.windowTitle(), "Vamo") << "for lists of windows";
   });
 }
 

@@ -72,6 +72,11 @@ void Window::MakeView() {
   MoveFocus(/*backwards=*/false);
 }
 
+std::string Window::ListedTitle() const {
+  const Ref<Application>& app = Runtime::Current().App();
+  return state_.title.empty() && app ? app->Description() : state_.title;
+}
+
 void Window::Show() {
   _UITrap();
   if (!IsLive()) return;

@@ -106,6 +106,8 @@ class Window : public Object {
     Colour background_colour;
   };
   const State& GetState() const { return state_; }
+  // What a list of windows shows: the title, or else the program's name.
+  std::string ListedTitle() const;
   // Type 2: a splash without a frame, in the middle of the screen.
   bool IsSplash() const { return state_.type == 2; }
   // Type 7: a window to be read beside the working window; Escape and the command key with W close

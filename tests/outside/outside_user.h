@@ -62,6 +62,8 @@ class OutsideUser : public User {
   void MoveKnob(std::string_view slider, std::int64_t to);
   void ReleaseKnob();
   WindowOnScreen WindowTitled(std::string_view title);
+  // The active window.
+  const Element& Frame() const { return frames_.element.value(); }
   // The element of the active window that bears a name or a description.
   const Element& Find(Role role, std::string_view name);
   const Element& FindDescribed(std::string_view description);

@@ -113,6 +113,7 @@ TEST(Reading, TheSplashAndTheInfoWindow) {
     const std::vector<ReadOut> splash = ReadAll(user);
     ASSERT_EQ(splash.size(), 2U);
     EXPECT_EQ(splash[0].name, "Vamo");
+    EXPECT_EQ(user.Frame().Name() + user.WindowTitled("").name, "VamoVamo");
     EXPECT_EQ(splash[1].name.rfind("©", 0), 0U);
     user.PressNamed("space");
     user.Click(Role::kButton, "Info");

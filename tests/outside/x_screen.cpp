@@ -96,7 +96,8 @@ struct XScreen::Parts {
       shown.frame_right = static_cast<int>(frame[1]);
       shown.frame_top = static_cast<int>(frame[2]);
     }
-    if (shown.frame_top > 0) shown.title = Property(window, "_NET_WM_NAME");
+    shown.name = Property(window, "_NET_WM_NAME");
+    if (shown.frame_top > 0) shown.title = shown.name;
     const std::vector<unsigned long> active = Numbers(root, "_NET_ACTIVE_WINDOW");
     shown.active = !active.empty() && active[0] == window;
     return shown;

@@ -14,8 +14,9 @@ namespace vamo {
 // A window without what the window manager draws around it. Lengths are pixels of the screen.
 struct WindowOnScreen {
   unsigned long id = 0;
-  // Empty where no title bar shows one.
+  // Empty where no title bar shows one; a list of windows shows the name all the same.
   std::string title;
+  std::string name;
   int x = 0;
   int y = 0;
   int width = 0;

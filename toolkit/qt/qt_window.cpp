@@ -44,10 +44,7 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
       factor_(zoom.Factor()),
       content_(new ContentWidget(*this)),
       keys_(*this) {
-  const Window::State& state = window.GetState();
-  // A task bar shows the title, so there is always one.
-  setWindowTitle(state.title.empty() ? QGuiApplication::applicationDisplayName()
-                                     : ToQString(state.title));
+  setWindowTitle(ToQString(window.ListedTitle()));
   setObjectName(ToQString(window.Class()->name));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
