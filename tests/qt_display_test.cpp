@@ -130,6 +130,20 @@ TEST(QtDisplayTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
   });
 }
 
+TEST(QtDisplayTest, ABeepIsSeenWhereNothingSounds) {
+  InControlWindow([](User& user) {
+    auto& field = Named<QLineEdit>("r");
+    const QPalette usual = field.palette();
+    for (const Qt::Key refused : {Qt::Key_X, Qt::Key_Minus}) {
+      QTest::keyClick(&field, refused);
+      EXPECT_NE(field.palette().color(QPalette::Base), usual.color(QPalette::Base));
+    }
+    user.Wait(std::chrono::milliseconds(300));
+    EXPECT_EQ(field.palette(), usual);
+    EXPECT_EQ(user.Beeps(), 2);
+  });
+}
+
 TEST(QtDisplayTest, TheButtonLeavesTheKeysAlone) {
   InControlWindow([](User& user) {
     auto& button = Named<QPushButton>("Info");

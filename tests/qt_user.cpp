@@ -94,7 +94,10 @@ class CountingDisplay : public QtDisplay {
     stopped_ = true;
     QtDisplay::Stop();
   }
-  void Beep() override { ++beeps_; }
+  void Beep() override {
+    ++beeps_;
+    QtDisplay::Beep();
+  }
   // Offscreen there is no assistive technology that could hear it.
   void Announce(std::string_view sentence) override { announcements_.emplace_back(sentence); }
   int beeps() const { return beeps_; }

@@ -78,7 +78,7 @@ class Display {
   // outlives what is returned.
   virtual std::unique_ptr<WindowView> OpenWindow(Window& window) = 0;
 
-  // Sounds the system alert.
+  // Sounds the system alert or, where nothing sounds, shows it.
   virtual void Beep() = 0;
 
   // Called with a sentence, never an empty one, about the active window: must have assistive

@@ -17,6 +17,7 @@
 #include "qt_picture.h"
 #include "qt_speaker.h"
 #include "qt_start.h"
+#include "qt_visible_bell.h"
 #include "qt_window.h"
 #include "qt_zoom.h"
 
@@ -67,6 +68,7 @@ struct QtDisplay::Parts {
   Activation activation;
   Zoom zoom;
   Speaker speaker;
+  VisibleBell visible_bell;
 };
 
 QtDisplay::QtDisplay(const char* program) : parts_(std::make_unique<Parts>(program)) {}
@@ -81,7 +83,10 @@ std::unique_ptr<WindowView> QtDisplay::OpenWindow(Window& window) {
   return std::make_unique<QtWindowView>(window, parts_->activation, parts_->zoom);
 }
 
-void QtDisplay::Beep() { QApplication::beep(); }
+void QtDisplay::Beep() {
+  if (PlatformSoundsAlerts()) return QApplication::beep();
+  parts_->visible_bell.Flash(QApplication::focusWidget());
+}
 
 void QtDisplay::Announce(std::string_view sentence) { parts_->speaker.Say(ToQString(sentence)); }
 
