@@ -196,6 +196,12 @@ void FieldWidget::focusInEvent(QFocusEvent* event) {
   ReportFocus(event->reason());
 }
 
+// Qt would drop the selection when the keys go to the menu bar, where Cut and Copy are.
+void FieldWidget::focusOutEvent(QFocusEvent* event) {
+  QFocusEvent to_menu(QEvent::FocusOut, Qt::PopupFocusReason);
+  QLineEdit::focusOutEvent(event->reason() == Qt::MenuBarFocusReason ? &to_menu : event);
+}
+
 void FieldWidget::showEvent(QShowEvent* event) {
   QLineEdit::showEvent(event);
   ShowCaption();

@@ -25,6 +25,7 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   // The caption may have been created behind the field; by now it is there.
   void showEvent(QShowEvent* event) override;
 
