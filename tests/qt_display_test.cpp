@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 #include <utility>
 
 #include "toolkit/label.h"
@@ -170,6 +171,21 @@ TEST(QtDisplayTest, ADesktopThatIsReadFromTheRightChangesNothing) {
   InControlWindow([](User&) {
     for (const QWidget* widget : QApplication::activeWindow()->findChildren<QWidget*>()) {
       EXPECT_EQ(widget->layoutDirection(), Qt::LeftToRight) << widget->metaObject()->className();
+    }
+  });
+}
+
+TEST(QtDisplayTest, EachEntryOfAMenuHasALetterOfItsOwn) {
+  InControlWindow([](User& user) {
+    user.CanChoose("Edit/Cut");
+    for (const auto* menu : QApplication::activeWindow()->findChildren<QMenu*>()) {
+      std::set<QKeySequence> letters;
+      for (const QAction* entry : menu->actions()) {
+        if (!entry->isVisible() || entry->isSeparator()) continue;
+        const QKeySequence letter = QKeySequence::mnemonic(entry->text());
+        EXPECT_TRUE(!letter.isEmpty() && letters.insert(letter).second)
+            << entry->text().toStdString();
+      }
     }
   });
 }

@@ -13,9 +13,12 @@ namespace {
 
 QString Escaped(const QString& title) { return QString(title).replace(u'&', QStringLiteral("&&")); }
 
-// The title of a menu on the bar, with the first letter that is not yet in use as its mnemonic.
+// Where to look for the letter of an entry. On every desktop C is Copy, and T is Cut.
+qsizetype FirstCandidate(const QString& title) { return title == QStringLiteral("Cut") ? 2 : 0; }
+
+// The text of a menu or of an entry, with the first letter that none before it has as its mnemonic.
 QString WithMnemonic(const QString& title, QString& letters_in_use) {
-  for (qsizetype i = 0; i < title.size(); ++i) {
+  for (qsizetype i = FirstCandidate(title); i < title.size(); ++i) {
     if (!title[i].isLetter() || letters_in_use.contains(title[i], Qt::CaseInsensitive)) continue;
     letters_in_use += title[i];
     return Escaped(title.left(i)) + u'&' + Escaped(title.mid(i));
@@ -51,12 +54,15 @@ class Menu : public QMenu {
   }
 
   void Refresh() {
+    QString letters_in_use;
     for (const auto& [action, item] : entries_) {
       action->setSeparator(IsSeparator(*item));
-      // A style may write a separator's text beside its line.
-      action->setText(action->isSeparator() ? QString() : Escaped(ToQString(item->Value())));
       action->setVisible(item->Visible() && !item->Value().empty());
       action->setEnabled(item->Enabled());
+      // A style may write a separator's text beside its line.
+      const bool has_text = action->isVisible() && !action->isSeparator();
+      action->setText(has_text ? WithMnemonic(ToQString(item->Value()), letters_in_use)
+                               : QString());
     }
   }
 
