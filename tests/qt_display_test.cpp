@@ -55,6 +55,9 @@ int InControlWindow(const std::function<void(User&)>& journey) {
 
 TEST(QtDisplayTest, AnInputMethodsTextGoesTheRoadOfTheKeys) {
   InControlWindow([](User& user) {
+    EXPECT_EQ(Named<QLineEdit>("r").inputMethodHints(), Qt::ImhFormattedNumbersOnly);
+    EXPECT_EQ(Named<QLineEdit>("N").inputMethodHints(), Qt::ImhDigitsOnly);
+    EXPECT_EQ(Named<QLineEdit>("Fisher's z").inputMethodHints(), Qt::ImhNone);
     QInputMethodEvent event;
     event.setCommitString("5x7");
     QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &event);

@@ -73,4 +73,12 @@ std::optional<std::string> Typed(std::string_view before, std::string_view after
   return typed;
 }
 
+KeyboardKind KeyboardFor(const TypingRule& rule) {
+  constexpr std::string_view kNumberPlaces = "#.-";
+  if (rule.mask.empty()) return KeyboardKind::kAll;
+  if (rule.mask.find_first_not_of(kDigitPlace) == std::string::npos) return KeyboardKind::kDigits;
+  const bool number = rule.mask.find_first_not_of(kNumberPlaces) == std::string::npos;
+  return number ? KeyboardKind::kNumber : KeyboardKind::kAll;
+}
+
 }  // namespace vamo

@@ -27,6 +27,11 @@ struct TypingRule {
 std::optional<std::string> Typed(std::string_view before, std::string_view after,
                                  std::string_view character, const TypingRule& rule);
 
+// What a keyboard on the screen has to offer for a field: all characters, those of numbers, with
+// point and sign, or digits alone.
+enum class KeyboardKind { kAll, kNumber, kDigits };
+KeyboardKind KeyboardFor(const TypingRule& rule);
+
 }  // namespace vamo
 
 #endif  // VAMO_TOOLKIT_TYPING_RULE_H_

@@ -17,6 +17,21 @@
 #include "toolkit/window.h"
 
 namespace vamo {
+namespace {
+
+Qt::InputMethodHints HintsFor(KeyboardKind keyboard) {
+  switch (keyboard) {
+    case KeyboardKind::kNumber:
+      return Qt::ImhFormattedNumbersOnly;
+    case KeyboardKind::kDigits:
+      return Qt::ImhDigitsOnly;
+    case KeyboardKind::kAll:
+      break;
+  }
+  return Qt::ImhNone;
+}
+
+}  // namespace
 
 FieldWidget::FieldWidget(TextField& field, QWidget& parent) : WidgetFor(field, parent) {
   setMaxLength(std::numeric_limits<int>::max());
@@ -40,6 +55,7 @@ void FieldWidget::ShowLook() {
   setFrame(field.HasBorder());
   setReadOnly(field.ReadOnly());
   setEchoMode(field.Password() ? QLineEdit::Password : QLineEdit::Normal);
+  setInputMethodHints(inputMethodHints() | HintsFor(KeyboardFor(field.Rule())));
   setPlaceholderText(ToQString(field.Hint()));
   const QColor background = ToQColor(field.BackgroundColor());
   QPalette colours = palette();
