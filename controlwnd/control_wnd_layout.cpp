@@ -151,7 +151,7 @@ constexpr std::array kAccessibleTexts{
     AccessibleText{"nEdit", "N", "", "StaticText3"},
     AccessibleText{"nSlider", "N", "", "StaticText3"},
     AccessibleText{"zFld", "Fisher's z", "", "StaticText8"},
-    AccessibleText{"Qbtn", "Info", "", ""},
+    AccessibleText{.control = "Qbtn", .name = "Info", .pressed_by = KeyCode::kHelp},
     AccessibleText{.control = "tText",
                    .description = "Student's t",
                    .labelled_by = "StaticText5",

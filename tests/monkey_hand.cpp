@@ -18,9 +18,10 @@ constexpr std::string_view kDigits[] = {"0"sv, "1"sv, "2"sv, "3"sv, "5"sv, "9"sv
 constexpr std::string_view kOtherCharacters[] = {
     "a"sv,  "-"sv,    ","sv,    " "sv,  "é"sv,  "漢"sv,   "😀"sv,    "\b"sv,
     "\b"sv, "\x7F"sv, "\x7F"sv, "\t"sv, "\r"sv, "\x1B"sv, "\x10"sv, "\0"sv};
-constexpr KeyCode kOtherKeys[] = {
-    KeyCode::kLeft,     KeyCode::kRight, KeyCode::kUp,  KeyCode::kDown,  KeyCode::kPageUp,
-    KeyCode::kPageDown, KeyCode::kHome,  KeyCode::kEnd, KeyCode::kOther, KeyCode::kCharacter};
+constexpr KeyCode kOtherKeys[] = {KeyCode::kLeft,  KeyCode::kRight,    KeyCode::kUp,
+                                  KeyCode::kDown,  KeyCode::kPageUp,   KeyCode::kPageDown,
+                                  KeyCode::kHome,  KeyCode::kEnd,      KeyCode::kHelp,
+                                  KeyCode::kOther, KeyCode::kCharacter};
 constexpr char kCommandLetters[] = {'a', 'c', 'v', 'x', 'z', 'b', '1'};
 constexpr std::string_view kFields[] = {"r"sv, "N"sv};
 

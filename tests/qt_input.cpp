@@ -16,7 +16,7 @@ Qt::Key CodeOf(const Key& key) {
       {KeyCode::kUp, Qt::Key_Up},         {KeyCode::kDown, Qt::Key_Down},
       {KeyCode::kPageUp, Qt::Key_PageUp}, {KeyCode::kPageDown, Qt::Key_PageDown},
       {KeyCode::kHome, Qt::Key_Home},     {KeyCode::kEnd, Qt::Key_End},
-      {KeyCode::kOther, Qt::Key_F5},
+      {KeyCode::kHelp, Qt::Key_F1},       {KeyCode::kOther, Qt::Key_F5},
   };
   static const std::map<std::string, Qt::Key> kControls{
       {"\b", Qt::Key_Backspace}, {"\t", Qt::Key_Tab},      {"\r", Qt::Key_Return},

@@ -17,6 +17,7 @@ enum class KeyCode {
   kPageDown,
   kHome,
   kEnd,
+  kHelp,
   kOther
 };
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,7 +22,8 @@
 
 namespace vamo {
 
-// What assistive technology reads of one control, beside its text. Empty: nothing of the kind.
+// What one control is to those who do not see it or hold no mouse, beside its text. Empty: nothing
+// of the kind.
 struct AccessibleText {
   std::string_view control;
   std::string_view name = {};
@@ -32,6 +34,8 @@ struct AccessibleText {
   Announced announced = Announced::kNot;
   // Of a slider.
   std::int64_t positions_per_unit = 1;
+  // The key that presses a button, from anywhere in the window.
+  std::optional<KeyCode> pressed_by = std::nullopt;
 };
 
 // A window: its state, its children, its focus, and the road of the user's keys and presses through
@@ -186,6 +190,8 @@ class Window : public Object {
   void ApplyAccessibleTexts();
   void MakeView();
   bool TakeKey(const Key& key);
+  // Presses the button that the key is for. Whether there is one.
+  bool PressButton(const Key& key);
   void MoveFocus(bool backwards);
 
   State state_;

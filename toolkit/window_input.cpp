@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "toolkit/menu_service.h"
+#include "toolkit/push_button.h"
 #include "toolkit/runtime.h"
 #include "toolkit/utf8.h"
 #include "toolkit/window.h"
@@ -56,6 +57,7 @@ bool Window::TakeKey(const Key& key) {
   // With the command key held, a letter is no character.
   const bool carries_character = key.code == KeyCode::kCharacter && !key.command;
   if (Event_KeyDown(carries_character ? key.text : "")) return true;
+  if (PressButton(key)) return true;
   if (IsReading() && ClosesWindow(key)) {
     Close();
     return true;
@@ -65,6 +67,15 @@ bool Window::TakeKey(const Key& key) {
   if (key.text != std::string_view(&kTab, 1)) return false;
   MoveFocus(key.shift);
   return true;
+}
+
+bool Window::PressButton(const Key& key) {
+  for (const AccessibleText& text : AccessibleTexts()) {
+    if (text.pressed_by != key.code || key.shift || key.command) continue;
+    ControlNamed<PushButton>(text.control)->UserPressedByAssistiveTechnology();
+    return true;
+  }
+  return false;
 }
 
 void Window::MoveFocus(bool backwards) {

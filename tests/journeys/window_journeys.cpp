@@ -72,7 +72,7 @@ TEST(WindowJourney, InfoIsOneWindowThatCanBeReopened) {
 
 TEST(WindowJourney, TheInfoTextIsReadAndCopiedByKeysButNotChanged) {
   InControlWindow([](User& user) {
-    user.Click(Role::kButton, "Info");
+    user.PressKey(Arrow(KeyCode::kHelp));
     EXPECT_EQ(user.Focused().name, "Info");
     EXPECT_EQ(user.Focused().selected_text, "");
     user.Type("x");

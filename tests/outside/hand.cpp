@@ -21,7 +21,8 @@ std::string NameOf(const Key& key) {
   static const std::map<KeyCode, std::string> kCoded{
       {KeyCode::kLeft, "Left"}, {KeyCode::kRight, "Right"},  {KeyCode::kUp, "Up"},
       {KeyCode::kDown, "Down"}, {KeyCode::kPageUp, "Prior"}, {KeyCode::kPageDown, "Next"},
-      {KeyCode::kHome, "Home"}, {KeyCode::kEnd, "End"},      {KeyCode::kOther, "F5"},
+      {KeyCode::kHome, "Home"}, {KeyCode::kEnd, "End"},      {KeyCode::kHelp, "F1"},
+      {KeyCode::kOther, "F5"},
   };
   static const std::map<std::string, std::string> kControls{
       {"\b", "BackSpace"}, {"\t", "Tab"}, {"\r", "Return"}, {"\x1b", "Escape"}, {"\x7f", "Delete"},
