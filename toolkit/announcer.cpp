@@ -22,7 +22,8 @@ void Announcer::LabelChanged(Announced when) {
   quiet_periods_ = 0;
   if (timer_ != nullptr) return;
   timer_ = Runtime::Current().GetDisplay().StartTimer(kPeriod, [this] {
-    Runtime::Current().Dispatch([this, window = Self(&window_)] { Tick(); });
+    Runtime::Current().Dispatch([this, window = Self(&window_)] { Tick(); },
+                                Runtime::Cause::kTimer);
   });
 }
 
