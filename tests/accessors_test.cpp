@@ -4,6 +4,8 @@
 #include <string>
 
 #include "controlwnd/control_wnd.h"
+#include "shell/about_wnd.h"
+#include "shell/handle_about_menu.h"
 #include "test_program.h"
 #include "toolkit/runtime.h"
 
@@ -50,8 +52,20 @@ TEST_F(AccessorsTest, EachMenuItemIsFoundUnderItsOwnName) {
       "EditUndo,FileQuit,");
 }
 
-TEST_F(AccessorsTest, TheDescriptionItemIsPassedOn) {
-  EXPECT_FALSE(window_->GetMenuHandlers().at("DescriptionMenuItem").Invoke());
+TEST_F(AccessorsTest, EachHandlerPassesItsEventOn) {
+  for (const auto& [name, handler] : window_->GetMenuHandlers()) EXPECT_FALSE(handler.Invoke());
+  EXPECT_EQ(window_->GetMenuHandlers().size(), 2U);
+  EXPECT_FALSE(window_->Qbtn()->MouseDown.Invoke(window_->Qbtn(), 1, 1));
+  EXPECT_FALSE(AboutWnd()->Event_KeyDown("x"));
+  EXPECT_FALSE(AboutWnd()->Event_MouseDown(1, 1));
+  const auto app = New<HandleAboutMenu>();
+  EXPECT_FALSE(app->_AboutKEL_Action() || app->_AboutMenuItem_Action());
+}
+
+TEST_F(AccessorsTest, BothWindowsShowTheOnePicture) {
+  const auto about = Cast<class AboutWnd>(AboutWnd());
+  EXPECT_TRUE(about->Canvas1()->Backdrop());
+  EXPECT_TRUE(about->Canvas1()->Backdrop() == window_->Canvas3()->Backdrop());
 }
 
 TEST_F(AccessorsTest, AClassThatIsNoneOfTheObjectsHandlesNoEvent) {

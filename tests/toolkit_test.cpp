@@ -99,9 +99,51 @@ class TestApplication : public Application {
 TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   TestProgram program;
   const auto window = ImplicitInstance<TestWindow>();
+  const auto app = New<TestApplication>();
   const auto label = New<Label>();
+  const auto field = New<TextField>();
+  const auto slider = New<Slider>();
+  const auto canvas = New<Canvas>();
   const auto item = New<MenuItem>();
-  const auto traps = [](const std::function<void()>& operation) {
+  const auto child = New<MenuItem>();
+  const std::function<void()> kOperations[] = {
+      [&] { label->SetText("x"); },
+      [&] { label->Text(); },
+      [&] { label->SetVisible(false); },
+      [&] { label->SetEnabled(false); },
+      [&] { label->SetAccessibleName("x"); },
+      [&] { label->SetAccessibleDescription("x"); },
+      [&] { label->SetLabelledBy(label); },
+      [&] { field->SetText("x"); },
+      [&] { field->Text(); },
+      [&] { slider->Value(); },
+      [&] { canvas->SetBackdrop(nullptr); },
+      [&] { _SetProperties(*label, EncodedStream<8>()); },
+      [&] { AddHandler(slider->ValueChanged, &*window, &TestWindow::Hear); },
+      [&] { New<TestWindow>()->Constructor(); },
+      [&] { window->Show(); },
+      [&] { window->Hide(); },
+      [&] { window->Close(); },
+      [&] { window->__New<Label>(); },
+      [&] { window->_AddControl("x", label); },
+      [&] { window->_ControlByName("field"); },
+      [&] { window->_AddMenuHandler("x", MenuHandler()); },
+      [&] { window->MenuBar(); },
+      [&] { window->SetMenuBar(nullptr); },
+      [&] { app->_AddMenuHandler("x", MenuHandler()); },
+      [&] { app->SetMenuBar(nullptr); },
+      [&] { item->SetName("x"); },
+      [&] { item->SetValue("x"); },
+      [&] { item->SetShortcut("x"); },
+      [&] { item->SetAutoEnabled(false); },
+      [&] { item->SetEnabled(false); },
+      [&] { item->SetVisible(false); },
+      [&] { item->AddMenu(child); },
+      [&] { item->Child("x"); },
+      [&] { item->_Lookup("x"); },
+      [&] { Picture::_OpenFromApp("ChartSmall.jpg"); },
+  };
+  const auto trapped = [](const std::function<void()>& operation) {
     std::string message;
     std::thread([&] {
       try {
@@ -112,27 +154,18 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
     }).join();
     return message;
   };
-  const std::function<void()> kOperations[] = {
-      [&] { label->SetText("x"); },
-      [&] { window->Show(); },
-      [&] { window->Hide(); },
-      [&] { item->SetEnabled(false); },
-      [&] { window->_ControlByName("field"); },
-      [&] { window->MenuBar(); },
-      [&] { AddHandler(window->slider()->ValueChanged, &*window, &TestWindow::Hear); },
-      [&] { window->__New<Label>(); },
-      [&] { Picture::_OpenFromApp("ChartSmall.jpg"); },
-  };
-  EXPECT_EQ(traps(kOperations[0]), "") << "there is no application object yet";
-  program.runtime().RegisterApp(New<TestApplication>());
-  label->SetText("kept");
-  for (const auto& operation : kOperations) {
+  EXPECT_EQ(trapped([&] { label->SetText("kept"); }), "") << "there is no application object yet";
+  program.runtime().RegisterApp(app);
+  for (std::size_t i = 0; i < std::size(kOperations); ++i) {
     EXPECT_EQ(
-        traps(operation),
+        trapped(kOperations[i]),
         "A thread has attempted to manipulate a user interface element. This can only be done "
-        "from the application's main thread.");
+        "from the application's main thread.")
+        << i;
   }
   EXPECT_EQ(label->Text(), "kept");
+  EXPECT_TRUE(label->Visible() && item->Visible() && window->IsLive());
+  EXPECT_EQ(program.runtime().LiveWindows().size(), 1U);
 }
 
 class EventTest : public testing::Test {
@@ -278,7 +311,11 @@ TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   window->Hide();
   EXPECT_TRUE(ImplicitInstance<TestWindow>() == window);
   EXPECT_THROW(ImplicitInstance<OtherWindow>(), IllegalCastException);
+  window->Show();
+  program.display().PressKey(Key::Character("x"));
+  EXPECT_TRUE(program.runtime().ActiveWindow() == window);
   window->Close();
+  EXPECT_FALSE(program.runtime().ActiveWindow());
   window->Show();
   EXPECT_TRUE(program.display().Windows().empty()) << "a closed window does not come back";
   EXPECT_FALSE(ImplicitInstance<TestWindow>() == window);

@@ -144,17 +144,17 @@ TEST(ControlWindowJourney, KeyFiltersBeepAndSwallow) {
   InControlWindow([](User& user) {
     Retype(user, "r", ".5");
     int beeps = user.Beeps();
-    for (const char* refused : {"-", ",", "a", " ", "=", "\r", "\x1b", "."}) {
+    for (const char* refused : {"-", ",", "a", " ", "/", ":", "\r", "\x1b", "."}) {
       user.Type(refused);
       EXPECT_EQ(FieldText(user, "r"), ".5") << refused;
       EXPECT_EQ(user.Beeps(), ++beeps) << refused;
     }
     Retype(user, "N", "12");
     beeps = user.Beeps();
-    user.Type(".");
+    user.Type("./:");
     user.PressKey(kDeleteKey);
     EXPECT_EQ(FieldText(user, "N"), "12");
-    EXPECT_EQ(user.Beeps(), beeps + 2);
+    EXPECT_EQ(user.Beeps(), beeps + 4);
   });
 }
 
@@ -163,12 +163,14 @@ TEST(ControlWindowJourney, TheWarningFollowsN) {
     user.DragSlider("r", {50});
     Retype(user, "N", "2");
     EXPECT_TRUE(Warned(user));
+    EXPECT_EQ(user.Beeps(), 1);
     EXPECT_EQ(ResultLine(user), ".00 | .99999 | n/a to n/a");
     const int beeps = user.Beeps();
     user.Type("5");
     EXPECT_FALSE(Warned(user));
     EXPECT_EQ(user.Beeps(), beeps);
     Retype(user, "N", "3");
+    EXPECT_TRUE(Warned(user));
     EXPECT_EQ(ResultLine(user), ".00 | .99999 | -1.000 to n/a");
     Retype(user, "N", "1000");
     EXPECT_EQ(ResultLine(user), "18.24 | .00001 | +.452 to +.545");
@@ -253,12 +255,15 @@ TEST(ControlWindowJourney, TheCaretAndTheSelectionAreTheUsers) {
     user.PressKey(Key::Command("z"));
     EXPECT_EQ(FieldText(user, "r"), ".123");
     EXPECT_EQ(FieldText(user, "Fisher's z"), "0.124");
+    user.PressKey(Arrow(KeyCode::kEnd));
+    EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, "");
     user.Click(Role::kText, "N");
     user.Paste("40");
     user.PressKey(kBackTabKey);
     EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, ".123") << "entered by Tab";
     user.PressKey(Key::Command("x"));
     EXPECT_EQ(FieldText(user, "r"), "");
+    EXPECT_EQ(user.Clipboard(), ".123");
     EXPECT_EQ(ResultLine(user), ".00 | .99999 | -.312 to +.312");
   });
 }
