@@ -1,0 +1,117 @@
+// The toolkit's rules for sliders, buttons and timers.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "test_window.h"
+#include "toolkit/delegate.h"
+#include "toolkit/property_stream.h"
+#include "toolkit/push_button.h"
+
+namespace vamo {
+namespace {
+
+using std::chrono_literals::operator""ms;
+
+TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
+  TestProgram program;
+  const auto slider = New<Slider>();
+  const auto log = New<Log>();
+  slider->ValueChanged = Delegate<void(Ref<Slider>)>(log, &Log::Note, ReceiverFlag::kStrong);
+  for (const std::int64_t position : {3, 3, 200, 100, -5, 0}) slider->UserMovedTo(position);
+  EXPECT_EQ(log->entries, (std::vector<std::string>{"3", "100", "0"}));
+}
+
+// Takes itself out of the event that it hears, and goes on.
+struct Fleeting : Object {
+  void Hear(Ref<Slider> slider) {
+    slider->ValueChanged = {};
+    heard = slider->Value();
+  }
+  ~Fleeting() override { gone_with = heard; }
+  std::int64_t heard = 0;
+  static inline std::int64_t gone_with = 0;
+};
+
+TEST(SliderTest, AHandlerCanTakeItselfOut) {
+  TestProgram program;
+  const auto slider = New<Slider>();
+  slider->ValueChanged =
+      Delegate<void(Ref<Slider>)>(New<Fleeting>(), &Fleeting::Hear, ReceiverFlag::kStrong);
+  slider->UserMovedTo(7);
+  EXPECT_EQ(Fleeting::gone_with, 7) << "it has gone before it was through";
+  slider->UserMovedTo(8);
+  EXPECT_EQ(Fleeting::gone_with, 7);
+}
+
+TEST(SliderTest, StepsOfAnySizeEndAtTheEnds) {
+  TestProgram program;
+  const auto slider = New<Slider>();
+  _SetProperties(
+      *slider, EncodedStream<640>().Integer("LineStep", INT64_MIN).Integer("PageStep", INT64_MAX));
+  const auto reached = [&](KeyCode key) {
+    slider->UserMovedTo(50);
+    EXPECT_TRUE(slider->TakeKey({key, "", false, false}));
+    return slider->Value();
+  };
+  EXPECT_EQ(reached(KeyCode::kLeft), 100);
+  EXPECT_EQ(reached(KeyCode::kRight), 0);
+  EXPECT_EQ(reached(KeyCode::kPageDown), 0);
+  EXPECT_EQ(reached(KeyCode::kPageUp), 100);
+  slider->UserTurnedWheel(-3);
+  EXPECT_EQ(slider->Value(), 100);
+}
+
+TEST(PushButtonTest, OnlyAnEnabledButtonAsksItsHandler) {
+  TestProgram program;
+  const auto button = New<PushButton>();
+  EXPECT_FALSE(button->UserPressed(3, 4)) << "there is no handler";
+  button->MouseDown = Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)>(
+      +[](Ref<PushButton>, std::int64_t x, std::int64_t y) { return x == 3 && y == 4; });
+  EXPECT_TRUE(button->UserPressed(3, 4));
+  button->SetEnabled(false);
+  EXPECT_FALSE(button->UserPressed(3, 4));
+}
+
+TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
+  TestProgram program;
+  const auto log = New<Log>();
+  const Delegate<void(Ref<Timer>)> note(log, &Log::NoteTimer, ReceiverFlag::kStrong);
+  const auto window = ImplicitInstance<TestWindow>();
+  window->timer()->Action = note;
+  window->timer()->SetRunMode(1);
+  program.display().LetTimePass(1000ms);
+  EXPECT_EQ(log->entries.size(), 0U) << "a period is missing";
+  window->timer()->SetPeriod(100);
+  program.display().LetTimePass(99ms);
+  EXPECT_EQ(log->entries.size(), 0U);
+  program.display().LetTimePass(1000ms);
+  EXPECT_EQ(log->entries.size(), 1U);
+  window->timer()->SetRunMode(2);
+  program.display().LetTimePass(350ms);
+  EXPECT_EQ(log->entries.size(), 4U);
+  window->timer()->Reset();
+  program.display().LetTimePass(99ms);
+  EXPECT_EQ(log->entries.size(), 4U) << "the period has begun anew";
+  program.display().LetTimePass(1ms);
+  EXPECT_EQ(log->entries.size(), 5U);
+  const auto timer = window->timer();
+  window->Close();
+  program.display().LetTimePass(1000ms);
+  EXPECT_EQ(log->entries.size(), 5U);
+}
+
+TEST(TimerTest, TheWrapperDoesNotKeepItsWindow) {
+  TestProgram program;
+  auto window = ImplicitInstance<TestWindow>();
+  const auto wrapper = window->ControlNamed<_wrapper_Timer1>("timer");
+  EXPECT_TRUE(wrapper->Window() == window);
+  window->Close();
+  window = nullptr;
+  EXPECT_FALSE(wrapper->Window());
+  EXPECT_FALSE(New<_wrapper_Timer1>()->Window());
+}
+
+}  // namespace
+}  // namespace vamo

@@ -1,0 +1,94 @@
+// The toolkit's rules for menus: who is asked, what is enabled, what a shortcut does.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "test_window.h"
+#include "toolkit/menu_service.h"
+
+namespace vamo {
+namespace {
+
+class MenuTest : public testing::Test {
+ protected:
+  MenuTest() {
+    const auto edit = New<MenuItem>();
+    edit->SetName("Edit");
+    edit->SetValue("Edit");
+    bar_->AddMenu(edit);
+    for (const auto& [name, shortcut] : {std::pair{"Own", "Cmd+O"}, {"EditCopy", "Cmd+C"}}) {
+      const auto item = New<MenuItem>();
+      item->SetName(name);
+      item->SetValue(name);
+      item->SetShortcut(shortcut);
+      item->SetAutoEnabled(false);
+      edit->AddMenu(item);
+    }
+    app_->SetMenuBar(bar_);
+    program_.runtime().RegisterApp(app_);
+    window_ = ImplicitInstance<TestWindow>();
+    program_.display().PressKey(Key::Character("x"));
+  }
+
+  MenuHandler Handler(bool (Log::*method)()) { return {log_, method, ReceiverFlag::kStrong}; }
+
+  TestProgram program_;
+  Ref<TestApplication> app_ = New<TestApplication>();
+  Ref<MenuBar> bar_ = New<MenuBar>();
+  Ref<Log> log_ = New<Log>();
+  Ref<TestWindow> window_;
+};
+
+TEST_F(MenuTest, AnItemIsInOneMenu) {
+  EXPECT_THROW(bar_->AddMenu(bar_->_Lookup("Own")), MenuHasParentException);
+  EXPECT_FALSE(bar_->Child("Own"));
+  EXPECT_FALSE(bar_->_Lookup("Nowhere"));
+}
+
+TEST_F(MenuTest, TheWindowsHandlerComesFirstAndCanTakeTheItem) {
+  bar_->_Lookup("Own")->SetAutoEnabled(true);
+  EnableMenuItems();
+  app_->_AddMenuHandler("Own", Handler(&Log::Take));
+  window_->_AddMenuHandler("Own", Handler(&Log::Pass));
+  UserChose(bar_->_Lookup("Own"));
+  EXPECT_EQ(log_->entries, (std::vector<std::string>{"pass", "take"}));
+  window_->Close();
+  window_ = ImplicitInstance<TestWindow>();
+  program_.display().PressKey(Key::Character("x"));
+  window_->_AddMenuHandler("Own", Handler(&Log::Take));
+  UserChose(bar_->_Lookup("Own"));
+  EXPECT_EQ(log_->entries, (std::vector<std::string>{"pass", "take", "take"}));
+}
+
+TEST_F(MenuTest, ADisabledItemsShortcutDoesNothing) {
+  window_->_AddMenuHandler("Own", Handler(&Log::Take));
+  const int enablings = window_->enablings;
+  program_.display().PressKey(Key::Command("o"));
+  EXPECT_EQ(window_->enablings, enablings + 1);
+  EXPECT_TRUE(log_->entries.empty());
+  EXPECT_FALSE(program_.display().CanChoose("Edit/Own"));
+  bar_->_Lookup("Own")->SetAutoEnabled(true);
+  program_.display().PressKey(Key::Command("o"));
+  EXPECT_EQ(log_->entries.size(), 1U);
+  program_.display().PressKey({KeyCode::kCharacter, "o", /*shift=*/true, /*command=*/true});
+  EXPECT_EQ(log_->entries.size(), 1U) << "with shift it is another key";
+}
+
+TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {
+  window_->field()->SetText("text");
+  program_.display().Click(Role::kText, "field");
+  EXPECT_FALSE(program_.display().CanChoose("Edit/EditCopy"));
+  program_.display().Select("field", 0, 2);
+  EXPECT_TRUE(program_.display().Choose("Edit/EditCopy"));
+  EXPECT_EQ(program_.display().Clipboard(), "te");
+  EXPECT_TRUE(window_->field()->CanPaste());
+  EXPECT_EQ(program_.display().ClipboardReads(), 0) << "enabling the items reads no clipboard";
+  app_->_AddMenuHandler("EditCopy", Handler(&Log::Take));
+  program_.display().Select("field", 0, 3);
+  program_.display().PressKey(Key::Command("c"));
+  EXPECT_EQ(program_.display().Clipboard(), "te");
+}
+
+}  // namespace
+}  // namespace vamo

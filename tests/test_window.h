@@ -1,0 +1,79 @@
+// A window, an application and a log for the tests of the toolkit.
+#ifndef VAMO_TESTS_TEST_WINDOW_H_
+#define VAMO_TESTS_TEST_WINDOW_H_
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "test_program.h"
+#include "toolkit/application.h"
+#include "toolkit/label.h"
+#include "toolkit/slider.h"
+#include "toolkit/text_edit.h"
+#include "toolkit/timer.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+
+// Handlers, and what has come to them.
+struct Log : Object {
+  bool Pass() {
+    entries.push_back("pass");
+    return false;
+  }
+  bool Take() {
+    entries.push_back("take");
+    return true;
+  }
+  void Note(Ref<Slider> slider) { entries.push_back(std::to_string(slider->Value())); }
+  void NoteTimer(Ref<Timer> /*timer*/) { entries.push_back("timer"); }
+  // Raises what the slider's position stands for.
+  void Fail(Ref<Slider> slider);
+  std::vector<std::string> entries;
+};
+
+// With a control of each kind that takes input, each named as its class.
+class TestWindow : public Window {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  void CreateControls() override {
+    Add("slider", __New<Slider>());
+    Add("field", __New<TextField>());
+    Add("label", __New<Label>());
+    _AddControl("timer", __New<_wrapper_Timer1>());
+  }
+  void Event_Activate() override { ++activations; }
+  void Event_EnableMenuItems() override { ++enablings; }
+
+  Ref<Slider> slider() { return ControlNamed<Slider>("slider"); }
+  Ref<TextField> field() { return ControlNamed<TextField>("field"); }
+  Ref<Timer> timer() { return ControlNamed<Timer>("timer"); }
+
+  void Hear(Ref<Slider> /*slider*/) {}
+
+  int activations = 0;
+  int enablings = 0;
+
+ private:
+  template <class C>
+  void Add(std::string_view name, const Ref<C>& control) {
+    _AddControl(name, control);
+    control->SetAccessibleName(name);
+  }
+};
+class TestApplication : public Application {
+ public:
+  bool Event_UnhandledException(const RuntimeException& exception) override {
+    taken = exception.Message();
+    return takes;
+  }
+  bool takes = false;
+  std::string taken;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TESTS_TEST_WINDOW_H_

@@ -1,0 +1,80 @@
+// The toolkit's rules for windows: the one instance, activation, focus, the end.
+#include <gtest/gtest.h>
+
+#include "test_window.h"
+
+namespace vamo {
+namespace {
+
+class OtherWindow : public Window {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &TestWindow::kClass; }
+};
+const ClassInfo OtherWindow::kClass{"TestWindow.TestWindow", &Window::kClass, {}};
+
+TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
+  TestProgram program;
+  const auto window = ImplicitInstance<TestWindow>();
+  window->Hide();
+  EXPECT_TRUE(ImplicitInstance<TestWindow>() == window);
+  EXPECT_THROW(ImplicitInstance<OtherWindow>(), IllegalCastException);
+  window->Show();
+  program.display().PressKey(Key::Character("x"));
+  EXPECT_TRUE(program.runtime().ActiveWindow() == window);
+  window->Close();
+  EXPECT_FALSE(program.runtime().ActiveWindow());
+  window->Show();
+  EXPECT_TRUE(program.display().Windows().empty()) << "a closed window does not come back";
+  EXPECT_FALSE(ImplicitInstance<TestWindow>() == window);
+}
+
+TEST(WindowTest, AWindowThatIsHeldPastTheEndHasNothingOnTheDisplay) {
+  Ref<TestWindow> held;
+  TestProgram outer;
+  {
+    TestProgram program;
+    held = ImplicitInstance<TestWindow>();
+  }
+  EXPECT_FALSE(held->IsLive());
+  held->field()->SetText("nobody shows it");
+  EXPECT_EQ(&Runtime::Current(), &outer.runtime()) << "the former run time is the current one";
+}
+
+TEST(WindowTest, ActivationIsRaisedWhenTheWindowBecomesTheActiveOne) {
+  TestProgram program;
+  const auto window = ImplicitInstance<TestWindow>();
+  program.display().PressKey(Key::Character("x"));
+  EXPECT_EQ(window->activations, 1);
+  window->UserActivated();
+  EXPECT_EQ(window->activations, 1) << "it already was";
+  window->UserDeactivated();
+  window->UserActivated();
+  EXPECT_EQ(window->activations, 2);
+  window->Hide();
+  window->UserActivated();
+  EXPECT_EQ(window->activations, 2) << "a hidden window is not active";
+}
+
+TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
+  TestProgram program;
+  const auto window = ImplicitInstance<TestWindow>();
+  const Key tab = Key::Character("\t");
+  EXPECT_TRUE(window->Focus() == window->slider());
+  window->UserPressedKey(tab);
+  EXPECT_TRUE(window->Focus() == window->field());
+  window->slider()->SetVisible(false);
+  window->UserPressedKey(tab);
+  EXPECT_TRUE(window->Focus() == window->field());
+  window->field()->KeyDown = Delegate<bool(Ref<TextField>, std::string)>(
+      +[](Ref<TextField>, std::string) { return true; });
+  window->slider()->SetVisible(true);
+  window->UserPressedKey(tab);
+  EXPECT_TRUE(window->Focus() == window->field()) << "a swallowed tab moves nothing";
+  window->slider()->SetEnabled(false);
+  window->UserFocused(window->slider());
+  EXPECT_TRUE(window->Focus() == window->field());
+}
+
+}  // namespace
+}  // namespace vamo
