@@ -12,13 +12,13 @@
 #include <vector>
 
 #include "controlwnd/control_wnd.h"
+#include "displays/headless/display.h"
 #include "flat_window.h"
 #include "p_references.h"
 #include "shell/startup.h"
 #include "stats/interval.h"
 #include "stats/significance.h"
 #include "toolkit/conversions.h"
-#include "toolkit/headless/headless_display.h"
 
 namespace vamo {
 namespace {

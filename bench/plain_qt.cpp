@@ -9,7 +9,7 @@
 #include "plain_widgets.h"
 #include "plain_window.h"
 #include "probe.h"
-#include "qt_start.h"
+#include "displays/qt/start.h"
 #include "shell/rights.h"
 
 namespace vamo {

@@ -1,7 +1,7 @@
 // The program itself, with a probe in it.
+#include "displays/qt/display.h"
 #include "probe.h"
 #include "shell/startup.h"
-#include "toolkit/qt/qt_display.h"
 
 int main(int argc, char** argv) {
   auto display = vamo::MakeQtDisplay(argv[0]);

@@ -28,23 +28,13 @@ if(VAMO_WARNINGS_AS_ERRORS)
   target_compile_options(vamo_options INTERFACE $<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
 endif()
 
-# vamo_library(name HEADERS h... SOURCES cpp... [LINKS library...])
+# vamo_library(name SOURCES cpp... [LINKS library...])
 #
-# A static library of the current folder. Its headers are included by their path from the project's
-# root ("stats/interval.h"), but the compiler finds only the headers of the libraries in LINKS and of
-# what those link: the include folder of a library holds links to its own headers and to no others.
-# So an include that goes up a layer does not compile.
+# A static library of the current folder. Headers are included by their path from the project's root
+# ("stats/interval.h"); which folders a library may include from, tests/includes.cmake holds.
 function(vamo_library name)
-  cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINKS" ${ARGN})
-  add_library(${name} STATIC ${ARG_HEADERS} ${ARG_SOURCES})
-  file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
-  set(root ${PROJECT_BINARY_DIR}/include/${name})
-  file(REMOVE_RECURSE ${root})
-  file(MAKE_DIRECTORY ${root}/${folder})
-  foreach(header IN LISTS ARG_HEADERS)
-    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${root}/${folder}/${header} COPY_ON_ERROR
-         SYMBOLIC)
-  endforeach()
-  target_include_directories(${name} PUBLIC ${root})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC vamo_options ${ARG_LINKS})
 endfunction()

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "toolkit/headless/headless_display.h"
-#include "toolkit/headless/headless_window.h"
+#include "displays/headless/display.h"
+#include "displays/headless/window.h"
 #include "toolkit/runtime.h"
 
 namespace vamo {

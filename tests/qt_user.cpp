@@ -14,10 +14,10 @@
 #include <map>
 #include <memory>
 
+#include "displays/qt/display.h"
 #include "qt_input.h"
 #include "shell/startup.h"
 #include "toolkit/exceptions.h"
-#include "toolkit/qt/qt_display.h"
 #include "toolkit/utf8.h"
 #include "user.h"
 

@@ -9,11 +9,11 @@
 
 #include "controlwnd/accessors.h"
 #include "controlwnd/control_wnd.h"
+#include "displays/headless/display.h"
 #include "shell/about_wnd.h"
 #include "shell/file_types.h"
 #include "shell/handle_about_menu.h"
 #include "shell/info_wnd.h"
-#include "toolkit/headless/headless_display.h"
 #include "toolkit/runtime.h"
 
 namespace vamo {

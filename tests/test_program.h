@@ -5,7 +5,7 @@
 #include <memory>
 #include <utility>
 
-#include "toolkit/headless/headless_display.h"
+#include "displays/headless/display.h"
 #include "toolkit/runtime.h"
 #include "toolkit/window.h"
 

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "toolkit/headless/headless_display.h"
+#include "displays/headless/display.h"
 #include "toolkit/key.h"
 
 namespace vamo {

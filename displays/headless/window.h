@@ -1,0 +1,79 @@
+// The windows, controls and timers of the display without pixels.
+#ifndef VAMO_DISPLAYS_HEADLESS_WINDOW_H_
+#define VAMO_DISPLAYS_HEADLESS_WINDOW_H_
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "displays/headless/display.h"
+
+namespace vamo {
+
+// A control as it is shown: the copy of its state.
+class HeadlessControl final : public ControlView {
+ public:
+  HeadlessControl(HeadlessWindow& window, RectControl& control);
+  ~HeadlessControl() override;
+
+  void Update() override;
+
+  RectControl& Control() const { return control_; }
+  HeadlessWindow& Window() const { return window_; }
+  const ShownControl& Shown() const { return shown_; }
+
+ private:
+  HeadlessWindow& window_;
+  RectControl& control_;
+  ShownControl shown_;
+};
+
+// A window as it is shown: whether it is on the screen, and which of its controls has the keys.
+class HeadlessWindow : public WindowView {
+ public:
+  HeadlessWindow(HeadlessDisplay& display, vamo::Window& window);
+  ~HeadlessWindow() override;
+
+  std::unique_ptr<ControlView> CreateControl(RectControl& control) override;
+  void Show() override;
+  void Hide() override { on_screen_ = false; }
+  void UpdateFocus() override;
+
+  vamo::Window& Window() const { return window_; }
+  bool OnScreen() const { return on_screen_; }
+  const std::vector<HeadlessControl*>& Controls() const { return controls_; }
+  const HeadlessControl* Focus() const;
+
+ private:
+  friend class HeadlessControl;
+
+  HeadlessDisplay& display_;
+  vamo::Window& window_;
+  std::vector<HeadlessControl*> controls_;
+  const RectControl* focus_ = nullptr;
+  bool on_screen_ = false;
+};
+
+// A timer on the display's own clock.
+class HeadlessTimer : public RunningTimer {
+ public:
+  HeadlessTimer(HeadlessDisplay& display, std::chrono::milliseconds period,
+                std::function<void()> fire);
+  ~HeadlessTimer() override;
+
+  std::chrono::milliseconds Due() const { return due_; }
+  // Fires, and is due again a period later. The timer may be gone afterwards.
+  void Fire();
+
+ private:
+  HeadlessDisplay& display_;
+  const std::chrono::milliseconds period_;
+  std::chrono::milliseconds due_;
+  std::function<void()> fire_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_HEADLESS_WINDOW_H_

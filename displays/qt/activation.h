@@ -1,0 +1,35 @@
+// Which window the user's keys go to.
+#ifndef VAMO_DISPLAYS_QT_ACTIVATION_H_
+#define VAMO_DISPLAYS_QT_ACTIVATION_H_
+
+#include <QPointer>
+#include <QTimer>
+
+namespace vamo {
+
+class WindowWidget;
+
+// Passes on to the toolkit which window the platform has made the active one. A menu that closes
+// can give the keys back to its window for a moment although its item has just brought another
+// window up: while a shown window waits for the keys, no other one is reported.
+class Activation {
+ public:
+  Activation();
+
+  // The window has been brought up and is to have the keys.
+  void Await(WindowWidget& window);
+  // What the platform says.
+  void Activated(WindowWidget& window);
+  void Deactivated(const WindowWidget& window);
+
+ private:
+  // The platform has given the keys to no window, or has left them where they were.
+  void GiveUp();
+
+  QPointer<WindowWidget> awaited_;
+  QTimer patience_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_ACTIVATION_H_

@@ -1,0 +1,41 @@
+// What a window shows below its menu bar.
+#ifndef VAMO_DISPLAYS_QT_CONTENT_H_
+#define VAMO_DISPLAYS_QT_CONTENT_H_
+
+#include <QWidget>
+#include <vector>
+
+#include "displays/qt/control.h"
+
+namespace vamo {
+
+class Window;
+class WindowWidget;
+
+// The area of a window that holds its controls: places them, draws the background, and reports the
+// presses that no control takes.
+class ContentWidget : public QWidget {
+ public:
+  explicit ContentWidget(WindowWidget& parent);
+
+  ControlWidget& AddControl(RectControl& control);
+  // Makes all controls as large as the window's factor says.
+  void Rescale();
+  // The widget of a control, or nil.
+  QWidget* Find(const RectControl* control) const;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void Place(ControlWidget& widget);
+
+  WindowWidget& window_;
+  std::vector<ControlWidget*> controls_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_CONTENT_H_

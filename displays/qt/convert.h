@@ -1,0 +1,40 @@
+// From the toolkit's values to Qt's and back.
+#ifndef VAMO_DISPLAYS_QT_CONVERT_H_
+#define VAMO_DISPLAYS_QT_CONVERT_H_
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "toolkit/class_info.h"
+#include "toolkit/control.h"
+#include "toolkit/label.h"
+
+namespace vamo {
+
+QString ToQString(std::string_view utf8);
+// Half a surrogate pair, which no UTF-8 can hold, becomes U+FFFD or a question mark.
+std::string ToUtf8(const QString& text);
+
+QColor ToQColor(Colour colour);
+// The font of that size in pixels, which is rounded to whole ones and at least 1.
+QFont ToQFont(const Font& font, double factor);
+// The text's place, centred vertically.
+Qt::Alignment ToQtAlignment(TextAlignment alignment);
+// The nearest number that an int can hold.
+int ToInt(std::int64_t number);
+// So many times a length, as a whole number.
+int Scaled(std::int64_t length, double factor);
+
+// The place in the UTF-16 form of valid UTF-8 that belongs to a byte offset, and the other way
+// round. A place past the end is the end.
+int Utf16Position(std::string_view utf8, std::size_t byte_offset);
+std::size_t ByteOffset(std::string_view utf8, int utf16_position);
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_CONVERT_H_

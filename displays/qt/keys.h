@@ -1,0 +1,38 @@
+// The one road of the keys from Qt to the toolkit.
+#ifndef VAMO_DISPLAYS_QT_KEYS_H_
+#define VAMO_DISPLAYS_QT_KEYS_H_
+
+#include <QKeyEvent>
+#include <QObject>
+#include <optional>
+
+#include "toolkit/key.h"
+
+namespace vamo {
+
+class ControlWidget;
+class WindowWidget;
+
+// The key that an event carries; nothing for a bare modifier and for a key that only begins a
+// character.
+std::optional<Key> ToKey(const QKeyEvent& event);
+
+// Takes the keys of all widgets of one window before the widgets see them and gives them to the
+// toolkit. A key that carries a character goes no further; one that the toolkit leaves alone and
+// that carries none goes on to the widget.
+class KeyRoad : public QObject {
+ public:
+  explicit KeyRoad(WindowWidget& window);
+
+  void Watch(QObject& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool TakeKey(const QKeyEvent& event);
+
+  WindowWidget& window_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_KEYS_H_

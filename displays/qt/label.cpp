@@ -1,0 +1,132 @@
+// The label on the screen.
+#include "displays/qt/label.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTextOption>
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+#include "displays/qt/convert.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+namespace {
+
+// The base line for which the line lies in the middle of the box; moved where ink would stand out.
+double BaseLine(const QTextLine& line, const QRectF& extent, double height) {
+  const double middle = (height - line.ascent() - line.descent()) / 2 + line.ascent();
+  const double highest = -extent.top();
+  const double lowest = height - extent.bottom();
+  if (lowest < highest) return (lowest + highest) / 2;
+  return std::clamp(middle, highest, lowest);
+}
+
+// What a label's text may cover across the window: up to a gap from what stands beside it.
+struct Reach {
+  double left;
+  double right;
+};
+
+Reach ReachOf(const RectControl& label) {
+  constexpr double kGap = 5;
+  const Bounds& box = label.Bounds();
+  const Ref<Window> window = label.Window();
+  const Ref<RectControl> parent = label.Parent();
+  const Bounds whole = parent ? parent->Bounds() : Bounds{0, 0, window->GetState().width, 0};
+  std::int64_t left = whole.left;
+  std::int64_t right = whole.left + whole.width;
+  for (const Ref<RectControl>& other : window->Controls()) {
+    const Bounds& beside = other->Bounds();
+    const bool in_line = beside.top < box.top + box.height && box.top < beside.top + beside.height;
+    if (!in_line || other == parent) continue;
+    const std::int64_t end = beside.left + beside.width;
+    if (2 * end <= 2 * box.left + box.width) left = std::max(left, end);
+    if (2 * beside.left >= 2 * box.left + box.width) right = std::min(right, beside.left);
+  }
+  // Where the boxes of two texts touch, the gap is at the end of the first.
+  return {std::min(static_cast<double>(box.left), static_cast<double>(left) + kGap),
+          static_cast<double>(right) - kGap};
+}
+
+// Where a text of that width begins that is aligned in a box.
+double Left(Qt::Alignment alignment, const QRect& box, double width) {
+  const double free = box.width() - width;
+  if (alignment.testFlag(Qt::AlignHCenter)) return box.left() + free / 2;
+  return box.left() + (alignment.testFlag(Qt::AlignRight) ? free : 0);
+}
+
+}  // namespace
+
+LabelWidget::LabelWidget(Label& label, QWidget& parent) : WidgetFor(label, parent) {
+  setTextFormat(Qt::PlainText);
+  setAlignment(ToQtAlignment(label.Alignment()));
+  QPalette colours = palette();
+  colours.setColor(QPalette::WindowText, ToQColor(label.TextColor()));
+  setPalette(colours);
+}
+
+void LabelWidget::SetBox(const QRect& box) {
+  box_ = box;
+  Fit();
+}
+
+void LabelWidget::ShowLook() {
+  const Label& label = TheControl();
+  setFont(ToQFont(label.Font(), Factor()));
+  const Reach reach = ReachOf(label);
+  const Bounds& box = label.Bounds();
+  room_left_ = (static_cast<double>(box.left) - reach.left) * Factor();
+  room_right_ = (reach.right - static_cast<double>(box.left + box.width)) * Factor();
+  Fit();
+}
+
+void LabelWidget::ShowState() {
+  const QString shown = ToQString(TheControl().Text());
+  if (text() == shown) return;
+  setText(shown);
+  Fit();
+}
+
+void LabelWidget::Fit() {
+  if (!text().isEmpty()) LayOut();
+  const double left = box_.left() - room_left_;
+  const double room = std::max(1.0, box_.left() + box_.width() + room_right_ - left);
+  x_scale_ = std::min(1.0, room / extent_.width());
+  const double width = extent_.width() * x_scale_;
+  text_left_ = std::max(left, std::min(Left(alignment(), box_, width), left + room - width));
+  // A little more than the text, for the smoothed edges of its letters.
+  const QRectF covered(text_left_ - 1, box_.top(), width + 2, box_.height());
+  setGeometry(text().isEmpty() ? box_ : box_.united(covered.toAlignedRect()));
+}
+
+void LabelWidget::LayOut() {
+  line_.setText(text());
+  line_.setFont(font());
+  line_.setTextOption(QTextOption(Qt::AlignLeft | Qt::AlignAbsolute));
+  line_.setCacheEnabled(true);
+  line_.beginLayout();
+  const QTextLine line = line_.createLine();
+  line_.endLayout();
+  // At least the advance, and more where glyphs stand out of it.
+  const QRectF ink = QFontMetricsF(font(), this).tightBoundingRect(text());
+  extent_ = ink.united(QRectF(0, ink.top(), line.naturalTextWidth(), ink.height()));
+}
+
+void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
+  if (text().isEmpty()) return;
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::WindowText));
+  const QTextLine line = line_.lineAt(0);
+  const double y_scale = std::min(1.0, height() / extent_.height());
+  const double box = height() / y_scale;
+  const double pixels = devicePixelRatioF();
+  const double base = std::round(BaseLine(line, extent_, box) * pixels) / pixels;
+  painter.scale(x_scale_, y_scale);
+  // A line's own place is in sixty-fourths, which would miss the whole pixel.
+  painter.translate(0, base);
+  line.draw(&painter, QPointF((text_left_ - x()) / x_scale_ - extent_.left(), -line.ascent()));
+}
+
+}  // namespace vamo

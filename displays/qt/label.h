@@ -1,0 +1,47 @@
+// The label on the screen.
+#ifndef VAMO_DISPLAYS_QT_LABEL_H_
+#define VAMO_DISPLAYS_QT_LABEL_H_
+
+#include <QLabel>
+#include <QRectF>
+#include <QTextLayout>
+
+#include "displays/qt/control.h"
+#include "toolkit/label.h"
+
+namespace vamo {
+
+// Draws a label's text in its box. What is too wide stands out of the box where nothing else is;
+// what is still too wide is drawn narrower, and nothing is cut off. What assistive technology needs
+// to know of it, QLabel tells.
+class LabelWidget : public WidgetFor<QLabel, Label> {
+ public:
+  LabelWidget(Label& label, QWidget& parent);
+
+  void SetBox(const QRect& box) override;
+
+ protected:
+  void ShowState() override;
+  void ShowLook() override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void LayOut();
+  // Finds the text's place and makes the widget as wide as it needs.
+  void Fit();
+
+  QRect box_;
+  // How far the text may stand out of the box at its left and its right; inwards where negative.
+  double room_left_ = 0;
+  double room_right_ = 0;
+  // The text, and what it covers from its starting point on the base line.
+  QTextLayout line_;
+  QRectF extent_;
+  // The text's left end in the window, and how much narrower than usual it is.
+  double text_left_ = 0;
+  double x_scale_ = 1;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_LABEL_H_

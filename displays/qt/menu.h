@@ -1,0 +1,24 @@
+// The menus on the screen.
+#ifndef VAMO_DISPLAYS_QT_MENU_H_
+#define VAMO_DISPLAYS_QT_MENU_H_
+
+#include <QMenuBar>
+
+#include "toolkit/menu_item.h"
+
+namespace vamo {
+
+// Whether there is one menu bar for all windows, at the edge of the screen.
+#ifdef Q_OS_MACOS
+inline constexpr bool kOneMenuBarOnScreen = true;
+#else
+inline constexpr bool kOneMenuBarOnScreen = false;
+#endif
+
+// Fills an empty bar with the menus to be drawn of a tree. The items' state is fetched each time
+// that a menu opens. On macOS Qt takes the items for the application menu there, by their roles.
+void FillMenuBar(QMenuBar& bar, const MenuBar& tree);
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_MENU_H_

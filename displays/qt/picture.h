@@ -1,0 +1,30 @@
+// An image from the application's resources.
+#ifndef VAMO_DISPLAYS_QT_PICTURE_H_
+#define VAMO_DISPLAYS_QT_PICTURE_H_
+
+#include <QImage>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+#include "toolkit/display.h"
+
+namespace vamo {
+
+// An image, decoded.
+class QtPicture : public DisplayPicture {
+ public:
+  explicit QtPicture(QImage image) : image_(std::move(image)) {}
+  const QImage& Image() const { return image_; }
+
+ private:
+  QImage image_;
+};
+
+// The image of that file name beside the program or among its installed resources; nil where there
+// is none, or only a damaged one. Says nothing to the user.
+std::shared_ptr<QtPicture> FindPicture(std::string_view file_name);
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_PICTURE_H_

@@ -1,0 +1,48 @@
+// The drawn controls on the screen: rectangle, canvas, and the control that shows nothing.
+#ifndef VAMO_DISPLAYS_QT_SHAPES_H_
+#define VAMO_DISPLAYS_QT_SHAPES_H_
+
+#include <QImage>
+#include <QWidget>
+
+#include "displays/qt/control.h"
+#include "toolkit/picture.h"
+#include "toolkit/rectangle.h"
+
+namespace vamo {
+
+// A control without anything to see.
+class BlankWidget : public WidgetFor<QWidget, RectControl> {
+ public:
+  using WidgetFor::WidgetFor;
+
+ protected:
+  void ShowState() override {}
+};
+
+// Draws a frame in two colours, with mitred corners, and what it encloses.
+class RectangleWidget : public WidgetFor<QWidget, Rectangle> {
+ public:
+  using WidgetFor::WidgetFor;
+
+ protected:
+  void ShowState() override { update(); }
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// Draws a picture over its whole area, as sharp as the screen allows.
+class CanvasWidget : public WidgetFor<QWidget, Canvas> {
+ public:
+  using WidgetFor::WidgetFor;
+
+ protected:
+  void ShowState() override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QImage scaled_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_SHAPES_H_

@@ -1,0 +1,28 @@
+// The voice of the program.
+#ifndef VAMO_DISPLAYS_QT_SPEAKER_H_
+#define VAMO_DISPLAYS_QT_SPEAKER_H_
+
+#include <QAccessible>
+#include <QString>
+#include <deque>
+
+namespace vamo {
+
+// Has a screen reader, where one is listening, speak sentences about the active window.
+class Speaker {
+ public:
+  Speaker() = default;
+  ~Speaker();
+  Speaker(const Speaker&) = delete;
+  Speaker& operator=(const Speaker&) = delete;
+
+  void Say(const QString& sentence);
+
+ private:
+  // The notices that stand for the last sentences, the oldest one first. Qt owns them.
+  std::deque<QAccessible::Id> notices_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_SPEAKER_H_

@@ -1,0 +1,115 @@
+// The text area on the screen.
+#include "displays/qt/text_area.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QTextBlock>
+#include <QTextCursor>
+
+#include "displays/qt/convert.h"
+#include "displays/qt/text_commands.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+namespace {
+
+// The text as the document takes it, character by character: a carriage return ends a paragraph,
+// and one before a line feed has no width, since the two are one line end.
+QString DocumentText(const std::string& utf8) {
+  constexpr char16_t kNoWidth = 0x200B;
+  QString text = ToQString(utf8);
+  text.replace(QStringLiteral("\r\n"), QString(QChar(kNoWidth)) + u'\n');
+  text.replace(u'\r', u'\n');
+  return text;
+}
+
+}  // namespace
+
+AreaWidget::AreaWidget(TextArea& area, QWidget& parent) : WidgetFor(area, parent) {
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  const auto report_selection = [this] {
+    if (IsUsersDoing()) ReportSelection();
+  };
+  connect(this, &QPlainTextEdit::selectionChanged, this, report_selection);
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, report_selection);
+}
+
+void AreaWidget::ShowLook() {
+  setFont(ToQFont(TheControl().Font(), Factor()));
+  document()->setDocumentMargin(Scaled(4, Factor()));
+  setCursorWidth(Scaled(1, Factor()));
+  ShowBorder();
+  ShowColours();
+}
+
+void AreaWidget::ShowState() {
+  const QString shown = DocumentText(TheControl().Text());
+  if (toPlainText() != shown) setPlainText(shown);
+  ShowSelection();
+}
+
+// Where a side lies outside of the window, the rest of the border would look like a mistake.
+void AreaWidget::ShowBorder() {
+  const TextArea& area = TheControl();
+  const Window::State& window = area.Window()->GetState();
+  const Bounds& bounds = area.Bounds();
+  const bool whole = bounds.left >= 0 && bounds.top >= 0 &&
+                     bounds.left + bounds.width <= window.width &&
+                     bounds.top + bounds.height <= window.height;
+  setLineWidth(Scaled(1, Factor()));
+  setFrameStyle(area.HasBorder() && whole ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+}
+
+void AreaWidget::ShowColours() {
+  QPalette colours = palette();
+  colours.setColor(QPalette::Text, ToQColor(TheControl().TextColor()));
+  colours.setColor(QPalette::Base, ToQColor(TheControl().BackgroundColor()));
+  colours.setColor(QPalette::WindowText, palette().color(QPalette::Mid));
+  // Qt paints with the inactive colours while the keys go elsewhere.
+  if (TheControl().HideSelection()) {
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, colours.color(QPalette::Base));
+    colours.setColor(QPalette::Inactive, QPalette::HighlightedText, colours.color(QPalette::Text));
+  }
+  if (colours != palette()) setPalette(colours);
+}
+
+void AreaWidget::ShowSelection() {
+  const auto [anchor, caret] = TheControl().GetSelection();
+  QTextCursor cursor = textCursor();
+  const int from = Utf16Position(TheControl().Text(), anchor);
+  const int to = Utf16Position(TheControl().Text(), caret);
+  if (cursor.anchor() == from && cursor.position() == to) return;
+  cursor.setPosition(from);
+  cursor.setPosition(to, QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+}
+
+void AreaWidget::ReportSelection() {
+  const QTextCursor cursor = textCursor();
+  TextArea& area = TheControl();
+  area.UserSelected(ByteOffset(area.Text(), cursor.anchor()),
+                    ByteOffset(area.Text(), cursor.position()));
+}
+
+void AreaWidget::keyPressEvent(QKeyEvent* event) {
+  if (GetControl() != nullptr && !DoEditKey(TheControl(), *event) && IsCaretKey(*event)) {
+    QPlainTextEdit::keyPressEvent(event);
+  }
+  event->accept();
+}
+
+void AreaWidget::contextMenuEvent(QContextMenuEvent* event) {
+  if (GetControl() == nullptr) return;
+  OpenTextMenu(*this, TheControl(), event->globalPos(), [this] { selectAll(); });
+}
+
+void AreaWidget::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  ReportFocus(event->reason());
+}
+
+}  // namespace vamo

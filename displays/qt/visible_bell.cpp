@@ -1,0 +1,49 @@
+// The system alert on a platform that has no sound for it.
+#include "displays/qt/visible_bell.h"
+
+#include <QColor>
+#include <QGuiApplication>
+#include <QStringList>
+#include <chrono>
+
+namespace vamo {
+namespace {
+
+constexpr std::chrono::milliseconds kDuration{150};
+// Text in black or in the colours of a selection stays legible on it.
+constexpr QColor kLight(0xff, 0xc0, 0x60);
+
+}  // namespace
+
+bool PlatformSoundsAlerts() {
+  const QStringList sounding{QStringLiteral("xcb"), QStringLiteral("windows"),
+                             QStringLiteral("cocoa")};
+  return sounding.contains(QGuiApplication::platformName());
+}
+
+VisibleBell::VisibleBell() {
+  timer_.setSingleShot(true);
+  QObject::connect(&timer_, &QTimer::timeout, [this] { End(); });
+}
+
+void VisibleBell::Flash(QWidget* widget) {
+  if (widget == nullptr) return;
+  timer_.start(kDuration);
+  if (lit_ == widget) return;
+  End();
+  lit_ = widget;
+  usual_colours_ = widget->palette();
+  QPalette lit_colours = usual_colours_;
+  // What a field, a knob and a groove are filled with.
+  for (const auto role : {QPalette::Base, QPalette::Button, QPalette::Window}) {
+    lit_colours.setColor(role, kLight);
+  }
+  widget->setPalette(lit_colours);
+}
+
+void VisibleBell::End() {
+  if (lit_ != nullptr) lit_->setPalette(usual_colours_);
+  lit_ = nullptr;
+}
+
+}  // namespace vamo

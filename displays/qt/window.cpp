@@ -1,0 +1,172 @@
+// A window on the screen.
+#include "displays/qt/window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+
+#include "displays/qt/convert.h"
+#include "displays/qt/menu.h"
+#include "displays/qt/placement.h"
+#include "toolkit/window.h"
+
+namespace vamo {
+namespace {
+
+Qt::WindowFlags Flags(const Window& window) {
+  // A dialog can stay in front of a window, and no desktop tiles it.
+  if (window.IsSplash()) return Qt::Dialog | Qt::FramelessWindowHint;
+  const Window::State& state = window.GetState();
+  Qt::WindowFlags flags =
+      Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+  flags.setFlag(Qt::WindowCloseButtonHint, state.has_close_button);
+  flags.setFlag(Qt::WindowMinimizeButtonHint, state.has_minimize_button);
+  // A window of a fixed size has nothing to maximise.
+  flags.setFlag(Qt::WindowMaximizeButtonHint, state.has_maximize_button && window.CanBeResized());
+  return flags;
+}
+
+int Maximum(std::int64_t length, int extra) {
+  if (length <= 0) return QWIDGETSIZE_MAX;
+  return std::min(ToInt(length), QWIDGETSIZE_MAX - extra) + extra;
+}
+
+}  // namespace
+
+WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
+    : QWidget(nullptr, Flags(window)),
+      window_(&window),
+      activation_(activation),
+      zoom_(zoom),
+      factor_(zoom.Factor()),
+      content_(new ContentWidget(*this)),
+      keys_(*this) {
+  setWindowTitle(ToQString(window.ListedTitle()));
+  setObjectName(ToQString(window.Class()->name));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(content_);
+  AddMenuBar();
+  SetSizes(DesignedSize());
+}
+
+void WindowWidget::AddMenuBar() {
+  if (!window_->MenuBar()) return;
+  menu_bar_ = new QMenuBar(this);
+  menu_bar_->setNativeMenuBar(kOneMenuBarOnScreen);
+  FillMenuBar(*menu_bar_, *window_->MenuBar());
+  layout()->setMenuBar(menu_bar_);
+}
+
+QSize WindowWidget::DesignedSize() const {
+  const Window::State& state = window_->GetState();
+  return {Scaled(state.width, Factor()), Scaled(state.height, Factor())};
+}
+
+void WindowWidget::SetSizes(const QSize& content) {
+  if (!window_->CanBeResized()) {
+    content_->setFixedSize(content);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    layout()->activate();
+    return;
+  }
+  const Window::State& state = window_->GetState();
+  const auto scaled = [this](std::int64_t length) { return Scaled(length, Factor()); };
+  const bool bar_above = menu_bar_ != nullptr && !kOneMenuBarOnScreen;
+  const int bar = bar_above ? menu_bar_->heightForWidth(content.width()) : 0;
+  content_->setMinimumSize(scaled(state.minimum_width), scaled(state.minimum_height));
+  layout()->activate();
+  setMaximumSize(Maximum(scaled(state.maximum_width), 0),
+                 Maximum(scaled(state.maximum_height), bar));
+  resize(content.width(), content.height() + bar);
+}
+
+void WindowWidget::Rescale() {
+  if (window_ == nullptr) return;
+  const double change = Factor() / std::exchange(factor_, Factor());
+  SetSizes(window_->CanBeResized() ? content_->size() * change : DesignedSize());
+  content_->Rescale();
+}
+
+QSize WindowWidget::SizeAt(double factor) const {
+  return (QSizeF(size()) * (factor / Factor())).toSize();
+}
+
+ControlWidget& WindowWidget::AddControl(RectControl& control) {
+  ControlWidget& widget = content_->AddControl(control);
+  keys_.Watch(widget.AsWidget());
+  return widget;
+}
+
+void WindowWidget::BringToFront() {
+  if (window_ != nullptr) Place(*this, window_->WhereToShow());
+  if (!isVisible()) just_placed_ = true;
+  ShowFocus();
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+  // Qt can take a window for active all through a quick Hide and Show, and then reports no change.
+  const bool has_keys = windowHandle() == QGuiApplication::focusWindow();
+  if (has_keys && !isActiveWindow()) QApplication::setActiveWindow(this);
+}
+
+void WindowWidget::TakeAway() {
+  QWindow* stays_with = windowHandle() == nullptr ? nullptr : windowHandle()->transientParent();
+  // Before it goes: a window manager that loses the active window may choose any other one.
+  if (stays_with != nullptr && isActiveWindow()) stays_with->requestActivate();
+  const QPoint at = pos();
+  hide();
+  move(at);
+}
+
+void WindowWidget::ShowFocus() {
+  if (window_ == nullptr) return;
+  const Ref<RectControl>& focus = window_->Focus();
+  QWidget* widget = focus ? content_->Find(&*focus) : nullptr;
+  if (widget == nullptr) widget = this;
+  if (widget->hasFocus()) return;
+  // It was not the mouse, so the style must show where the keys go.
+  if (isVisible()) setAttribute(Qt::WA_KeyboardFocusChange);
+  widget->setFocus(Qt::OtherFocusReason);
+}
+
+bool WindowWidget::event(QEvent* event) {
+  // By now the window manager has drawn its frame, or has itself chosen the place.
+  if (event->type() == QEvent::WindowActivate && std::exchange(just_placed_, false)) {
+    KeepOnScreen(*this);
+  }
+  if (event->type() == QEvent::WindowActivate) activation_.Activated(*this);
+  if (event->type() == QEvent::WindowDeactivate) activation_.Deactivated(*this);
+  return QWidget::event(event);
+}
+
+void WindowWidget::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (window_ != nullptr) window_->UserAskedToClose();
+}
+
+QtWindowView::QtWindowView(Window& window, Activation& activation, Zoom& zoom)
+    : activation_(activation), widget_(new WindowWidget(window, activation, zoom)) {}
+
+QtWindowView::~QtWindowView() {
+  if (widget_ == nullptr) return;
+  widget_->Detach();
+  widget_->hide();
+  // The view may go while one of its widgets still has an event to finish.
+  widget_->deleteLater();
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(RectControl& control) {
+  return std::make_unique<QtControlView>(widget_->AddControl(control));
+}
+
+void QtWindowView::Show() {
+  widget_->BringToFront();
+  activation_.Await(*widget_);
+}
+
+}  // namespace vamo

@@ -1,0 +1,86 @@
+// A window on the screen.
+#ifndef VAMO_DISPLAYS_QT_WINDOW_H_
+#define VAMO_DISPLAYS_QT_WINDOW_H_
+
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+
+#include "displays/qt/activation.h"
+#include "displays/qt/content.h"
+#include "displays/qt/keys.h"
+#include "displays/qt/zoom.h"
+#include "toolkit/display.h"
+
+class QMenuBar;
+
+namespace vamo {
+
+class Window;
+
+// The window of the desktop that shows a window of the toolkit: menu bar and content. It reports
+// activation and the wish to close, and never closes by itself. It may live a little longer than
+// the toolkit's window, out of sight, and does nothing then.
+class WindowWidget : public QWidget {
+ public:
+  WindowWidget(Window& window, Activation& activation, Zoom& zoom);
+
+  // Nil when the window's part on the display has been given up.
+  Window* GetWindow() const { return window_; }
+  void Detach() { window_ = nullptr; }
+
+  // How many times larger than designed the window is.
+  double Factor() const { return zoom_.Factor(); }
+  // Takes on a factor that has changed.
+  void Rescale();
+  // How large the window would be with another factor.
+  QSize SizeAt(double factor) const;
+  // The keys that make windows larger and smaller. False: it is another key.
+  bool TakeZoomKey(const QKeyEvent& event) { return zoom_.TakeKey(event); }
+
+  ControlWidget& AddControl(RectControl& control);
+  void BringToFront();
+  void TakeAway();
+  // Sends the keys where the toolkit has its focus.
+  void ShowFocus();
+
+ protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool focusNextPrevChild(bool /*next*/) override { return false; }
+
+ private:
+  void AddMenuBar();
+  QSize DesignedSize() const;
+  void SetSizes(const QSize& content);
+
+  Window* window_;
+  Activation& activation_;
+  Zoom& zoom_;
+  // The factor that the sizes have been set for.
+  double factor_;
+  ContentWidget* content_;
+  KeyRoad keys_;
+  QMenuBar* menu_bar_ = nullptr;
+  bool just_placed_ = false;
+};
+
+// A window's end of its widget, which it owns.
+class QtWindowView : public WindowView {
+ public:
+  QtWindowView(Window& window, Activation& activation, Zoom& zoom);
+  ~QtWindowView() override;
+
+  std::unique_ptr<ControlView> CreateControl(RectControl& control) override;
+  void Show() override;
+  void Hide() override { widget_->TakeAway(); }
+  void UpdateFocus() override { widget_->ShowFocus(); }
+
+ private:
+  Activation& activation_;
+  QPointer<WindowWidget> widget_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_WINDOW_H_

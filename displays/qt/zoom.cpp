@@ -1,0 +1,97 @@
+// How large the windows are.
+#include "displays/qt/zoom.h"
+
+#include <QApplication>
+#include <algorithm>
+#include <vector>
+
+#include "displays/qt/placement.h"
+#include "displays/qt/style.h"
+#include "displays/qt/window.h"
+
+namespace vamo {
+namespace {
+
+constexpr std::array kFactors{1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0, 3.5, 4.0, 5.0, 6.0, 8.0};
+
+std::vector<WindowWidget*> AllWindows() {
+  std::vector<WindowWidget*> windows;
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (auto* window = dynamic_cast<WindowWidget*>(widget)) windows.push_back(window);
+  }
+  return windows;
+}
+
+bool FitsTheScreen(double factor) {
+  const std::vector<WindowWidget*> windows = AllWindows();
+  return std::all_of(windows.begin(), windows.end(), [&](WindowWidget* window) {
+    return !window->isVisible() || RoomFor(*window, window->SizeAt(factor));
+  });
+}
+
+QFont Enlarged(QFont font, double factor) {
+  if (font.pixelSize() > 0) {
+    font.setPixelSize(qRound(font.pixelSize() * factor));
+  } else {
+    font.setPointSizeF(font.pointSizeF() * factor);
+  }
+  return font;
+}
+
+// For all widgets of a class. Qt itself tells only some of those that are there already.
+void SetFont(const QFont& font, const char* widgets) {
+  QApplication::setFont(font, widgets);
+  for (QWidget* widget : QApplication::allWidgets()) {
+    if (widget->inherits(widgets)) widget->setFont(font);
+  }
+}
+
+}  // namespace
+
+Zoom::Zoom()
+    : fonts_{{{"QMenuBar", QApplication::font("QMenuBar")},
+              {"QMenu", QApplication::font("QMenu")},
+              {"QTipLabel", QApplication::font("QTipLabel")}}} {}
+
+bool Zoom::TakeKey(const QKeyEvent& event) {
+  const auto held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  if (held != Qt::ControlModifier) return false;
+  switch (event.key()) {
+    case Qt::Key_Plus:
+    // What many keyboards have where the plus needs the shift key.
+    case Qt::Key_Equal:
+      Step(/*up=*/true);
+      return true;
+    case Qt::Key_Minus:
+      Step(/*up=*/false);
+      return true;
+    case Qt::Key_0:
+      Set(1);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void Zoom::Step(bool up) {
+  const auto* present = std::find(kFactors.begin(), kFactors.end(), factor_);
+  if (!up && present != kFactors.begin()) Set(*(present - 1));
+  const auto* larger = present + 1;
+  if (up && larger != kFactors.end() && FitsTheScreen(*larger)) Set(*larger);
+}
+
+void Zoom::Set(double factor) {
+  if (factor == factor_) return;
+  factor_ = factor;
+  if (auto* style = dynamic_cast<OutlinedStyle*>(QApplication::style())) style->SetFactor(factor);
+  for (const PlatformFont& font : fonts_) {
+    SetFont(Enlarged(font.designed, factor), font.widgets);
+  }
+  for (WindowWidget* window : AllWindows()) {
+    const QPoint middle = window->frameGeometry().center();
+    window->Rescale();
+    if (window->isVisible()) MoveMiddle(*window, middle);
+  }
+}
+
+}  // namespace vamo

@@ -1,0 +1,39 @@
+// How large the windows are.
+#ifndef VAMO_DISPLAYS_QT_ZOOM_H_
+#define VAMO_DISPLAYS_QT_ZOOM_H_
+
+#include <QFont>
+#include <QKeyEvent>
+#include <array>
+
+namespace vamo {
+
+// How many times larger than designed all windows are, and the keys that change it. It is for the
+// back row of a class, and forgotten when the program ends. The toolkit knows nothing of it.
+class Zoom {
+ public:
+  Zoom();
+
+  double Factor() const { return factor_; }
+
+  // The command key with plus, minus or 0 makes all windows larger, smaller, or as designed: never
+  // smaller than that, nor larger than the screen. False: it is another key.
+  bool TakeKey(const QKeyEvent& event);
+
+ private:
+  struct PlatformFont {
+    const char* widgets;
+    QFont designed;
+  };
+
+  void Step(bool up);
+  void Set(double factor);
+
+  double factor_ = 1;
+  // Of what the toolkit names no font for.
+  std::array<PlatformFont, 3> fonts_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_QT_ZOOM_H_
