@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "shell/version.h"
+
 namespace vamo {
 
 // One line, for the About window and the version data.
@@ -16,7 +18,8 @@ inline constexpr std::string_view kTerms =
     "passed on free of charge, to anyone and in any number of copies, as long as the notice stays "
     "with it unchanged. All other rights are reserved.";
 inline constexpr std::string_view kCitation =
-    "Please cite as: Orrin, H. Q. (2026). Vamo (Version 3.0) [Computer software].";
+    "Please cite as: Orrin, H. Q. (2026). Vamo (Version " VAMO_SHORT_VERSION
+    ") [Computer software].";
 
 }  // namespace vamo
 

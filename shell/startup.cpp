@@ -11,6 +11,7 @@
 #include "shell/handle_about_menu.h"
 #include "shell/menu.h"
 #include "shell/rights.h"
+#include "shell/version.h"
 #include "toolkit/delegate.h"
 #include "toolkit/runtime.h"
 
@@ -46,11 +47,11 @@ void _InitFileTypes() { FileTypes::_Initialize(); }
 
 // The menu bar is there before the object is registered, and App works from the registration on.
 void _NewAppInstance() {
-  constexpr std::int64_t kMajor = 3;
   constexpr std::int64_t kFinalStage = 3;
   const Ref<HandleAboutMenu> app = New<HandleAboutMenu>();
   app->Constructor();
-  app->_x_SetVersionData(kMajor, 0, 0, 0, kFinalStage, kRightsNotice, "3.0", "Vamo");
+  app->_x_SetVersionData(VAMO_MAJOR_VERSION, VAMO_MINOR_VERSION, VAMO_BUG_VERSION, 0, kFinalStage,
+                         kRightsNotice, VAMO_SHORT_VERSION, "Vamo");
   app->SetMenuBar(Menu());
   _RuntimeRegisterAppObject(app);
 }

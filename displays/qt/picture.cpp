@@ -12,7 +12,7 @@ namespace vamo {
 namespace {
 
 // Where a build, an installation and a macOS bundle have the resources, from the program's folder.
-constexpr std::array kFolders{".", "../share/vamo", "../Resources"};
+constexpr std::array kFolders{".", VAMO_RESOURCES_FROM_PROGRAM, "../Resources"};
 
 bool complained = false;
 QtMessageHandler usual_handler = nullptr;
