@@ -71,6 +71,9 @@ TEST_F(AccessorsTest, BothWindowsShowTheOnePicture) {
 TEST_F(AccessorsTest, AClassThatIsNoneOfTheObjectsHandlesNoEvent) {
   EXPECT_TRUE(_RuntimeIsEventHandled(*window_, "ControlWnd.ControlWnd", "Layout", true));
   EXPECT_FALSE(_RuntimeIsEventHandled(*window_, "InfoWnd.InfoWnd", "Layout", true));
+  // The base implements no event, the class that is derived from it does.
+  EXPECT_FALSE(_RuntimeIsEventHandled(*window_, "Window", "Layout", false));
+  EXPECT_TRUE(_RuntimeIsEventHandled(*window_, "ControlWnd.ControlWnd", "Layout", false));
 }
 
 }  // namespace

@@ -3,7 +3,9 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QDropEvent>
+#include <QImage>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -114,6 +116,28 @@ TEST(QtDisplayTest, ABeepIsSeenWhereNothingSounds) {
     user.Wait(std::chrono::milliseconds(300));
     EXPECT_EQ(field.palette(), usual);
     EXPECT_EQ(user.Beeps(), 2);
+  });
+}
+
+TEST(QtDisplayTest, APasteOfNoTextLeavesTheSelectionAlone) {
+  InControlWindow([](User& user) {
+    user.Type("5");
+    user.PressKey(Key::Command("a"));
+    QGuiApplication::clipboard()->clear();
+    user.PressKey(Key::Command("v"));
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".5");
+    QGuiApplication::clipboard()->setImage(QImage(4, 4, QImage::Format_RGB32));
+    user.PressKey(Key::Command("v"));
+    EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, ".5");
+  });
+}
+
+TEST(QtDisplayTest, AMinimisedWindowStaysSoWhenTheSplashsTimerFires) {
+  InControlWindow([](User& user) {
+    QWidget& window = *QApplication::activeWindow();
+    window.showMinimized();
+    user.Wait(std::chrono::milliseconds(4500));
+    EXPECT_TRUE(window.isMinimized());
   });
 }
 

@@ -81,6 +81,11 @@ TEST(QtLooksTest, TheInfoTextsSelectionShowsOnlyWhileItsWindowIsActive) {
     EXPECT_FALSE(ShowsHighlight(info));
     user.ActivateWindow("Info");
     EXPECT_TRUE(ShowsHighlight(info));
+    QMenu& menu = *info.findChild<QMenu*>();
+    menu.popup(info.mapToGlobal(QPoint(10, 300)));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(ShowsHighlight(info)) << "under a menu of its own";
+    menu.hide();
   });
 }
 

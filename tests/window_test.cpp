@@ -37,6 +37,7 @@ TEST(WindowTest, AWindowThatIsHeldPastTheEndHasNothingOnTheDisplay) {
     held = ImplicitInstance<TestWindow>();
   }
   EXPECT_FALSE(held->IsLive());
+  held->Hide();
   held->field()->SetText("nobody shows it");
   EXPECT_EQ(&Runtime::Current(), &outer.runtime()) << "the former run time is the current one";
 }

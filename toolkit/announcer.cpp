@@ -18,6 +18,7 @@ constexpr int kQuietPeriods = 6;
 }  // namespace
 
 void Announcer::LabelChanged(Announced when) {
+  if (!window_.IsLive()) return;
   if (when == Announced::kAtOnce) return Say(when);
   quiet_periods_ = 0;
   if (timer_ != nullptr) return;

@@ -10,9 +10,9 @@
 
 namespace vamo {
 
-// Tells who listens to a window of its labels that have changed, which a screen reader passes over
-// since they never have the keys: results together once they have come to rest, a warning at once.
-// It says what shows, never the same twice running, and only while the window is the active one.
+// Tells a screen reader which of a window's labels have changed, which it would pass over, since
+// they never have the keys: results together once they have come to rest, a warning at once. It
+// says what shows, never the same twice running, and only while the window is the active one.
 class Announcer {
  public:
   // `window` outlives it.

@@ -107,7 +107,12 @@ void TextEdit::Copy() {
     Runtime::Current().GetDisplay().SetClipboardText(WithLineBreaksAs('\n', TextToCopy()));
 }
 
-void TextEdit::Paste() { UserPasted(Runtime::Current().GetDisplay().ClipboardText()); }
+// A clipboard that may have held text can turn out to hold none, which is to cost no selection.
+void TextEdit::Paste() {
+  if (!CanPaste()) return;
+  const std::string text = Runtime::Current().GetDisplay().ClipboardText();
+  if (!text.empty()) UserPasted(text);
+}
 
 void TextEdit::UserSelected(std::size_t anchor, std::size_t caret) {
   const Selection selected{CharacterBoundary(text_, anchor), CharacterBoundary(text_, caret)};

@@ -137,7 +137,7 @@ class TextArea : public TextEdit {
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  // Whether the selection shows only while the area has the keys.
+  // Whether the selection shows only while the window is the active one.
   bool HideSelection() const { return hide_selection_; }
 
  protected:

@@ -100,7 +100,6 @@ void Window::Close() {
   const Ref<Window> self = Self(this);
   Event_Close();
   UserDeactivated();
-  visible_ = false;
   TakeOffDisplay();
   Runtime& runtime = Runtime::Current();
   runtime.RemoveLiveWindow(*this);
@@ -115,6 +114,7 @@ void Window::TakeOffDisplay() {
     if (auto* timer = dynamic_cast<Timer*>(object)) timer->Stop();
     if (auto* control = dynamic_cast<RectControl*>(object)) control->ReleaseView();
   }
+  visible_ = false;
   announcer_.Stop();
   view_ = nullptr;
 }

@@ -12,8 +12,7 @@
 namespace vamo {
 
 // Draws a label's text in its box. What is too wide stands out of the box where nothing else is;
-// what is still too wide is drawn narrower, and nothing is cut off. What assistive technology needs
-// to know of it, QLabel tells.
+// what is still too wide is drawn narrower, and nothing is cut off.
 class LabelWidget : public WidgetFor<QLabel, Label> {
  public:
   LabelWidget(Label& label, QWidget& parent);

@@ -69,11 +69,14 @@ void AreaWidget::ShowColours() {
   colours.setColor(QPalette::Text, ToQColor(TheControl().TextColor()));
   colours.setColor(QPalette::Base, ToQColor(TheControl().BackgroundColor()));
   colours.setColor(QPalette::WindowText, palette().color(QPalette::Mid));
-  // Qt paints with the inactive colours while the keys go elsewhere.
-  if (TheControl().HideSelection()) {
-    colours.setColor(QPalette::Inactive, QPalette::Highlight, colours.color(QPalette::Base));
-    colours.setColor(QPalette::Inactive, QPalette::HighlightedText, colours.color(QPalette::Text));
-  }
+  // Qt paints with the inactive colours while the keys go elsewhere, to a menu of this window too.
+  const bool hidden = TheControl().HideSelection() && !isActiveWindow();
+  const auto shown_as = [&](QPalette::ColorRole usual, QPalette::ColorRole unmarked) {
+    colours.setColor(QPalette::Inactive, usual,
+                     colours.color(QPalette::Active, hidden ? unmarked : usual));
+  };
+  shown_as(QPalette::Highlight, QPalette::Base);
+  shown_as(QPalette::HighlightedText, QPalette::Text);
   if (colours != palette()) setPalette(colours);
 }
 
@@ -93,6 +96,14 @@ void AreaWidget::ReportSelection() {
   TextArea& area = TheControl();
   area.UserSelected(ByteOffset(area.Text(), cursor.anchor()),
                     ByteOffset(area.Text(), cursor.position()));
+}
+
+bool AreaWidget::event(QEvent* event) {
+  const bool turned =
+      event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
+  const bool done = QPlainTextEdit::event(event);
+  if (turned && GetControl() != nullptr) ShowColours();
+  return done;
 }
 
 void AreaWidget::keyPressEvent(QKeyEvent* event) {

@@ -15,6 +15,7 @@ class AreaWidget : public WidgetFor<QPlainTextEdit, TextArea> {
   AreaWidget(TextArea& area, QWidget& parent);
 
  protected:
+  bool event(QEvent* event) override;
   void ShowState() override;
   void ShowLook() override;
   void keyPressEvent(QKeyEvent* event) override;
