@@ -16,41 +16,22 @@
 
 namespace vamo {
 
-class PushButton;
-class Slider;
-class TextField;
-class Timer;
-
-// The name that a type bears in a delegate's signature.
+// The name that a type bears in a delegate's signature: of a reference that of its class.
 template <class T>
-struct TypeText;
+struct TypeText {
+  static std::string_view Get() { return T::Target::kClass.name; }
+};
 template <>
 struct TypeText<bool> {
-  static constexpr std::string_view kText = "Boolean";
+  static std::string_view Get() { return "Boolean"; }
 };
 template <>
 struct TypeText<std::int64_t> {
-  static constexpr std::string_view kText = "Integer";
+  static std::string_view Get() { return "Integer"; }
 };
 template <>
 struct TypeText<std::string> {
-  static constexpr std::string_view kText = "String";
-};
-template <>
-struct TypeText<Ref<PushButton>> {
-  static constexpr std::string_view kText = "PushButton";
-};
-template <>
-struct TypeText<Ref<Slider>> {
-  static constexpr std::string_view kText = "Slider";
-};
-template <>
-struct TypeText<Ref<TextField>> {
-  static constexpr std::string_view kText = "TextField";
-};
-template <>
-struct TypeText<Ref<Timer>> {
-  static constexpr std::string_view kText = "Timer";
+  static std::string_view Get() { return "String"; }
 };
 
 // Whether a delegate keeps its receiver alive.
@@ -103,9 +84,9 @@ class Delegate<Result(Arguments...)> {
   // The signature as a text, such as "( TextField, String ) as Boolean"; "(  )" for none of either.
   static std::string Signature() {
     std::string text;
-    ((text += (text.empty() ? "" : ", "), text += TypeText<Arguments>::kText), ...);
+    ((text += (text.empty() ? "" : ", "), text += TypeText<Arguments>::Get()), ...);
     text = "( " + text + " )";
-    if constexpr (!std::is_void_v<Result>) (text += " as ") += TypeText<Result>::kText;
+    if constexpr (!std::is_void_v<Result>) (text += " as ") += TypeText<Result>::Get();
     return text;
   }
 
