@@ -57,10 +57,6 @@ struct Bounds {
   std::int64_t top = 0;
   std::int64_t width = 0;
   std::int64_t height = 0;
-
-  bool Contains(std::int64_t x, std::int64_t y) const {
-    return x >= left && x < left + width && y >= top && y < top + height;
-  }
 };
 
 // Whether and when a change of a label is announced: together with others once they have come to

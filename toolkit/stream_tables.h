@@ -28,10 +28,7 @@ struct WindowRow {
 };
 
 // Which sides keep their distance to the window's.
-struct LockRow {
-  bool left, top, right, bottom;
-};
-inline constexpr LockRow kAllLocked{true, true, true, true};
+inline constexpr RectControl::Locks kAllLocked{true, true, true, true};
 
 // What every visible control begins with.
 struct PlaceRow {
@@ -40,7 +37,7 @@ struct PlaceRow {
   std::int64_t tab_index;
   // The name of the control that this one lies in; empty for the window itself.
   std::string_view parent = {};
-  LockRow locks = kAllLocked;
+  RectControl::Locks locks = kAllLocked;
 };
 
 struct LabelRow {

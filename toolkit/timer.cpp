@@ -37,7 +37,6 @@ void Timer::Reset() {
 
 void Timer::_CallAction() {
   const auto act = [this, self = Self(this)] {
-    if (run_mode_ == RunMode::kOff) return;
     if (run_mode_ == RunMode::kSingle) Stop();
     if (Action) Action.Invoke(self);
   };
