@@ -44,28 +44,28 @@ class ControlWnd : public Window {
   virtual void _CreateControls0();
 
   // The controls. Each accessor raises IllegalCastException for a control of another class.
-  virtual Ref<TextField> rEdit();
-  virtual Ref<TextField> nEdit();
-  virtual Ref<Rectangle> Rectangle2();
-  virtual Ref<Canvas> Canvas3();
-  virtual Ref<Label> StaticText4();
-  virtual Ref<Label> StaticText9();
-  virtual Ref<Rectangle> Rectangle1();
-  virtual Ref<Slider> rSlider();
-  virtual Ref<Slider> nSlider();
-  virtual Ref<Label> StaticText2();
-  virtual Ref<Label> StaticText3();
-  virtual Ref<Label> nText();
-  virtual Ref<Label> StaticText8();
-  virtual Ref<TextField> zFld();
-  virtual Ref<PushButton> Qbtn();
-  virtual Ref<Rectangle> Rectangle3();
-  virtual Ref<Label> StaticText5();
-  virtual Ref<Label> StaticText1();
-  virtual Ref<Label> pText();
-  virtual Ref<Label> StaticText7();
-  virtual Ref<Label> ciText();
-  virtual Ref<Label> tText();
+  virtual Ref<TextField> rEdit() { return ControlNamed<TextField>("rEdit"); }
+  virtual Ref<TextField> nEdit() { return ControlNamed<TextField>("nEdit"); }
+  virtual Ref<Rectangle> Rectangle2() { return ControlNamed<Rectangle>("Rectangle2"); }
+  virtual Ref<Canvas> Canvas3() { return ControlNamed<Canvas>("Canvas3"); }
+  virtual Ref<Label> StaticText4() { return ControlNamed<Label>("StaticText4"); }
+  virtual Ref<Label> StaticText9() { return ControlNamed<Label>("StaticText9"); }
+  virtual Ref<Rectangle> Rectangle1() { return ControlNamed<Rectangle>("Rectangle1"); }
+  virtual Ref<Slider> rSlider() { return ControlNamed<Slider>("rSlider"); }
+  virtual Ref<Slider> nSlider() { return ControlNamed<Slider>("nSlider"); }
+  virtual Ref<Label> StaticText2() { return ControlNamed<Label>("StaticText2"); }
+  virtual Ref<Label> StaticText3() { return ControlNamed<Label>("StaticText3"); }
+  virtual Ref<Label> nText() { return ControlNamed<Label>("nText"); }
+  virtual Ref<Label> StaticText8() { return ControlNamed<Label>("StaticText8"); }
+  virtual Ref<TextField> zFld() { return ControlNamed<TextField>("zFld"); }
+  virtual Ref<PushButton> Qbtn() { return ControlNamed<PushButton>("Qbtn"); }
+  virtual Ref<Rectangle> Rectangle3() { return ControlNamed<Rectangle>("Rectangle3"); }
+  virtual Ref<Label> StaticText5() { return ControlNamed<Label>("StaticText5"); }
+  virtual Ref<Label> StaticText1() { return ControlNamed<Label>("StaticText1"); }
+  virtual Ref<Label> pText() { return ControlNamed<Label>("pText"); }
+  virtual Ref<Label> StaticText7() { return ControlNamed<Label>("StaticText7"); }
+  virtual Ref<Label> ciText() { return ControlNamed<Label>("ciText"); }
+  virtual Ref<Label> tText() { return ControlNamed<Label>("tText"); }
 
   // What the fields, the sliders and the button do.
   virtual void rEdit_TextChange(Ref<TextField> sender);

@@ -4,7 +4,6 @@
 
 #include "controlwnd/chart_small.h"
 #include "controlwnd/control_wnd.h"
-#include "toolkit/events.h"
 #include "toolkit/stream_tables.h"
 
 namespace vamo {
@@ -175,10 +174,12 @@ void Create(Window& window, std::string_view name, PropertyStream stream) {
   _SetProperties(*window.ControlNamed<ControlClass>(name), stream);
 }
 
+constexpr std::string_view kEvents[] = {"Activate", "Close", "CreateControls", "EnableMenuItems",
+                                        "Layout"};
+
 }  // namespace
 
-constinit const ClassInfo ControlWnd::kClass{
-    "ControlWnd.ControlWnd", &Window::kClass, {}, ImplementsWindowEvent<class ControlWnd>};
+constinit const ClassInfo ControlWnd::kClass{"ControlWnd.ControlWnd", &Window::kClass, {}, kEvents};
 
 void ControlWnd::Layout() {
   SetMenuBar(Menu());
@@ -224,28 +225,5 @@ void ControlWnd::_CreateControls0() {
 }
 
 std::span<const AccessibleText> ControlWnd::AccessibleTexts() const { return kAccessibleTexts; }
-
-Ref<TextField> ControlWnd::rEdit() { return ControlNamed<TextField>("rEdit"); }
-Ref<TextField> ControlWnd::nEdit() { return ControlNamed<TextField>("nEdit"); }
-Ref<Rectangle> ControlWnd::Rectangle2() { return ControlNamed<Rectangle>("Rectangle2"); }
-Ref<Canvas> ControlWnd::Canvas3() { return ControlNamed<Canvas>("Canvas3"); }
-Ref<Label> ControlWnd::StaticText4() { return ControlNamed<Label>("StaticText4"); }
-Ref<Label> ControlWnd::StaticText9() { return ControlNamed<Label>("StaticText9"); }
-Ref<Rectangle> ControlWnd::Rectangle1() { return ControlNamed<Rectangle>("Rectangle1"); }
-Ref<Slider> ControlWnd::rSlider() { return ControlNamed<Slider>("rSlider"); }
-Ref<Slider> ControlWnd::nSlider() { return ControlNamed<Slider>("nSlider"); }
-Ref<Label> ControlWnd::StaticText2() { return ControlNamed<Label>("StaticText2"); }
-Ref<Label> ControlWnd::StaticText3() { return ControlNamed<Label>("StaticText3"); }
-Ref<Label> ControlWnd::nText() { return ControlNamed<Label>("nText"); }
-Ref<Label> ControlWnd::StaticText8() { return ControlNamed<Label>("StaticText8"); }
-Ref<TextField> ControlWnd::zFld() { return ControlNamed<TextField>("zFld"); }
-Ref<PushButton> ControlWnd::Qbtn() { return ControlNamed<PushButton>("Qbtn"); }
-Ref<Rectangle> ControlWnd::Rectangle3() { return ControlNamed<Rectangle>("Rectangle3"); }
-Ref<Label> ControlWnd::StaticText5() { return ControlNamed<Label>("StaticText5"); }
-Ref<Label> ControlWnd::StaticText1() { return ControlNamed<Label>("StaticText1"); }
-Ref<Label> ControlWnd::pText() { return ControlNamed<Label>("pText"); }
-Ref<Label> ControlWnd::StaticText7() { return ControlNamed<Label>("StaticText7"); }
-Ref<Label> ControlWnd::ciText() { return ControlNamed<Label>("ciText"); }
-Ref<Label> ControlWnd::tText() { return ControlNamed<Label>("tText"); }
 
 }  // namespace vamo

@@ -3,7 +3,6 @@
 
 #include "controlwnd/chart_small.h"
 #include "shell/rights.h"
-#include "toolkit/events.h"
 #include "toolkit/runtime.h"
 #include "toolkit/stream_tables.h"
 
@@ -48,10 +47,11 @@ void HandOver() {
   ControlWnd()->Show();
 }
 
+constexpr std::string_view kEvents[] = {"CreateControls", "KeyDown", "Layout", "MouseDown"};
+
 }  // namespace
 
-constinit const ClassInfo AboutWnd::kClass{
-    "AboutWnd.AboutWnd", &Window::kClass, {}, ImplementsWindowEvent<class AboutWnd>};
+constinit const ClassInfo AboutWnd::kClass{"AboutWnd.AboutWnd", &Window::kClass, {}, kEvents};
 
 bool AboutWnd::IsEventImplemented(std::string_view event) const {
   return _RuntimeIsEventHandled(*this, "AboutWnd.AboutWnd", event, /*user=*/true);

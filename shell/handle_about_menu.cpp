@@ -2,13 +2,16 @@
 #include "shell/handle_about_menu.h"
 
 #include "controlwnd/accessors.h"
-#include "toolkit/events.h"
 #include "toolkit/runtime.h"
 
 namespace vamo {
+namespace {
 
-constinit const ClassInfo HandleAboutMenu::kClass{
-    "HandleAboutMenu", nullptr, {}, ImplementsApplicationEvent<HandleAboutMenu>};
+constexpr std::string_view kEvents[] = {"EnableMenuItems"};
+
+}  // namespace
+
+constinit const ClassInfo HandleAboutMenu::kClass{"HandleAboutMenu", nullptr, {}, kEvents};
 
 Ref<HandleAboutMenu> App() { return Cast<HandleAboutMenu>(_GetAppObject()); }
 

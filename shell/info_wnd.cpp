@@ -5,7 +5,6 @@
 #include <cstddef>
 
 #include "shell/rights.h"
-#include "toolkit/events.h"
 #include "toolkit/runtime.h"
 #include "toolkit/stream_tables.h"
 
@@ -62,10 +61,11 @@ constexpr std::array kAccessibleTexts{AccessibleText{"StaticText1", "Info", "", 
 static_assert(kText.size() == 911);
 static_assert(kStaticText1.Length() == 1592);
 
+constexpr std::string_view kEvents[] = {"CreateControls", "EnableMenuItems", "Layout"};
+
 }  // namespace
 
-constinit const ClassInfo InfoWnd::kClass{
-    "InfoWnd.InfoWnd", &Window::kClass, {}, ImplementsWindowEvent<class InfoWnd>};
+constinit const ClassInfo InfoWnd::kClass{"InfoWnd.InfoWnd", &Window::kClass, {}, kEvents};
 
 bool InfoWnd::IsEventImplemented(std::string_view event) const {
   return _RuntimeIsEventHandled(*this, "InfoWnd.InfoWnd", event, /*user=*/true);

@@ -46,8 +46,8 @@ struct ClassInfo {
   std::string_view name;
   const ClassInfo* base = nullptr;
   std::span<const Property> properties;
-  // Whether the class implements the event of that name; nil for a class without events.
-  bool (*implements)(std::string_view event) = nullptr;
+  // The events that the class implements.
+  std::span<const std::string_view> events = {};
 
   // The property of that name in the class or in one of its bases; nil where there is none.
   const Property* Find(std::string_view property) const;

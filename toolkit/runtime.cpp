@@ -133,7 +133,8 @@ bool _RuntimeIsEventHandled(const Object& object, std::string_view class_name,
   const ClassInfo* info = object.Class();
   while (info != nullptr && info->name != class_name) info = info->base;
   for (; info != nullptr; info = user ? nullptr : info->base) {
-    if (info->implements != nullptr && info->implements(event)) return true;
+    if (std::find(info->events.begin(), info->events.end(), event) != info->events.end())
+      return true;
   }
   return false;
 }
