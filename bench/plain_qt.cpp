@@ -6,10 +6,10 @@
 #include <QTimer>
 #include <memory>
 
+#include "displays/qt/start.h"
 #include "plain_widgets.h"
 #include "plain_window.h"
 #include "probe.h"
-#include "displays/qt/start.h"
 #include "shell/rights.h"
 
 namespace vamo {

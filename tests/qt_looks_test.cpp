@@ -276,7 +276,7 @@ TEST(QtLooksTest, AWindowThatIsResizedStretchesItsControls) {
     MakeWindowsLarger(user, 4);
     const Ref<ElasticWindow> elastic = New<ElasticWindow>();
     elastic->Constructor();
-    user.Wait(std::chrono::milliseconds(0));
+    user.LetTimePass(std::chrono::milliseconds(0));
     QWidget& window = *QApplication::activeWindow();
     EXPECT_EQ(window.size(), QSize(600, 400));
     window.resize(720, 500);

@@ -1,82 +1,94 @@
 // The user of the Qt display, in the program's own process: sends events through Qt's queue and
 // reads what a screen reader reads.
 #include <QAccessible>
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QElapsedTimer>
-#include <QMenuBar>
+#include <QKeySequence>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWindow>
-#include <algorithm>
 #include <cmath>
 #include <map>
 #include <memory>
 
 #include "displays/qt/display.h"
-#include "qt_input.h"
+#include "journeys/journey_steps.h"
+#include "screen_user.h"
 #include "shell/startup.h"
-#include "toolkit/exceptions.h"
-#include "toolkit/utf8.h"
-#include "user.h"
 
 namespace vamo {
 namespace {
 
-// The role of an accessible, or nothing for one that a user has no business with.
-std::optional<Role> RoleOf(QAccessibleInterface& accessible) {
-  switch (accessible.role()) {
-    case QAccessible::EditableText:
-      return Role::kText;
-    case QAccessible::Slider:
-      return Role::kSlider;
-    case QAccessible::Button:
-      return Role::kButton;
-    case QAccessible::StaticText:
-      return Role::kLabel;
-    default:
-      return std::nullopt;
+// An accessible element of the program, by the names that the bus of assistive technology has.
+class QtElement {
+ public:
+  explicit QtElement(QAccessibleInterface* accessible) : accessible_(accessible) {}
+
+  std::string RoleName() const {
+    static const std::map<QAccessible::Role, std::string> kNames{
+        {QAccessible::EditableText, "text"},  {QAccessible::Slider, "slider"},
+        {QAccessible::Button, "push button"}, {QAccessible::StaticText, "label"},
+        {QAccessible::Window, "frame"},       {QAccessible::MenuBar, "menu bar"},
+        {QAccessible::MenuItem, "menu item"},
+    };
+    const auto found = kNames.find(accessible_->role());
+    return found == kNames.end() ? "" : found->second;
   }
-}
-
-std::string Text(QAccessibleInterface& accessible, QAccessible::Text which) {
-  return accessible.text(which).toStdString();
-}
-
-// A value of a slider, counted in its steps.
-std::int64_t InSteps(const QAccessibleValueInterface& slider, double value) {
-  return std::llround(value / slider.minimumStepSize().toDouble());
-}
-
-ShownControl Read(QAccessibleInterface& accessible) {
-  ShownControl shown;
-  shown.role = RoleOf(accessible).value_or(Role::kLabel);
-  shown.name = Text(accessible, QAccessible::Name);
-  shown.description = Text(accessible, QAccessible::Description);
-  shown.visible = !accessible.state().invisible;
-  shown.enabled = !accessible.state().disabled;
-  shown.text = shown.role == Role::kLabel ? shown.name : Text(accessible, QAccessible::Value);
-  if (auto* value = accessible.valueInterface()) {
-    shown.value = value->currentValue().toDouble();
-    shown.position = InSteps(*value, shown.value);
+  std::string Name() const { return Told(QAccessible::Name); }
+  std::string Description() const { return Told(QAccessible::Description); }
+  std::vector<QtElement> Children() const {
+    std::vector<QtElement> children;
+    for (int i = 0; i < accessible_->childCount(); ++i) {
+      if (QAccessibleInterface* child = accessible_->child(i)) children.emplace_back(child);
+    }
+    return children;
   }
-  if (auto* text = accessible.textInterface()) {
-    shown.text = text->text(0, text->characterCount()).toStdString();
+  bool IsShowing() const { return !accessible_->state().invisible; }
+  bool IsEnabled() const { return !accessible_->state().disabled; }
+  bool IsFocused() const { return accessible_->state().focused; }
+  bool IsActive() const { return accessible_->state().active; }
+  std::string Text() const {
+    QAccessibleTextInterface* text = accessible_->textInterface();
+    if (text != nullptr) return text->text(0, text->characterCount()).toStdString();
+    return accessible_->valueInterface() != nullptr ? Told(QAccessible::Value) : Name();
+  }
+  std::string SelectedText() const {
     int start = 0;
     int end = 0;
-    text->selection(0, &start, &end);
-    shown.selected_text = text->text(start, end).toStdString();
+    accessible_->textInterface()->selection(0, &start, &end);
+    return accessible_->textInterface()->text(start, end).toStdString();
   }
-  for (const auto& [other, relation] : accessible.relations(QAccessible::Label)) {
-    shown.labelled_by = Text(*other, QAccessible::Name);
+  std::string LabelledBy() const {
+    std::string name;
+    for (const auto& [other, relation] : accessible_->relations(QAccessible::Label)) {
+      name = QtElement(other).Name();
+    }
+    return name;
   }
-  return shown;
-}
+  double Value() const { return ValueInterface().currentValue().toDouble(); }
+  double LeastValue() const { return ValueInterface().minimumValue().toDouble(); }
+  double GreatestValue() const { return ValueInterface().maximumValue().toDouble(); }
+  std::int64_t InSteps(double value) const {
+    return std::llround(value / ValueInterface().minimumStepSize().toDouble());
+  }
+  struct Place {
+    int x, y, width, height;
+  };
+  Place Extents() const {
+    const QRect rect = accessible_->rect();
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+  }
+  QWindow& Window() const { return *accessible_->window(); }
+  void Do(const QString& action) const { accessible_->actionInterface()->doAction(action); }
 
-[[noreturn]] void FailToFind(std::string_view what) {
-  throw KeyNotFoundException("Not on the screen: " + std::string(what));
-}
+ private:
+  std::string Told(QAccessible::Text which) const { return accessible_->text(which).toStdString(); }
+  QAccessibleValueInterface& ValueInterface() const { return *accessible_->valueInterface(); }
+
+  QAccessibleInterface* accessible_;
+};
 
 class CountingDisplay : public QtDisplay {
  public:
@@ -111,211 +123,97 @@ class CountingDisplay : public QtDisplay {
   bool stopped_ = false;
 };
 
-class QtUser : public User {
+class QtUser : public ScreenUser<QtElement> {
  public:
   explicit QtUser(CountingDisplay& display) : display_(display) { Settle(); }
 
-  void PressKey(const Key& key) override {
-    input_.PressKey(key);
-    Settle();
-  }
-  void Type(std::string_view text) override {
-    for (std::size_t at = 0; at < text.size(); at = NextCharacter(text, at)) {
-      PressKey(Key::Character(std::string(text.substr(at, NextCharacter(text, at) - at))));
-    }
-  }
-  void Paste(std::string_view text) override {
+  void SetClipboard(std::string_view text) override {
     QGuiApplication::clipboard()->setText(QString::fromStdString(std::string(text)));
-    PressKey(Key::Command("v"));
-  }
-  void Click(Role role, std::string_view name) override {
-    ClickAt(Find(role, name).rect().center());
-  }
-  void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) override {
-    QAccessibleInterface& slider = Find(Role::kSlider, name);
-    Drag(slider, Read(slider).position, positions);
-    NudgeSlider(*this, name, positions.back());
-  }
-  void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) override {
-    Drag(Find(Role::kSlider, name), at, {drag_to});
-  }
-  void TurnWheel(std::string_view slider, std::int64_t notches) override {
-    input_.MoveTo(Find(Role::kSlider, slider).rect().center());
-    input_.TurnWheel(static_cast<int>(notches));
-    Settle();
-  }
-  void PressByAssistiveTechnology(std::string_view button) override {
-    Find(Role::kButton, button)
-        .actionInterface()
-        ->doAction(QAccessibleActionInterface::pressAction());
-    Settle();
-  }
-  void Choose(std::string_view path) override {
-    const auto [menu, item] = Open(path);
-    ClickAt(menu->mapToGlobal(menu->actionGeometry(item).center()));
-  }
-  bool CanChoose(std::string_view path) override {
-    const auto [menu, item] = Open(path);
-    const bool enabled = item->isEnabled();
-    menu->close();
-    Settle();
-    return enabled;
   }
   void Close(std::string_view title) override {
     ActivateWindow(title);
-    QApplication::activeWindow()->windowHandle()->close();
-    Settle();
+    Act([] { QApplication::activeWindow()->windowHandle()->close(); });
   }
   void ActivateWindow(std::string_view title) override {
-    QWidget& window = Titled(title);
-    if (window.isActiveWindow()) return;
-    window.windowHandle()->requestActivate();
-    Settle([&] { return window.isActiveWindow() && IsSettled(); });
-  }
-  void Wait(std::chrono::milliseconds time) override {
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < time.count() && !display_.stopped()) QTest::qWait(10);
+    if (ActiveTitle() == title) return;
+    for (const QtElement& window : Application()->Children()) {
+      if (window.IsShowing() && TitleOf(window) == title) window.Window().requestActivate();
+    }
+    if (!QTest::qWaitFor([&] { return ActiveTitle() == title; })) FailToFind(title);
     Settle();
   }
-
-  std::vector<std::string> Windows() override {
-    std::vector<std::string> titles;
-    for (const QWidget* window : OnScreen()) titles.push_back(Title(*window));
-    std::sort(titles.begin(), titles.end());
-    return titles;
-  }
-  std::string ActiveTitle() override {
-    const QWidget* active = QApplication::activeWindow();
-    return active == nullptr ? "(none)" : Title(*active);
-  }
-  ShownControl Sees(Role role, std::string_view name) override { return Read(Find(role, name)); }
-  ShownControl SeesDescribed(std::string_view description) override {
-    QAccessibleInterface* found = FirstBelow(Active(), [&](QAccessibleInterface& accessible) {
-      return Text(accessible, QAccessible::Description) == description;
-    });
-    if (found == nullptr) FailToFind(description);
-    return Read(*found);
-  }
-  ShownControl Focused() override {
-    QAccessibleInterface* found = FirstBelow(
-        Active(), [](QAccessibleInterface& accessible) { return accessible.state().focused; });
-    return found == nullptr ? ShownControl{} : Read(*found);
+  void LetTimePass(std::chrono::milliseconds time) override {
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < time.count() && Running()) QTest::qWait(10);
+    Settle();
   }
   std::string Clipboard() override { return QGuiApplication::clipboard()->text().toStdString(); }
   int Beeps() override { return display_.beeps(); }
   std::vector<std::string> Hears() override { return display_.TakeAnnouncements(); }
 
  private:
-  using Predicate = std::function<bool(QAccessibleInterface&)>;
-
-  static QAccessibleInterface* FirstBelow(QAccessibleInterface* accessible,
-                                          const Predicate& matches) {
-    if (accessible == nullptr) return nullptr;
-    for (int i = 0; i < accessible->childCount(); ++i) {
-      QAccessibleInterface* child = accessible->child(i);
-      if (child == nullptr) continue;
-      if (RoleOf(*child).has_value() && matches(*child)) return child;
-      if (QAccessibleInterface* found = FirstBelow(child, matches)) return found;
+  void PressCombination(const std::string& keys) override {
+    QString name = QString::fromStdString(keys).replace('_', ' ');
+    const QKeyCombination pressed =
+        QKeySequence::fromString(name.replace("plus", "+").replace("minus", "-"))[0];
+    QChar text = QLatin1Char(QTest::keyToAscii(pressed.key()));
+    if (pressed.keyboardModifiers() & Qt::ControlModifier) text = QChar(text.unicode() & 0x1F);
+    SendKey(pressed.key(), text.isNull() ? QString() : QString(text), pressed.keyboardModifiers());
+  }
+  void TypePrintable(std::string_view text) override {
+    for (const QChar character : QString::fromStdString(std::string(text))) {
+      SendKey(Qt::Key(character.toUpper().unicode()), character, Qt::NoModifier);
     }
-    return nullptr;
   }
-  static QAccessibleInterface* Active() {
-    return QAccessible::queryAccessibleInterface(QApplication::activeWindow());
-  }
-  static QAccessibleInterface& Find(Role role, std::string_view name) {
-    QAccessibleInterface* found = FirstBelow(Active(), [&](QAccessibleInterface& accessible) {
-      return RoleOf(accessible) == role && Text(accessible, QAccessible::Name) == name;
-    });
-    if (found == nullptr) FailToFind(name);
-    return *found;
-  }
-
-  static std::vector<QWidget*> OnScreen() {
-    std::vector<QWidget*> windows;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-      const bool window = widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog;
-      if (widget->isVisible() && window) windows.push_back(widget);
-    }
-    return windows;
-  }
-  // The About window has no title of its own; what a task bar shows of it does not count.
-  static std::string Title(const QWidget& window) {
-    return window.objectName() == "AboutWnd.AboutWnd" ? "" : window.windowTitle().toStdString();
-  }
-  static QWidget& Titled(std::string_view title) {
-    for (QWidget* window : OnScreen()) {
-      if (Title(*window) == title) return *window;
-    }
-    FailToFind(title);
-  }
-
-  static QPoint KnobIn(QAccessibleInterface& slider, std::int64_t position) {
-    QAccessibleValueInterface& value = *slider.valueInterface();
-    const QRect rect = slider.rect();
-    const int offset = KnobAt(position, InSteps(value, value.minimumValue().toDouble()),
-                              InSteps(value, value.maximumValue().toDouble()), rect.width());
-    return {rect.left() + offset, rect.center().y()};
-  }
-  void Drag(QAccessibleInterface& slider, std::int64_t from,
-            const std::vector<std::int64_t>& positions) {
-    input_.MoveTo(KnobIn(slider, from));
-    input_.Press();
-    Settle();
-    for (const std::int64_t position : positions) {
-      input_.MoveTo(KnobIn(slider, position));
-      Settle();
-    }
-    input_.Release();
-    Settle();
-  }
-  void ClickAt(const QPoint& point) {
-    input_.MoveTo(point);
-    input_.Press();
-    Settle();
-    if (display_.stopped()) return;
-    input_.Release();
-    Settle();
-  }
-
-  // Opens the menu of a path with the mouse and gives the item in it.
-  std::pair<QMenu*, QAction*> Open(std::string_view path) {
-    const std::size_t slash = path.find('/');
-    const QString menu_text = QString::fromStdString(std::string(path.substr(0, slash)));
-    const QString item_text = QString::fromStdString(std::string(path.substr(slash + 1)));
-    const auto called = [](const QList<QAction*>& actions, const QString& text) {
-      for (QAction* action : actions) {
-        if (action->text().remove('&').section('\t', 0, 0) == text) return action;
+  static void SendKey(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers) {
+    for (const auto action : {QTest::Press, QTest::Release}) {
+      // The release of a key that has closed the last window has nowhere to go.
+      if (QWindow* window = QGuiApplication::focusWindow()) {
+        QTest::sendKeyEvent(action, window, key, text, modifiers);
       }
-      FailToFind(text.toStdString());
-    };
-    auto* bar = QApplication::activeWindow()->findChild<QMenuBar*>();
-    QAction* menu = called(bar->actions(), menu_text);
-    ClickAt(bar->mapToGlobal(bar->actionGeometry(menu).center()));
-    if (!menu->menu()->isVisible()) FailToFind("open menu " + menu_text.toStdString());
-    return {menu->menu(), called(menu->menu()->actions(), item_text)};
+    }
   }
-
-  // Lets the program deal with what has been sent, until the window system has no more to say and,
-  // unless something else is waited for, one of the program's windows has the keys.
-  void Settle(const std::function<bool()>& settled = IsSettled) {
+  void MoveTo(int x, int y) override {
+    mouse_ = {x, y};
+    Mouse(QTest::MouseMove, Qt::NoButton);
+  }
+  void PressMouse() override { Mouse(QTest::MousePress, Qt::LeftButton); }
+  void ReleaseMouse() override { Mouse(QTest::MouseRelease, Qt::LeftButton); }
+  void Scroll(int notches) override {
+    QWidget* widget = QApplication::widgetAt(mouse_);
+    QWheelEvent event(widget->mapFromGlobal(QPointF(mouse_)), mouse_, {}, {0, 120 * notches},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &event);
+  }
+  void Mouse(QTest::MouseAction action, Qt::MouseButton button) {
+    QWindow* window = QGuiApplication::topLevelAt(mouse_);
+    if (window == nullptr) return;
+    QTest::mouseEvent(action, window, button, {}, window->mapFromGlobal(mouse_));
+  }
+  std::optional<QtElement> Application() override {
+    return QtElement(QAccessible::queryAccessibleInterface(qApp));
+  }
+  bool Running() override { return !display_.stopped(); }
+  void Settle() override {
     QElapsedTimer patience;
     patience.start();
     do {
       QGuiApplication::sync();
-      if (display_.stopped()) return;
-    } while (patience.elapsed() < 3000 && !settled());
+    } while (Running() && patience.elapsed() < 3000 && !IsSettled());
   }
+  // Whether all windows have come up and one of them has the keys.
   static bool IsSettled() {
     if (QApplication::activePopupWidget() != nullptr) return true;
-    for (const QWidget* window : OnScreen()) {
-      if (window->windowHandle() == nullptr || !window->windowHandle()->isExposed()) return false;
+    for (const QWindow* window : QGuiApplication::topLevelWindows()) {
+      if (window->isVisible() && !window->isExposed()) return false;
     }
-    return QApplication::activeWindow() != nullptr && QApplication::activeWindow()->isVisible();
+    const QWidget* active = QApplication::activeWindow();
+    return active != nullptr && active->isVisible();
   }
 
   CountingDisplay& display_;
-  QtInput input_;
+  QPoint mouse_;
 };
 
 }  // namespace

@@ -26,13 +26,17 @@ class Element {
     int height = 0;
   };
 
-  explicit Element(AtspiAccessible* owned) : accessible_(owned) {}
+  explicit Element(AtspiAccessible* owned) : accessible_(owned, g_object_unref) {}
 
   std::string RoleName() const;
   std::string Name() const;
   std::string Description() const;
   std::vector<Element> Children() const;
   bool HasState(AtspiStateType state) const;
+  bool IsShowing() const { return HasState(ATSPI_STATE_SHOWING); }
+  bool IsEnabled() const { return HasState(ATSPI_STATE_ENABLED); }
+  bool IsFocused() const { return HasState(ATSPI_STATE_FOCUSED); }
+  bool IsActive() const { return HasState(ATSPI_STATE_ACTIVE); }
   // The names of the states that tell controls apart, with a blank between.
   std::string States() const;
   // What is read out as the content: a field's text, a slider's value, else the name.
@@ -57,13 +61,9 @@ class Element {
   unsigned Process() const;
 
  private:
-  struct Unref {
-    void operator()(gpointer object) const { g_object_unref(object); }
-  };
-
   AtspiAccessible* Get() const { return accessible_.get(); }
 
-  std::unique_ptr<AtspiAccessible, Unref> accessible_;
+  std::shared_ptr<AtspiAccessible> accessible_;
 };
 
 // The programs on the accessibility bus. Throws where there is no bus.

@@ -134,6 +134,10 @@ void HeadlessDisplay::DragSlider(std::string_view name,
   }
 }
 
+void HeadlessDisplay::PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) {
+  DragSlider(name, {at, drag_to});
+}
+
 void HeadlessDisplay::TurnWheel(std::string_view slider, std::int64_t notches) {
   Act([&] {
     dynamic_cast<Slider&>(Find(Role::kSlider, slider).Control()).UserTurnedWheel(notches);
@@ -206,30 +210,31 @@ void HeadlessDisplay::LetTimePass(std::chrono::milliseconds time) {
   now_ = end;
 }
 
-std::vector<std::string> HeadlessDisplay::Windows() const {
+std::vector<std::string> HeadlessDisplay::Windows() {
   std::vector<std::string> titles;
   for (const HeadlessWindow* window : windows_) {
     if (window->OnScreen()) titles.push_back(window->Window().GetState().title);
   }
+  std::sort(titles.begin(), titles.end());
   return titles;
 }
 
-std::string HeadlessDisplay::ActiveTitle() const {
+std::string HeadlessDisplay::ActiveTitle() {
   const Ref<vamo::Window>& window = Runtime::Current().ActiveWindow();
   return window ? window->GetState().title : "";
 }
 
-const ShownControl& HeadlessDisplay::Sees(Role role, std::string_view name) const {
+ShownControl HeadlessDisplay::Sees(Role role, std::string_view name) {
   return Find(role, name).Shown();
 }
 
-const ShownControl& HeadlessDisplay::SeesDescribed(std::string_view description) const {
+ShownControl HeadlessDisplay::SeesDescribed(std::string_view description) {
   return FindDescribed(description).Shown();
 }
 
-const ShownControl* HeadlessDisplay::Focused() const {
+ShownControl HeadlessDisplay::Focused() {
   const HeadlessControl* control = ActiveView().Focus();
-  return control == nullptr ? nullptr : &control->Shown();
+  return control == nullptr ? ShownControl{} : control->Shown();
 }
 
 HeadlessWindow& HeadlessDisplay::ActiveView() const {

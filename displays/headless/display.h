@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "displays/headless/user.h"
 #include "toolkit/display.h"
 #include "toolkit/key.h"
 #include "toolkit/object.h"
@@ -19,83 +20,51 @@
 
 namespace vamo {
 
-// How a screen reader tells the kinds of control apart.
-enum class Role { kText, kSlider, kButton, kLabel };
-
-// What a display without pixels shows of a control. It is a copy, made when the control asked for
-// it: what a control forgets to have shown stays out of it.
-struct ShownControl {
-  Role role = Role::kLabel;
-  // The name that a screen reader reads; of a label without one, its text.
-  std::string name;
-  std::string description;
-  // The caption of a control that has one.
-  std::string labelled_by;
-  std::string text;
-  std::string selected_text;
-  std::int64_t position = 0;
-  // The number that a screen reader reads for the position.
-  double value = 0;
-  bool visible = false;
-  bool enabled = false;
-};
-
 class HeadlessControl;
 class HeadlessWindow;
 
-// A whole display in memory, for checks and for machines without a screen. The user of it is a
-// function; what a user does and sees has a call here each. Positions on the screen mean nothing to
-// it, and the clock stands still unless it is told to go on.
-class HeadlessDisplay : public Display {
+// A whole display in memory, for checks and for machines without a screen, and its own user: what
+// happens while the program runs is a function that is given it. Positions on the screen mean
+// nothing to it, and the clock stands still unless it is told to go on.
+class HeadlessDisplay : public Display, public User {
  public:
-  // `user` is what happens while the program runs; when it is through, the loop ends.
+  // When `user` is through, the loop ends.
   explicit HeadlessDisplay(std::function<void(HeadlessDisplay&)> user = nullptr);
   ~HeadlessDisplay() override;
 
-  // What a user does, in the active window where nothing else is said. Controls are found by what a
-  // screen reader reads; InvalidArgumentException tells that there is none of that kind. After the
-  // program has been told to end, nothing of this has an effect.
-  //
-  // A key. In a text control, a key that the program leaves alone moves the caret or, with A and
-  // the command key, selects all.
-  void PressKey(const Key& key);
-  void Type(std::string_view text);
+  // User. A key in a text control that the program leaves alone moves the caret or, with A and the
+  // command key, selects all.
+  void PressKey(const Key& key) override;
+  void Type(std::string_view text) override;
+  void SetClipboard(std::string_view text) override { clipboard_ = text; }
+  void Click(Role role, std::string_view name) override;
+  void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) override;
+  void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) override;
+  void TurnWheel(std::string_view slider, std::int64_t notches) override;
+  void PressByAssistiveTechnology(std::string_view button) override;
+  bool Choose(std::string_view path) override;
+  bool CanChoose(std::string_view path) override;
+  void Close(std::string_view title) override;
+  void ActivateWindow(std::string_view title) override;
+  void LetTimePass(std::chrono::milliseconds time) override;
+  std::vector<std::string> Windows() override;
+  std::string ActiveTitle() override;
+  ShownControl Sees(Role role, std::string_view name) override;
+  ShownControl SeesDescribed(std::string_view description) override;
+  ShownControl Focused() override;
+  std::string Clipboard() override { return clipboard_; }
+  int Beeps() override { return beeps_; }
+  std::vector<std::string> Hears() override { return std::exchange(announcements_, {}); }
+
+  // What a user can do besides, and what is known of the display from within.
   void Drop(Role role, std::string_view name, std::string_view text);
   void Select(std::string_view field, std::size_t anchor, std::size_t caret);
-  void Click(Role role, std::string_view name);
   void ClickDescribed(std::string_view description);
-  void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions);
-  void TurnWheel(std::string_view slider, std::int64_t notches);
-  void PressByAssistiveTechnology(std::string_view button);
-  // An item by its texts, such as "Edit/Copy", after the menu has been opened. False where the item
-  // is disabled.
-  bool Choose(std::string_view path);
-  void Close(std::string_view title);
-  // A click on another window of the program, or on another program's.
-  void ActivateWindow(std::string_view title);
+  // A click on another program's window.
   void SwitchAway();
-  void LetTimePass(std::chrono::milliseconds time);
-  void SetClipboard(std::string_view text) { clipboard_ = text; }
   // The images that can be opened; by default every one can.
   void RemovePictures() { has_pictures_ = false; }
-
-  // What a user sees.
-  //
-  // The titles of the windows on the screen, the front one last.
-  std::vector<std::string> Windows() const;
-  // The title of the window that has the keys; empty where none has.
-  std::string ActiveTitle() const;
-  const ShownControl& Sees(Role role, std::string_view name) const;
-  const ShownControl& SeesDescribed(std::string_view description) const;
-  // What has the keys in the active window; nil where nothing has.
-  const ShownControl* Focused() const;
-  // Whether an item of the menu bar can be chosen, with the menu opened for it.
-  bool CanChoose(std::string_view path);
-  int Beeps() const { return beeps_; }
-  // What assistive technology has been given to say since the last call.
-  std::vector<std::string> Hears() { return std::exchange(announcements_, {}); }
   bool Running() const { return !stopped_; }
-  const std::string& Clipboard() const { return clipboard_; }
   // How often the clipboard has been read.
   int ClipboardReads() const { return clipboard_reads_; }
 

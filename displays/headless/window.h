@@ -12,7 +12,8 @@
 
 namespace vamo {
 
-// A control as it is shown: the copy of its state.
+// A control as it is shown: the copy of its state, made when it asked for it. What a control
+// forgets to have shown stays out of it.
 class HeadlessControl final : public ControlView {
  public:
   HeadlessControl(HeadlessWindow& window, RectControl& control);

@@ -76,7 +76,7 @@ TEST(ControlWindowJourney, AScreenReaderSpeaksTheResultsAndTheWarning) {
     user.Paste("30");
     Retype(user, "r", "");
     user.Paste(".5");
-    user.Wait(500ms);
+    user.LetTimePass(500ms);
     const std::vector<std::string> heard = user.Hears();
     ASSERT_FALSE(heard.empty());
     EXPECT_EQ(heard.back(),

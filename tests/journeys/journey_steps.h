@@ -6,9 +6,13 @@
 #include <string>
 #include <string_view>
 
-#include "user.h"
+#include "displays/headless/user.h"
 
 namespace vamo {
+
+// Runs the program from its start to its end with a user, and gives its exit status. Each program
+// of journeys defines it for its display.
+int RunProgram(const std::function<void(User&)>& journey);
 
 Key Arrow(KeyCode code, bool shift = false);
 

@@ -16,9 +16,9 @@ const Key kBackspaceKey = Key::Character(std::string(1, kBackspace));
 TEST(WindowJourney, TheSplashMakesWayAfterFourSeconds) {
   FromTheStart([](User& user) {
     EXPECT_EQ(user.Windows(), std::vector<std::string>{""});
-    user.Wait(4100ms);
+    user.LetTimePass(4100ms);
     // A window manager takes its time.
-    for (int i = 0; i < 10 && user.ActiveTitle() != "Vamo"; ++i) user.Wait(500ms);
+    for (int i = 0; i < 10 && user.ActiveTitle() != "Vamo"; ++i) user.LetTimePass(500ms);
     EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
     EXPECT_EQ(user.ActiveTitle(), "Vamo");
   });
@@ -33,10 +33,10 @@ TEST(WindowJourney, APressOnTheSplashOpensTheControlWindow) {
 
 TEST(WindowJourney, AboutStaysUntilItIsDismissed) {
   InControlWindow([](User& user) {
-    user.Wait(5000ms);
+    user.LetTimePass(5000ms);
     for (const char* item : {"Window/About Vamo", "Help/About Vamo"}) {
       user.Choose(item);
-      user.Wait(200ms);
+      user.LetTimePass(200ms);
       EXPECT_EQ(user.Windows(), (std::vector<std::string>{"", "Vamo"})) << item;
       EXPECT_EQ(user.ActiveTitle(), "") << item;
       user.PressKey(Key::Character("x"));
@@ -48,7 +48,7 @@ TEST(WindowJourney, AboutStaysUntilItIsDismissed) {
 TEST(WindowJourney, TheTimerOfTheSplashTakesTheKeysFromNobody) {
   InControlWindow([](User& user) {
     user.Click(Role::kButton, "Info");
-    user.Wait(4500ms);
+    user.LetTimePass(4500ms);
     EXPECT_EQ(user.ActiveTitle(), "Info");
   });
 }
@@ -136,7 +136,7 @@ TEST(EndJourney, TheProgramEndsWithStatusZero) {
   EXPECT_EQ(InControlWindow([](User& user) { user.PressKey(Key::Command("q")); }), 0);
   EXPECT_EQ(FromTheStart([](User& user) {
               user.PressKey(Key::Command("q"));
-              user.Wait(5000ms);
+              user.LetTimePass(5000ms);
             }),
             0)
       << "the shortcuts work on the splash too";

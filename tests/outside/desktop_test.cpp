@@ -86,10 +86,10 @@ TEST(Desktop, TheMiddleButtonPastesWhatIsSelectedElsewhere) {
 TEST(Desktop, TheSplashStaysForFourSeconds) {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point start = Clock::now();
-  RunProgramWith({}, [&](OutsideUser& user) {
+  FromTheStart({}, [&](OutsideUser& user) {
     EXPECT_EQ(user.ActiveTitle(), "");
     EXPECT_TRUE(Await([&] {
-      user.Wait(std::chrono::milliseconds(0));
+      user.LetTimePass(std::chrono::milliseconds(0));
       return user.ActiveTitle() == "Vamo";
     }));
     // The program has started later than this clock.
@@ -130,7 +130,7 @@ void ExpectSameMiddle(const WindowOnScreen& window, const WindowOnScreen& other)
 }
 
 TEST(Desktop, WindowsOpenWhereTheUserLooks) {
-  RunProgramWith({}, [](OutsideUser& user) {
+  FromTheStart({}, [](OutsideUser& user) {
     const WindowOnScreen splash = user.WindowTitled("");
     EXPECT_NEAR(splash.x + splash.width / 2, user.ScreenWidth() / 2, 2);
     user.PressNamed("space");

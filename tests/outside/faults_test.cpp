@@ -8,8 +8,8 @@
 #include <iterator>
 #include <string>
 
-#include "hand.h"
 #include "steps.h"
+#include "x_tools.h"
 
 namespace vamo {
 namespace {
@@ -88,7 +88,7 @@ TEST(Faults, APictureThatIsNotOneLeavesItsPlaceEmpty) {
 }
 
 TEST(Faults, WhatQtSaysWhileItReadsThePictureIsNoDamage) {
-  RunProgramWith({{"QT_LOGGING_RULES", "qt.core.library.debug=true"}}, [](OutsideUser& user) {
+  FromTheStart({{"QT_LOGGING_RULES", "qt.core.library.debug=true"}}, [](OutsideUser& user) {
     EXPECT_TRUE(ShowsPicture(user.WindowTitled(""), 104, 60));
   });
 }
@@ -106,7 +106,7 @@ TEST(Faults, WithoutADisplayOneLineSaysWhatToDo) {
 
 TEST(Faults, ADisplayThatGoesEndsTheProgram) {
   const auto journey = [](OutsideUser& user) {
-    hand::Disconnect(user.WindowTitled("Vamo").id);
+    Xdotool({"windowkill", std::to_string(user.WindowTitled("Vamo").id)});
     AwaitEnd(user);
   };
   EXPECT_EQ(InControlWindow({}, journey), 1);
@@ -114,7 +114,7 @@ TEST(Faults, ADisplayThatGoesEndsTheProgram) {
 
 TEST(Faults, AClipboardWhoseOwnerHangsDisturbsNobody) {
   Child owner({"xclip", "-quiet", "-selection", "clipboard", "-i", VAMO_CHART}, {});
-  ASSERT_TRUE(Await([] { return !hand::Clipboard().empty(); }));
+  ASSERT_TRUE(Await([] { return !Offered("clipboard").empty(); }));
   kill(owner.id(), SIGSTOP);
   InControlWindow({}, [](OutsideUser& user) {
     ExpectResultsAfterTyping(user);
@@ -154,7 +154,7 @@ TEST(Faults, TwoProgramsBesideEachOtherKeepTheirOwnNumbers) {
       second.Close("Vamo");
     };
     EXPECT_EQ(InControlWindow({}, journey), 0);
-    first.Wait(std::chrono::milliseconds(0));
+    first.LetTimePass(std::chrono::milliseconds(0));
     first.ActivateWindow("Vamo");
     EXPECT_EQ(FieldText(first, "r") + FieldText(first, "N"), ".530");
     EXPECT_EQ(ResultLine(first), "3.06 | .00490 | +.170 to +.729");

@@ -5,8 +5,8 @@
 
 #include <cstdlib>
 
-#include "hand.h"
 #include "steps.h"
+#include "x_tools.h"
 
 namespace vamo {
 namespace {
@@ -16,24 +16,23 @@ const std::string kFolder = VAMO_PICTURES;
 const Environment kOwnFonts{{"FONTCONFIG_FILE", kFolder + "/fonts.conf"}};
 
 // How many pixels differ visibly; all of them where the sizes do.
-int DifferentPixels(const std::string& kept, const std::string& taken) {
+double DifferentPixels(const std::string& kept, const std::string& taken) {
   const auto size = [](const std::string& picture) {
     return Output({"identify", "-format", "%wx%h", picture});
   };
   if (size(kept) != size(taken)) return 1'000'000;
-  return std::stoi(Output({"convert", kept, taken, "-alpha", "off", "-compose", "difference",
-                           "-composite", "-separate", "-evaluate-sequence", "max", "-threshold",
-                           "12%", "-format", "%[fx:round(mean*w*h)]", "info:"}));
+  return std::stod(
+      RunToEnd({"compare", "-metric", "AE", "-fuzz", "12%", kept, taken, "null:"}).err);
 }
 
 void ExpectPicture(OutsideUser& user, const std::string& title, const std::string& name) {
   const std::string kept = kFolder + '/' + name + ".png";
   const bool renew = std::getenv("VAMO_RENEW_PICTURES") != nullptr;
   const std::string taken = renew ? kept : testing::TempDir() + "vamo_" + name + ".png";
-  hand::MoveTo(0, 0);
+  Xdotool({"mousemove", "0", "0"});
   // A letter is some 40 pixels.
   constexpr int kTolerated = 12;
-  int differing = 0;
+  double differing = 0;
   // The caret blinks, and what is under the mouse may still be lit.
   const bool same = Await([&] {
     Output({"import", "-silent", "-window", std::to_string(user.WindowTitled(title).id), "-strip",
@@ -45,7 +44,7 @@ void ExpectPicture(OutsideUser& user, const std::string& title, const std::strin
 }
 
 TEST(Pictures, OfTheWindows) {
-  RunProgramWith(kOwnFonts, [](OutsideUser& user) {
+  FromTheStart(kOwnFonts, [](OutsideUser& user) {
     ExpectPicture(user, "", "splash");
     user.PressNamed("space");
     user.DragSlider("r", {37});

@@ -84,7 +84,7 @@ TEST(Reading, AndWorkingTheSliders) {
     EXPECT_EQ(n.GreatestValue(), 1000);
     n.Set("30");
     r.Set("0.5");
-    user.Wait(std::chrono::milliseconds(0));
+    user.LetTimePass(std::chrono::milliseconds(0));
     EXPECT_EQ(FieldText(user, "r") + FieldText(user, "N"), ".50030");
     EXPECT_EQ(ResultLine(user), "3.06 | .00490 | +.170 to +.729");
   });
@@ -109,7 +109,7 @@ TEST(Reading, AnEditIsWhatHasGoneAndWhatHasCome) {
 }
 
 TEST(Reading, TheSplashAndTheInfoWindow) {
-  RunProgramWith({}, [](OutsideUser& user) {
+  FromTheStart({}, [](OutsideUser& user) {
     const std::vector<ReadOut> splash = ReadAll(user);
     ASSERT_EQ(splash.size(), 2U);
     EXPECT_EQ(splash[0].name, "Vamo");

@@ -11,8 +11,14 @@
 
 namespace vamo {
 
-// A journey through the control window, by a user who has dismissed the splash with a key. One that
-// breaks off has failed. Gives what RunProgramWith gives.
+// Where the program is: VAMO_PROGRAM in the environment, or else that of this build.
+std::string ProgramPath();
+
+// A journey from the start, with settings in the program's environment. One that breaks off has
+// failed. Gives what RunProgramWith gives, as does the next one.
+int FromTheStart(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
+                 const std::vector<std::string>& command = {ProgramPath()});
+// A journey through the control window, by a user who has dismissed the splash with a key.
 int InControlWindow(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
                     const std::vector<std::string>& command = {ProgramPath()});
 

@@ -1,6 +1,6 @@
 // The screen of an X server, as its window manager keeps it.
-#ifndef VAMO_TESTS_OUTSIDE_X_SCREEN_H_
-#define VAMO_TESTS_OUTSIDE_X_SCREEN_H_
+#ifndef VAMO_TOOLS_X_SCREEN_H_
+#define VAMO_TOOLS_X_SCREEN_H_
 
 #include <sys/types.h>
 
@@ -52,4 +52,4 @@ class XScreen {
 
 }  // namespace vamo
 
-#endif  // VAMO_TESTS_OUTSIDE_X_SCREEN_H_
+#endif  // VAMO_TOOLS_X_SCREEN_H_

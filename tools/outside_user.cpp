@@ -1,0 +1,176 @@
+// A user who knows only the running program.
+#include "outside_user.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <stdexcept>
+#include <thread>
+
+#include "x_tools.h"
+
+namespace vamo {
+namespace {
+
+using std::chrono_literals::operator""s;
+
+// To a pixel of the screen.
+void MoveMouse(int x, int y) { Xdotool({"mousemove", std::to_string(x), std::to_string(y)}); }
+
+}  // namespace
+
+OutsideUser::OutsideUser(Child& program, XScreen& screen, Ears& ears)
+    : program_(program), screen_(screen), ears_(ears) {
+  const bool shown =
+      Await([&] { return !screen_.WindowsOf(program_.id()).empty() || !program_.Running(); }, 30s);
+  now_ = std::chrono::steady_clock::now();
+  if (!shown || !program_.Running()) throw std::runtime_error("the program shows no window");
+  AwaitRest();
+}
+
+void OutsideUser::PressCombination(const std::string& keys) { Xdotool({"key", keys}); }
+
+void OutsideUser::TypePrintable(std::string_view text) {
+  Xdotool({"type", "--delay", "1", "--", std::string(text)});
+}
+
+// A logical pixel of the program may be several of the screen.
+void OutsideUser::MoveTo(int x, int y) {
+  const double width = Frame().Extents().width;
+  const double scale = std::round(WindowTitled(ActiveTitle()).width / width);
+  MoveMouse(static_cast<int>(scale * x), static_cast<int>(scale * y));
+}
+
+void OutsideUser::PressMouse() { Xdotool({"mousedown", "1"}); }
+
+void OutsideUser::ReleaseMouse() { Xdotool({"mouseup", "1"}); }
+
+void OutsideUser::Scroll(int notches) {
+  Xdotool({"click", "--repeat", std::to_string(std::abs(notches)), notches > 0 ? "4" : "5"});
+}
+
+void OutsideUser::SetClipboard(std::string_view text) { Offer("clipboard", text); }
+
+std::string OutsideUser::Clipboard() { return Offered("clipboard"); }
+
+void OutsideUser::PasteSelection(Role role, std::string_view name, std::string_view text) {
+  Click(role, name);
+  Offer("primary", text);
+  Act([] { Xdotool({"click", "2"}); });
+}
+
+void OutsideUser::Close(std::string_view title) {
+  ActivateWindow(title);
+  PressNamed("alt+F4");
+}
+
+void OutsideUser::ClickCloseButton(std::string_view title) {
+  const WindowOnScreen window = WindowTitled(title);
+  // The window manager puts it at the right end of the title bar, as wide as the bar is high.
+  const int half = window.frame_top / 2;
+  MoveMouse(window.x + window.width + window.frame_right - half, window.y - half);
+  Act([] { Xdotool({"click", "1"}); });
+}
+
+void OutsideUser::MoveWindow(std::string_view title, int x, int y) {
+  const std::string id = std::to_string(WindowTitled(title).id);
+  Act([&] { Xdotool({"windowmove", "--sync", id, std::to_string(x), std::to_string(y)}); });
+}
+
+void OutsideUser::ActivateWindow(std::string_view title) {
+  if (ActiveTitle() == title) return;
+  const std::string id = std::to_string(WindowTitled(title).id);
+  Act([&] { Xdotool({"windowactivate", id}); });
+  if (!Await([&] { return IsSettled() && ActiveTitle() == title; })) {
+    throw std::runtime_error("not to be activated: " + std::string(title));
+  }
+}
+
+void OutsideUser::LetTimePass(std::chrono::milliseconds time) {
+  now_ += time;
+  while (std::chrono::steady_clock::now() < now_ && program_.Running()) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  AwaitRest();
+}
+
+WindowOnScreen OutsideUser::WindowTitled(std::string_view title) {
+  for (const WindowOnScreen& window : screen_.WindowsOf(program_.id())) {
+    if (window.title == title) return window;
+  }
+  FailToFind(title);
+}
+
+std::optional<Element> OutsideUser::Application() {
+  if (!application_.has_value()) {
+    application_ = FindApplication([&](const Element& candidate) {
+      return candidate.Process() == static_cast<unsigned>(program_.id());
+    });
+  }
+  return application_;
+}
+
+// Asking for them takes a while; as long as the windows are the same, so are their elements.
+std::vector<Element> OutsideUser::Elements() {
+  if (elements_.empty()) elements_ = ScreenUser::Elements();
+  return elements_;
+}
+
+// Whether the window manager and assistive technology agree on what is open and active.
+bool OutsideUser::IsSettled() {
+  const std::vector<WindowOnScreen> before = screen_.WindowsOf(program_.id());
+  const auto runs = [this] { return program_.Running(); };
+  if (before.empty() || !screen_.RoundTrip(before.front().id, runs)) return false;
+  try {
+    frames_ = ReadFrames();
+  } catch (const std::runtime_error&) {
+    return false;  // A window has gone between two questions about it.
+  }
+  std::vector<std::string> titles;
+  std::optional<std::string> active;
+  for (const WindowOnScreen& window : screen_.WindowsOf(program_.id())) {
+    titles.push_back(window.title);
+    if (window.active) active = window.title;
+  }
+  std::sort(titles.begin(), titles.end());
+  return titles == frames_.titles && active.has_value() == frames_.active.has_value() &&
+         active.value_or("") == frames_.active_title;
+}
+
+// What is settled twice has stayed so while the window manager had its turn.
+void OutsideUser::AwaitRest() {
+  const std::vector<std::string> titles = frames_.titles;
+  const std::string active = frames_.active_title;
+  const bool settled = Await([&] { return !program_.Running() || (IsSettled() && IsSettled()); });
+  if (titles != frames_.titles || active != frames_.active_title) elements_.clear();
+  if (!settled) throw std::runtime_error("the windows do not come to rest: " + TellWindows());
+}
+
+void OutsideUser::Settle() {
+  AwaitRest();
+  now_ = std::chrono::steady_clock::now();
+}
+
+std::string OutsideUser::TellWindows() {
+  std::string told = "read out:";
+  for (const std::string& title : frames_.titles) told += " '" + title + "'";
+  told += ", active '" + frames_.active_title + "'; on the screen:";
+  for (const WindowOnScreen& window : screen_.WindowsOf(program_.id())) {
+    told += (window.active ? " active '" : " '") + window.title + "'";
+  }
+  return told;
+}
+
+int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
+                   const std::vector<std::string>& command) {
+  static const int initialised = atspi_init();
+  if (initialised > 1) throw std::runtime_error("there is no accessibility bus");
+  XScreen screen;
+  Ears ears;
+  Child child(command, settings);
+  OutsideUser user(child, screen, ears);
+  journey(user);
+  return child.ExitStatus().value_or(kStillRunning);
+}
+
+}  // namespace vamo

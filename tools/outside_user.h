@@ -1,0 +1,84 @@
+// A user who knows only the running program: what is on the screen, and what is read out of it.
+#ifndef VAMO_TOOLS_OUTSIDE_USER_H_
+#define VAMO_TOOLS_OUTSIDE_USER_H_
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "at_spi.h"
+#include "child.h"
+#include "ears.h"
+#include "screen_user.h"
+#include "x_screen.h"
+
+namespace vamo {
+
+// Works a program by keys and mouse through the X server and reads it as assistive technology does.
+// It knows nothing of how the program is made, and does not judge what it sees.
+class OutsideUser : public ScreenUser<Element> {
+ public:
+  // Waits until the program shows its first window.
+  OutsideUser(Child& program, XScreen& screen, Ears& ears);
+
+  void SetClipboard(std::string_view text) override;
+  void Close(std::string_view title) override;
+  void ActivateWindow(std::string_view title) override;
+  // Time goes on while the user looks: waits with no act between them count from the last act.
+  void LetTimePass(std::chrono::milliseconds time) override;
+  std::string Clipboard() override;
+  int Beeps() override { return screen_.Bells(); }
+  std::vector<std::string> Hears() override { return ears_.Notices(); }
+  std::vector<Element> Elements() override;
+  bool Running() override { return program_.Running(); }
+
+  // What other displays have no word for.
+  //
+  // What a screen reader is told that the user has done to a field's text since the last call.
+  std::vector<std::string> HearsEdits(std::string_view field) { return ears_.Edits(field); }
+  void ClickCloseButton(std::string_view title);
+  // Takes the upper left corner of the window's frame there.
+  void MoveWindow(std::string_view title, int x, int y);
+  void PasteSelection(Role role, std::string_view name, std::string_view text);
+  WindowOnScreen WindowTitled(std::string_view title);
+  int ScreenWidth() const { return screen_.Width(); }
+  int ScreenHeight() const { return screen_.Height(); }
+  pid_t Process() const { return program_.id(); }
+
+ private:
+  void PressCombination(const std::string& keys) override;
+  void TypePrintable(std::string_view text) override;
+  void MoveTo(int x, int y) override;
+  void PressMouse() override;
+  void ReleaseMouse() override;
+  void Scroll(int notches) override;
+  std::optional<Element> Application() override;
+  Frames Look() override { return frames_; }
+  void Settle() override;
+
+  bool IsSettled();
+  void AwaitRest();
+  std::string TellWindows();
+
+  Child& program_;
+  XScreen& screen_;
+  Ears& ears_;
+  std::optional<Element> application_;
+  // As they were when the program had come to rest.
+  Frames frames_;
+  std::vector<Element> elements_;
+  std::chrono::steady_clock::time_point now_;
+};
+
+// Runs a program from its start to its end, with settings in its environment, and gives its exit
+// status; kStillRunning when the journey has left it running.
+inline constexpr int kStillRunning = -1;
+int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
+                   const std::vector<std::string>& command);
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLS_OUTSIDE_USER_H_

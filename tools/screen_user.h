@@ -1,0 +1,257 @@
+// What the users of a screen have in common, whatever brings them to it.
+#ifndef VAMO_TOOLS_SCREEN_USER_H_
+#define VAMO_TOOLS_SCREEN_USER_H_
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "displays/headless/user.h"
+
+namespace vamo {
+
+// The name that X gives to a key without a printable character, or to one that is held with others,
+// such as "ctrl+shift+Left". Empty for a key that only types its character.
+std::string NameOf(const Key& key);
+// Where the middle of a slider's knob is at a position, from the left of its box.
+int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int width);
+// What is read out as text, slider, push button or label, and no other role.
+std::optional<Role> RoleNamed(std::string_view role_name);
+[[noreturn]] void FailToFind(std::string_view what);
+
+// A user with a keyboard, a mouse and a screen reader. Everything that a user does is made of a few
+// acts of the hand, after each of which the program comes to rest, and of a look at the tree of
+// accessible elements. An Element has the functions of Element in at_spi.h, is cheap to copy, and
+// throws std::runtime_error when what it stands for has gone.
+template <class Element>
+class ScreenUser : public User {
+ public:
+  void PressKey(const Key& key) override {
+    const std::string name = NameOf(key);
+    if (name.empty()) return Act([&] { TypePrintable(key.text); });
+    PressNamed(name);
+  }
+  // A combination of keys by their X names.
+  void PressNamed(const std::string& keys) {
+    Act([&] { PressCombination(keys); });
+  }
+  void Type(std::string_view text) override {
+    const auto is_printable = [](char c) { return NameOf(Key::Character({c})).empty(); };
+    while (!text.empty()) {
+      const auto run = std::find_if_not(text.begin(), text.end(), is_printable) - text.begin();
+      const auto size = static_cast<std::size_t>(std::max<std::ptrdiff_t>(run, 1));
+      PressKey(Key::Character(std::string(text.substr(0, size))));
+      text.remove_prefix(size);
+    }
+  }
+  void Click(Role role, std::string_view name) override { ClickOn(Find(role, name)); }
+  void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) override {
+    Drag(name, Sees(Role::kSlider, name).position, positions);
+    Nudge(name, positions.back());
+  }
+  void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) override {
+    Drag(name, at, {drag_to});
+  }
+  void TurnWheel(std::string_view slider, std::int64_t notches) override {
+    MoveToMiddleOf(Find(Role::kSlider, slider));
+    Act([&] { Scroll(static_cast<int>(notches)); });
+  }
+  void PressByAssistiveTechnology(std::string_view button) override {
+    Act([&] { Find(Role::kButton, button).Do("Press"); });
+  }
+  bool Choose(std::string_view path) override {
+    const Element item = Open(path);
+    const bool enabled = item.IsEnabled();
+    // A second press on its title closes a menu.
+    ClickOn(enabled ? item : MenuTitle(path));
+    return enabled;
+  }
+  bool CanChoose(std::string_view path) override {
+    const bool enabled = Open(path).IsEnabled();
+    ClickOn(MenuTitle(path));
+    return enabled;
+  }
+
+  std::vector<std::string> Windows() override { return Look().titles; }
+  std::string ActiveTitle() override { return Look().active_title; }
+  ShownControl Sees(Role role, std::string_view name) override { return Read(Find(role, name)); }
+  ShownControl SeesDescribed(std::string_view description) override {
+    return Read(FindDescribed(description));
+  }
+  ShownControl Focused() override {
+    for (const Element& element : Elements()) {
+      if (RoleNamed(element.RoleName()) && element.IsFocused()) return Read(element);
+    }
+    return {};
+  }
+
+  // The active window.
+  Element Frame() { return Look().active.value(); }
+  // The element of the active window that bears a name or a description.
+  Element Find(Role role, std::string_view name) {
+    for (const Element& element : Elements()) {
+      if (RoleNamed(element.RoleName()) == role && element.Name() == name) return element;
+    }
+    FailToFind(name);
+  }
+  Element FindDescribed(std::string_view description) {
+    for (const Element& element : Elements()) {
+      if (element.Description() == description) return element;
+    }
+    FailToFind(description);
+  }
+  // Everything in the active window, whether it shows or not, menus left out.
+  virtual std::vector<Element> Elements() {
+    std::vector<Element> all;
+    if (const std::optional<Element> window = Look().active) Collect(*window, all);
+    return all;
+  }
+
+ protected:
+  // The program's windows on the screen.
+  struct Frames {
+    std::vector<std::string> titles;
+    std::string active_title;
+    std::optional<Element> active;
+  };
+
+  // What each kind of user does in a way of its own. None of it waits for the program.
+  //
+  virtual void PressCombination(const std::string& keys) = 0;
+  virtual void TypePrintable(std::string_view text) = 0;
+  // To a place as elements tell it.
+  virtual void MoveTo(int x, int y) = 0;
+  virtual void PressMouse() = 0;
+  virtual void ReleaseMouse() = 0;
+  virtual void Scroll(int notches) = 0;
+  // Nothing when the program has ended.
+  virtual std::optional<Element> Application() = 0;
+  virtual bool Running() = 0;
+  // Waits until the program and its desktop have nothing more to do.
+  virtual void Settle() = 0;
+  virtual Frames Look() { return ReadFrames(); }
+
+  template <class Deed>
+  void Act(const Deed& deed) {
+    deed();
+    Settle();
+  }
+  void ClickOn(const Element& element) {
+    MoveToMiddleOf(element);
+    Act([this] { PressMouse(); });
+    if (Running()) Act([this] { ReleaseMouse(); });
+  }
+  // The splash has neither a menu bar nor a title bar.
+  static std::string TitleOf(const Element& window) {
+    return FindBelow(window, "menu bar", "") ? window.Name() : "";
+  }
+  Frames ReadFrames() {
+    Frames frames;
+    const std::optional<Element> application = Application();
+    if (!application) return frames;
+    for (const Element& window : application->Children()) {
+      if (window.RoleName() != "frame" || !window.IsShowing()) continue;
+      frames.titles.push_back(TitleOf(window));
+      if (!window.IsActive()) continue;
+      frames.active_title = frames.titles.back();
+      frames.active = window;
+    }
+    std::sort(frames.titles.begin(), frames.titles.end());
+    return frames;
+  }
+
+ private:
+  static ShownControl Read(const Element& element) {
+    ShownControl shown;
+    shown.role = RoleNamed(element.RoleName()).value_or(Role::kLabel);
+    shown.name = element.Name();
+    shown.description = element.Description();
+    shown.labelled_by = element.LabelledBy();
+    shown.visible = element.IsShowing();
+    shown.enabled = element.IsEnabled();
+    shown.text = element.Text();
+    if (shown.role == Role::kText) shown.selected_text = element.SelectedText();
+    if (shown.role == Role::kSlider) {
+      shown.value = element.Value();
+      shown.position = element.InSteps(shown.value);
+    }
+    return shown;
+  }
+  static void Collect(const Element& parent, std::vector<Element>& all) {
+    for (const Element& child : parent.Children()) {
+      if (child.RoleName() == "menu bar") continue;
+      all.push_back(child);
+      Collect(child, all);
+    }
+  }
+  static std::optional<Element> FindBelow(const Element& parent, std::string_view role,
+                                          std::string_view name) {
+    for (const Element& child : parent.Children()) {
+      if (!child.IsShowing()) continue;
+      if (child.RoleName() == role && (name.empty() || child.Name() == name)) return child;
+      if (const std::optional<Element> found = FindBelow(child, role, name)) return found;
+    }
+    return std::nullopt;
+  }
+
+  void MoveToMiddleOf(const Element& element) {
+    const auto place = element.Extents();
+    MoveTo(place.x + place.width / 2, place.y + place.height / 2);
+  }
+  void MoveKnob(const Element& slider, std::int64_t to) {
+    const auto place = slider.Extents();
+    const int knob = KnobAt(to, slider.InSteps(slider.LeastValue()),
+                            slider.InSteps(slider.GreatestValue()), place.width);
+    MoveTo(place.x + knob, place.y + place.height / 2);
+  }
+  void Drag(std::string_view name, std::int64_t from, const std::vector<std::int64_t>& positions) {
+    const Element slider = Find(Role::kSlider, name);
+    MoveKnob(slider, from);
+    Act([this] { PressMouse(); });
+    for (const std::int64_t position : positions) {
+      Act([&] { MoveKnob(slider, position); });
+    }
+    Act([this] { ReleaseMouse(); });
+  }
+  // Ends a drag, where a position is narrower than a pixel, by the arrow keys.
+  void Nudge(std::string_view name, std::int64_t position) {
+    const std::int64_t reached = Sees(Role::kSlider, name).position;
+    if (std::abs(position - reached) > 3) {
+      throw std::runtime_error("the knob of " + std::string(name) + " did not follow the mouse");
+    }
+    for (std::int64_t i = reached; i != position; i += i < position ? 1 : -1) {
+      PressNamed(i < position ? "Right" : "Left");
+    }
+  }
+
+  Element MenuTitle(std::string_view path) {
+    const std::string_view text = path.substr(0, path.find('/'));
+    const std::optional<Element> bar = FindBelow(Frame(), "menu bar", "");
+    if (!bar) FailToFind("menu bar");
+    for (const Element& title : bar->Children()) {
+      if (title.Name() == text) return title;
+    }
+    FailToFind(text);
+  }
+  // Opens the menu of a path with the mouse and gives the item in it.
+  Element Open(std::string_view path) {
+    const Element title = MenuTitle(path);
+    ClickOn(title);
+    for (int look = 0; look < 100; ++look) {
+      const auto item = FindBelow(title, "menu item", path.substr(path.find('/') + 1));
+      if (item) return *item;
+      Settle();
+    }
+    FailToFind(path);
+  }
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLS_SCREEN_USER_H_
