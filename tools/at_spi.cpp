@@ -1,7 +1,6 @@
 // What assistive technology sees of a program, read by way of libatspi.
 #include "at_spi.h"
 
-#include <array>
 #include <cmath>
 #include <sstream>
 #include <stdexcept>
@@ -81,25 +80,6 @@ bool Element::HasState(AtspiStateType state) const {
   return states && atspi_state_set_contains(states.get(), state);
 }
 
-std::string Element::States() const {
-  constexpr std::array<std::pair<AtspiStateType, const char*>, 7> kNames{{
-      {ATSPI_STATE_ACTIVE, "active"},
-      {ATSPI_STATE_FOCUSED, "focused"},
-      {ATSPI_STATE_FOCUSABLE, "focusable"},
-      {ATSPI_STATE_ENABLED, "enabled"},
-      {ATSPI_STATE_EDITABLE, "editable"},
-      {ATSPI_STATE_READ_ONLY, "read-only"},
-      {ATSPI_STATE_IS_DEFAULT, "default"},
-  }};
-  std::string text;
-  for (const auto& [state, name] : kNames) {
-    if (!HasState(state)) continue;
-    if (!text.empty()) text += ' ';
-    text += name;
-  }
-  return text;
-}
-
 std::string Element::Text() const {
   if (const Held<AtspiText> text{atspi_accessible_get_text_iface(Get())}) {
     return CallForText(atspi_text_get_text, text.get(), 0, -1);
@@ -147,9 +127,7 @@ void Element::Do(std::string_view wanted) const {
   const Held<AtspiAction> action(atspi_accessible_get_action_iface(Get()));
   const int count = action ? Call(atspi_action_get_n_actions, action.get()) : 0;
   for (int i = 0; i < count; ++i) {
-    const bool is_it =
-        wanted.empty() || CallForText(atspi_action_get_action_name, action.get(), i) == wanted;
-    if (!is_it) continue;
+    if (CallForText(atspi_action_get_action_name, action.get(), i) != wanted) continue;
     if (Call(atspi_action_do_action, action.get(), i)) return;
     throw std::runtime_error("it refuses the action");
   }
@@ -167,31 +145,19 @@ void Element::Set(const std::string& content) const {
 
 unsigned Element::Process() const { return Call(atspi_accessible_get_process_id, Get()); }
 
-std::vector<Element> Applications() {
+std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted) {
   AtspiAccessible* desktop = atspi_get_desktop(0);
   if (desktop == nullptr) throw std::runtime_error("there is no accessibility bus");
   // The library keeps what it has read until its main loop brings news; no program here runs one.
   atspi_accessible_clear_cache(desktop);
-  return Element(desktop).Children();
-}
-
-std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted) {
-  for (Element& application : Applications()) {
+  for (const Element& application : Element(desktop).Children()) {
     try {
-      if (wanted(application)) return {std::move(application)};
+      if (wanted(application)) return application;
     } catch (const std::runtime_error&) {
       continue;
     }
   }
   return std::nullopt;
-}
-
-bool Walk(const Element& parent, const std::function<bool(const Element&)>& visit) {
-  for (const Element& child : parent.Children()) {
-    if (!child.HasState(ATSPI_STATE_SHOWING)) continue;
-    if (visit(child) || Walk(child, visit)) return true;
-  }
-  return false;
 }
 
 }  // namespace vamo

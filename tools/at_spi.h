@@ -37,8 +37,6 @@ class Element {
   bool IsEnabled() const { return HasState(ATSPI_STATE_ENABLED); }
   bool IsFocused() const { return HasState(ATSPI_STATE_FOCUSED); }
   bool IsActive() const { return HasState(ATSPI_STATE_ACTIVE); }
-  // The names of the states that tell controls apart, with a blank between.
-  std::string States() const;
   // What is read out as the content: a field's text, a slider's value, else the name.
   std::string Text() const;
   // Empty where nothing is selected or there is no text.
@@ -52,8 +50,7 @@ class Element {
   // A value of the element, counted in its steps.
   std::int64_t InSteps(double value) const;
   Place Extents() const;
-  // Does the action of that name, or the first one.
-  void Do(std::string_view action = {}) const;
+  void Do(std::string_view action) const;
   // Sets a field's text or a slider's value.
   void Set(const std::string& content) const;
 
@@ -66,13 +63,9 @@ class Element {
   std::shared_ptr<AtspiAccessible> accessible_;
 };
 
-// The programs on the accessibility bus. Throws where there is no bus.
-std::vector<Element> Applications();
-// The first of them for which `wanted` is true. One that is just starting or ending is left out.
+// The first program on the accessibility bus for which `wanted` is true. One that is just starting
+// or ending is left out. Throws where there is no bus.
 std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted);
-
-// Goes through what is showing below `parent`, depth first, until `visit` returns true.
-bool Walk(const Element& parent, const std::function<bool(const Element&)>& visit);
 
 }  // namespace vamo
 

@@ -1,0 +1,65 @@
+// Works the program as a user does, says what it then shows, and takes a picture of it.
+#include <cstdlib>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "outside_user.h"
+
+namespace vamo {
+namespace {
+
+std::string FieldText(User& user, std::string_view name) {
+  return user.Sees(Role::kText, name).text;
+}
+
+void Show(User& user, std::string_view deed) {
+  const std::string t = user.SeesDescribed("Student's t").text;
+  const std::string p = user.SeesDescribed("two-tailed p").text;
+  const std::string interval = user.SeesDescribed("95% confidence interval of r").text;
+  std::cout << deed << ":\n  r = " << FieldText(user, "r") << "   N = " << FieldText(user, "N")
+            << "   t = " << t << "   p = " << p << "   95% CI of r = " << interval
+            << "   Fisher's z = " << FieldText(user, "Fisher's z") << '\n';
+  if (t.empty() || p.empty() || interval.empty()) throw std::runtime_error("there is no result");
+}
+
+void TypeInto(User& user, std::string_view field, std::string_view text) {
+  user.Click(Role::kText, field);
+  user.Type(text);
+}
+
+void Demonstrate(OutsideUser& user, const std::string& picture) {
+  // The splash gives way at a key, or by itself after four seconds.
+  if (user.ActiveTitle().empty()) user.PressNamed("space");
+  TypeInto(user, "N", "30");
+  TypeInto(user, "r", ".5");
+  Show(user, "Typed 30 for N and .5 for r");
+  user.DragSlider("r", {12, 25, 37});
+  Show(user, "Dragged the slider of r");
+  user.DragSlider("N", {50, 100, 200});
+  Show(user, "Dragged the slider of N");
+  const std::string window = std::to_string(user.WindowTitled("Vamo").id);
+  Output({"import", "-silent", "-frame", "-window", window, picture});
+  std::cout << "The window as it was then: " << picture << '\n';
+  user.Close("Vamo");
+}
+
+}  // namespace
+}  // namespace vamo
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::cerr << "usage: demonstrate PROGRAM PICTURE\n";
+    return 2;
+  }
+  try {
+    const auto demonstrate = [&](vamo::OutsideUser& user) { vamo::Demonstrate(user, argv[2]); };
+    const int status = vamo::RunProgramWith({}, demonstrate, {argv[1]});
+    if (status == 0) return EXIT_SUCCESS;
+    std::cerr << "demonstrate: the program ended with " << status << '\n';
+  } catch (const std::exception& e) {
+    std::cerr << "demonstrate: " << e.what() << '\n';
+  }
+  return EXIT_FAILURE;
+}
