@@ -1,4 +1,4 @@
-// Programs that a test starts.
+// Programs that this one starts.
 #include "child.h"
 
 #include <signal.h>
@@ -78,7 +78,7 @@ std::optional<int> Child::ExitStatus() {
   return status_;
 }
 
-// Files, not pipes, and none of the test's own: what goes to the background, as the holder of a
+// Files, not pipes, and none of this program's own: what goes to the background, as the holder of a
 // clipboard does, would keep the end of a pipe open, and whoever reads it waiting.
 Ended RunToEnd(const std::vector<std::string>& command, std::string_view input,
                const Environment& settings) {

@@ -1,4 +1,4 @@
-// Programs that a test starts.
+// Programs that this one starts.
 #ifndef VAMO_TOOLS_CHILD_H_
 #define VAMO_TOOLS_CHILD_H_
 
@@ -16,10 +16,10 @@ namespace vamo {
 
 using Environment = std::map<std::string, std::string>;
 
-// A program that runs beside the test. It is killed when the object goes.
+// A program that runs beside this one. It is killed when the object goes.
 class Child {
  public:
-  // `settings` are added to the environment of the test.
+  // `settings` are added to the environment of this program.
   Child(const std::vector<std::string>& command, const Environment& settings);
   ~Child();
   Child(const Child&) = delete;

@@ -121,8 +121,7 @@ class ScreenUser : public User {
     std::optional<Element> active;
   };
 
-  // What each kind of user does in a way of its own. None of it waits for the program.
-  //
+  // What each kind of user does in a way of its own. The acts do not wait for the program.
   virtual void PressCombination(const std::string& keys) = 0;
   virtual void TypePrintable(std::string_view text) = 0;
   // To a place as elements tell it.
@@ -135,6 +134,7 @@ class ScreenUser : public User {
   virtual bool Running() = 0;
   // Waits until the program and its desktop have nothing more to do.
   virtual void Settle() = 0;
+  // As the windows are now, or as they were when they had come to rest, where asking costs much.
   virtual Frames Look() { return ReadFrames(); }
 
   template <class Deed>

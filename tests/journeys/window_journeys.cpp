@@ -15,8 +15,9 @@ const Key kBackspaceKey = Key::Character(std::string(1, kBackspace));
 
 TEST(WindowJourney, TheSplashMakesWayAfterFourSeconds) {
   FromTheStart([](User& user) {
+    user.LetTimePass(3000ms);
     EXPECT_EQ(user.Windows(), std::vector<std::string>{""});
-    user.LetTimePass(4100ms);
+    user.LetTimePass(1100ms);
     // A window manager takes its time.
     for (int i = 0; i < 10 && user.ActiveTitle() != "Vamo"; ++i) user.LetTimePass(500ms);
     EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});

@@ -1,8 +1,6 @@
 // From outside: the program on other desktops than the tests' own, and its ends there.
 #include <gtest/gtest.h>
 
-#include <chrono>
-
 #include "steps.h"
 
 namespace vamo {
@@ -80,20 +78,6 @@ TEST(Desktop, TheMiddleButtonPastesWhatIsSelectedElsewhere) {
     user.PasteSelection(Role::kText, "Fisher's z", "7");
     EXPECT_EQ(FieldText(user, "Fisher's z"), "6.103");
     EXPECT_EQ(FieldText(user, "r"), ".99999");
-  });
-}
-
-TEST(Desktop, TheSplashStaysForFourSeconds) {
-  using Clock = std::chrono::steady_clock;
-  const Clock::time_point start = Clock::now();
-  FromTheStart({}, [&](OutsideUser& user) {
-    EXPECT_EQ(user.ActiveTitle(), "");
-    EXPECT_TRUE(Await([&] {
-      user.LetTimePass(std::chrono::milliseconds(0));
-      return user.ActiveTitle() == "Vamo";
-    }));
-    // The program has started later than this clock.
-    EXPECT_GE(Clock::now() - start, std::chrono::seconds(4));
   });
 }
 
