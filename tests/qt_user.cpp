@@ -123,7 +123,7 @@ class CountingDisplay : public QtDisplay {
   bool stopped_ = false;
 };
 
-class QtUser : public ScreenUser<QtElement> {
+class QtUser final : public ScreenUser<QtElement> {
  public:
   explicit QtUser(CountingDisplay& display) : display_(display) { Settle(); }
 

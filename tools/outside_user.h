@@ -19,7 +19,7 @@ namespace vamo {
 
 // Works a program by keys and mouse through the X server and reads it as assistive technology does.
 // It knows nothing of how the program is made, and does not judge what it sees.
-class OutsideUser : public ScreenUser<Element> {
+class OutsideUser final : public ScreenUser<Element> {
  public:
   // Waits until the program shows its first window.
   OutsideUser(Child& program, XScreen& screen, Ears& ears);
