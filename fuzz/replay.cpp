@@ -1,49 +1,74 @@
-// Runs a target over kept inputs: each file, and each file of each folder, that is named.
+// Runs a target over kept inputs, or over random ones, in order and without the fuzzer.
+//
+// Usage: replay_TARGET FILE-OR-FOLDER...     each file, and each file of each folder
+//        replay_TARGET --random SEED COUNT   so many inputs, one of each seed from SEED on
+//
+// An input is named before it runs, by what replays it alone: the last one named is the one that
+// has ended the process.
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <string>
+#include <random>
+#include <string_view>
 #include <vector>
 
 #include "target.h"
 
 namespace {
 
-// The files that an argument stands for.
-std::vector<std::filesystem::path> FilesOf(const std::filesystem::path& path) {
-  if (!std::filesystem::is_directory(path)) return {path};
-  std::vector<std::filesystem::path> files;
-  for (const auto& entry : std::filesystem::directory_iterator(path)) {
-    files.push_back(entry.path());
-  }
-  return files;
+namespace fs = std::filesystem;
+
+constexpr std::size_t kRandomBytes = 4096;
+
+// A vector of the input's own size, so that the sanitizers see a read past its end.
+void Run(const std::vector<char>& input) {
+  LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
 }
 
-// The name is said first: it is the last line where the input ends the process.
-bool Replay(const std::filesystem::path& file) {
-  std::cout << file.filename().string() << std::endl;
+bool RunFile(const fs::path& file) {
+  std::cout << file.string() << std::endl;
   std::ifstream stream(file, std::ios::binary);
   if (!stream) return false;
-  // A vector of its own size, so that the sanitizers see a read past its end.
-  const std::vector<char> input{std::istreambuf_iterator<char>(stream), {}};
-  LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+  Run({std::istreambuf_iterator<char>(stream), {}});
   return true;
+}
+
+bool RunFilesOf(const fs::path& path) {
+  if (!fs::is_directory(path)) return RunFile(path);
+  const std::vector<fs::path> files(fs::directory_iterator(path), {});
+  return !files.empty() && std::all_of(files.begin(), files.end(), RunFile);
+}
+
+// The generator's numbers are the same with every compiler; distributions are not.
+void RunRandom(std::uint64_t seed) {
+  std::cout << "--random " << seed << " 1" << std::endl;
+  std::mt19937_64 engine(seed);
+  std::vector<char> input(kRandomBytes);
+  std::generate(input.begin(), input.end(), [&] { return static_cast<char>(engine() & 0xFFU); });
+  Run(input);
+}
+
+bool RunRandomFrom(const char* seed, const char* count) {
+  constexpr int kDecimal = 10;
+  const std::uint64_t first = std::strtoull(seed, nullptr, kDecimal);
+  const std::uint64_t inputs = std::strtoull(count, nullptr, kDecimal);
+  for (std::uint64_t i = 0; i < inputs; ++i) RunRandom(first + i);
+  return inputs > 0;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  int replayed = 0;
-  for (int i = 1; i < argc; ++i) {
-    for (const auto& file : FilesOf(argv[i])) {
-      if (!Replay(file)) {
-        std::cerr << "cannot read " << file << "\n";
-        return 1;
-      }
-      ++replayed;
-    }
+  const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+  const bool random = argc == 4 && arguments[0] == "--random";
+  if (random ? RunRandomFrom(argv[2], argv[3])
+             : argc > 1 && std::all_of(arguments.begin(), arguments.end(), RunFilesOf)) {
+    return 0;
   }
-  if (replayed == 0) std::cerr << "no inputs\n";
-  return replayed == 0 ? 1 : 0;
+  std::cerr << "no input, or one that cannot be read\n";
+  return 1;
 }

@@ -1,7 +1,9 @@
-// The reader of property streams, on any bytes, for each class of object that is set by one.
-#include <optional>
+// The reader of property streams, on any bytes and on entries as they should be, for each class of
+// object that is set by one.
+#include <algorithm>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "target.h"
 #include "test_program.h"
@@ -43,10 +45,40 @@ bool IsWhole(const ClassInfo& info, std::string_view entries) {
   return true;
 }
 
-void Set(Object& object, std::string_view entries) {
-  std::string stream(1, '\xFF');
-  (stream += entries) += '\0';
+// Entries as a stream has them, but for a wrong name now and then and an end that may be cut short.
+std::string EntriesOf(const ClassInfo& info, Input input) {
+  std::vector<Property> properties;
+  for (const ClassInfo* part = &info; part != nullptr; part = part->base) {
+    properties.insert(properties.end(), part->properties.begin(), part->properties.end());
+  }
+  const std::size_t cut = input.Below(3);
+  std::string entries;
+  while (!input.AtEnd()) {
+    const Property property = input.Pick(properties);
+    (entries += property.name) += input.Below(1000) == 999 ? '_' : ' ';
+    if (property.type == PropertyType::kText) {
+      const std::string text = input.OddText();
+      for (const unsigned shift : {0U, 8U, 16U, 24U}) {
+        entries += static_cast<char>(text.size() >> shift & 0xFFU);
+      }
+      entries += text;
+    } else {
+      // Small numbers mean more than those of eight random bytes.
+      const std::size_t width = WidthOf(property.type, {});
+      std::string value(input.Take(input.OneIn(2) ? 1 : width));
+      value.resize(width);
+      entries += value;
+    }
+  }
+  return entries.substr(0, entries.size() - std::min(cut, entries.size()));
+}
+
+void Set(Object& object, Input input) {
+  const bool any_bytes = input.OneIn(2);
+  const std::string entries =
+      any_bytes ? std::string(input.Rest()) : EntriesOf(*object.Class(), input);
   // On the heap and not a byte longer, so that the sanitizers see a read past its end.
+  std::string stream = '\xFF' + entries + '\0';
   stream.shrink_to_fit();
   bool refused = false;
   try {
@@ -59,39 +91,39 @@ void Set(Object& object, std::string_view entries) {
 
 // A control in its window. What has been read of the stream must do for a display, too.
 template <class ControlClass>
-void SetControl(std::string_view entries) {
+void SetControl(Input input) {
   const auto window = New<Window>();
   const auto control = window->__New<ControlClass>();
   window->_AddControl("control", control);
-  Set(*control, entries);
+  Set(*control, input);
   window->Constructor();
-  Set(*control, entries);
+  Set(*control, input);
 }
 
-void SetWindow(std::string_view entries) {
+void SetWindow(Input input) {
   const auto window = New<Window>();
-  Set(*window, entries);
+  Set(*window, input);
   window->Constructor();
 }
 
-void SetTimer(std::string_view entries) { Set(*New<Timer>(), entries); }
+void SetTimer(Input input) { Set(*New<Timer>(), input); }
 
-constexpr void (*kClasses[])(std::string_view) = {SetWindow,
-                                                  SetTimer,
-                                                  SetControl<Label>,
-                                                  SetControl<TextField>,
-                                                  SetControl<TextArea>,
-                                                  SetControl<Slider>,
-                                                  SetControl<Canvas>,
-                                                  SetControl<Rectangle>,
-                                                  SetControl<PushButton>};
+constexpr void (*kClasses[])(Input) = {SetWindow,
+                                       SetTimer,
+                                       SetControl<Label>,
+                                       SetControl<TextField>,
+                                       SetControl<TextArea>,
+                                       SetControl<Slider>,
+                                       SetControl<Canvas>,
+                                       SetControl<Rectangle>,
+                                       SetControl<PushButton>};
 
 }  // namespace
 
 void TryInput(Input input) {
   TestProgram program;
-  const std::size_t kind = input.Byte() % std::size(kClasses);
-  kClasses[kind](input.Rest());
+  const auto set = input.Pick(kClasses);
+  set(input);
 }
 
 }  // namespace vamo

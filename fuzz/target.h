@@ -4,8 +4,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
+#include <iterator>
+#include <string>
 #include <string_view>
 
 // The name by which libFuzzer finds the target, and the replay of kept inputs.
@@ -14,40 +14,40 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 namespace vamo {
 
 // Ends the process where something that must hold does not; the fuzzer then keeps the input.
-inline void Require(bool holds, const char* what) {
-  if (holds) return;
-  std::fprintf(stderr, "does not hold: %s\n", what);
-  std::abort();
-}
+void Require(bool holds, std::string_view what);
 
 // Takes an input apart from its front. It never runs past the end: what is not there is zero or
 // empty.
 class Input {
  public:
-  Input(const std::uint8_t* data, std::size_t size)
-      : rest_(reinterpret_cast<const char*>(data), size) {}
+  explicit Input(std::string_view bytes) : rest_(bytes) {}
 
   bool AtEnd() const { return rest_.empty(); }
-  std::uint8_t Byte() {
-    const std::string_view byte = Take(1);
-    return byte.empty() ? std::uint8_t{0} : static_cast<std::uint8_t>(byte[0]);
-  }
-  std::uint64_t Number(int bytes) {
-    std::uint64_t number = 0;
-    for (; bytes > 0; --bytes) number = number << 8U | Byte();
-    return number;
-  }
-  // A text of up to 255 bytes, behind its length.
-  std::string_view ShortText() { return Take(Byte()); }
+  // Up to `count` bytes.
+  std::string_view Take(std::size_t count);
   std::string_view Rest() { return Take(rest_.size()); }
+  std::uint8_t Byte();
+  std::uint64_t Number(int bytes);
+
+  // From 0 up to, not including, `bound`, which is above 0 and of two bytes at most.
+  std::size_t Below(std::size_t bound) { return Number(bound > 256 ? 2 : 1) % bound; }
+  // From `least` to `greatest`.
+  std::int64_t Between(std::int64_t least, std::int64_t greatest) {
+    return least + static_cast<std::int64_t>(Below(static_cast<std::size_t>(greatest - least + 1)));
+  }
+  bool OneIn(std::size_t count) { return Below(count) == 0; }
+  template <class List>
+  const auto& Pick(const List& list) {
+    return std::data(list)[Below(std::size(list))];
+  }
+
+  // A number as somebody might write one into the field of r or of N; mostly within its range.
+  std::string WrittenNumber();
+  // What a clipboard may hold: numbers, signs, several points, broken UTF-8, zero bytes, line
+  // breaks, much of it.
+  std::string OddText();
 
  private:
-  std::string_view Take(std::size_t count) {
-    const std::string_view taken = rest_.substr(0, count);
-    rest_.remove_prefix(taken.size());
-    return taken;
-  }
-
   std::string_view rest_;
 };
 

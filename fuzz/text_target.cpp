@@ -1,6 +1,11 @@
-// A text field under any sequence of what the user and the program do to it.
+// Texts and numbers: Val, Format, what may be typed, and a text field, each of which the first byte
+// chooses.
 #include <algorithm>
-#include <cstddef>
+#include <bit>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,89 +16,237 @@
 #include "toolkit/key.h"
 #include "toolkit/property_stream.h"
 #include "toolkit/text_edit.h"
+#include "toolkit/typing_rule.h"
 #include "toolkit/utf8.h"
 
 namespace vamo {
 namespace {
 
-// The most that a text grows to here: pastes of its own text double it.
-constexpr std::size_t kMostBytes = 4096;
-// How far the way back leads.
-constexpr std::size_t kStepsBack = 100;
+constexpr auto kNone = std::string_view::npos;
+constexpr std::string_view kDigits = "0123456789";
 
-// Mostly none, since a mask lets little through; no longer than its length fits into one byte.
-std::string MaskFrom(Input& input) {
-  if (input.Byte() % 4 != 0) return "";
-  return ValidUtf8(input.ShortText().substr(0, 80));
+// A text as it comes, or one of the kind that people make.
+std::string AnyText(Input& input) {
+  return input.OneIn(2) ? std::string(input.Take(input.Byte())) : input.OddText();
 }
 
-// Sets the field's mask, as a window's layout does.
-void SetMask(TextField& field, std::string_view mask) {
-  std::string stream("\xFFValidationMask ");
-  stream += static_cast<char>(mask.size());
-  stream += std::string(3, '\0');
-  stream += mask;
-  stream += '\0';
-  _SetProperties(field, {stream.data(), stream.size() - 2});
+// A text of few characters, so that it often fits.
+std::string ShortText(Input& input, std::string_view characters) {
+  if (input.OneIn(4)) return ValidUtf8(AnyText(input));
+  std::string text;
+  for (std::size_t length = input.Below(9); length > 0; --length) text += input.Pick(characters);
+  return text;
 }
 
-std::ptrdiff_t LineBreaks(std::string_view text) {
-  return std::count_if(text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; });
+// The C library's reading of the part that counts. This process never sets a locale, so the decimal
+// mark is the point.
+double ReadByLibrary(std::string_view text) {
+  constexpr double kLargest = std::numeric_limits<double>::max();
+  const auto end_of_digits = [&](std::size_t from) {
+    return std::min(text.find_first_not_of(kDigits, from), text.size());
+  };
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+  std::size_t end = end_of_digits(text.find_first_of("+-") == 0 ? 1 : 0);
+  if (text.substr(end, 1) == ".") end = end_of_digits(end + 1);
+  const double value = std::strtod(std::string(text.substr(0, end)).c_str(), nullptr);
+  return std::clamp(value, -kLargest, kLargest);
+}
+
+void CheckTruncate(double value) {
+  const auto whole = static_cast<double>(Truncate(value));
+  if (std::fabs(value) > 9e18) return Require(std::fabs(whole) >= 9e18, "held to the limits");
+  Require(std::fabs(value - whole) < 1 && std::fabs(whole) <= std::fabs(value), "toward zero");
+}
+
+void TryVal(Input& input) {
+  const std::string text = AnyText(input);
+  const double value = Val(text);
+  Require(value == ReadByLibrary(text), "the number at the start of the text");
+  Require(value != 0 || !std::signbit(value), "no negative zero");
+  CheckTruncate(value);
+}
+
+// The decimals that a mask asks for.
+struct Decimals {
+  std::size_t least = 0;
+  std::size_t most = 0;
+};
+
+Decimals DecimalsOf(std::string_view mask) {
+  Decimals decimals;
+  for (const char c : mask.substr(std::min(mask.find('.'), mask.size()))) {
+    if (c == '#' || c == '0') ++decimals.most;
+    if (c == '0') decimals.least = decimals.most;
+  }
+  return decimals;
+}
+
+void CheckShape(double value, std::string_view mask, std::string_view text) {
+  const bool plus_wanted = mask.find('+') != kNone;
+  const std::string_view sign = text.substr(0, text.find_first_of("-+") == 0 ? 1 : 0);
+  Require(sign != "-" || value < 0, "a minus for a negative value alone");
+  Require(sign != "+" || (value > 0 && plus_wanted), "a plus where it is wanted");
+  Require(!plus_wanted || sign.empty() == (value == 0), "the side of zero");
+
+  text.remove_prefix(sign.size());
+  const std::size_t point = text.find('.');
+  const std::string_view decimals = point == kNone ? "" : text.substr(point + 1);
+  const auto [least, most] = DecimalsOf(mask);
+  Require((point == kNone) == (mask.find('.') == kNone), "the point of the mask");
+  Require(text.find_first_not_of(kDigits) == point, "digits before the point");
+  Require(decimals.find_first_not_of(kDigits) == kNone, "digits behind it");
+  Require(decimals.size() >= least && decimals.size() <= most, "as many as the mask has");
+}
+
+// Where a double has all the digits of the text, the text says the value to half a unit, and the
+// text of what it says is the text itself.
+void CheckReadingBack(double value, std::string_view mask, const std::string& text) {
+  const auto most = static_cast<double>(DecimalsOf(mask).most);
+  const double read = Val(text);
+  if (most > 15 || std::fabs(value) * std::pow(10, most) > 1e15) return;
+  const double half = 0.5 * std::pow(10, -most);
+  Require(std::fabs(read - value) <= half + std::fabs(value) * 1e-15, "rounded to its decimals");
+  if (read != 0) Require(Format(read, mask) == text, "the same text once more");
+}
+
+void TryFormat(Input& input) {
+  const std::uint64_t number = input.Number(8);
+  // Few of all doubles have the size of a result.
+  const auto value =
+      input.OneIn(2) ? std::bit_cast<double>(number) : std::ldexp(static_cast<double>(number), -64);
+  const std::string mask = ShortText(input, "##00.+ ");
+  const std::string text = Format(value, mask);
+  const auto whole = static_cast<std::int64_t>(number);
+  Require(Str(whole, "") == std::to_string(whole), "plain digits without a mask");
+  if (std::isfinite(value)) {
+    CheckShape(value, mask, text);
+    return CheckReadingBack(value, mask, text);
+  }
+  const std::string sign = value < 0 ? "-" : mask.find('+') == kNone ? "" : "+";
+  Require(text == (std::isnan(value) ? "n/a" : sign + "inf"), "no number");
+}
+
+// The characters of valid UTF-8.
+std::u32string CodePoints(std::string_view text) {
+  std::u32string points;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if ((byte & 0xC0U) == 0x80U) {
+      points.back() = points.back() << 6U | (byte & 0x3FU);
+    } else {
+      points += byte < 0x80 ? byte : byte < 0xE0 ? byte & 0x1FU : byte & 0x0FU;
+    }
+  }
+  return points;
+}
+
+bool IsDigit(char32_t c) { return c >= U'0' && c <= U'9'; }
+
+bool Fits(const std::u32string& text, const std::u32string& mask) {
+  return mask.empty() || (text.size() <= mask.size() &&
+                          std::equal(text.begin(), text.end(), mask.begin(), [](auto c, auto m) {
+                            return m == U'#' ? IsDigit(c) : c == m;
+                          }));
+}
+
+// What may stand before the caret then: the character or, for a digit, the character behind the
+// fewest literals of the mask with which it fits. A literal that is typed after all literals that
+// the mask begins with, and zeros, takes the place of the zeros.
+std::optional<std::u32string> ExpectedTyped(std::u32string before, const std::u32string& after,
+                                            char32_t character, const TypingRule& rule) {
+  const std::u32string mask = CodePoints(rule.mask);
+  const std::u32string literals = mask.substr(0, mask.find(U'#'));
+  const std::size_t zeros = before.size() - std::min(before.size(), literals.size());
+  if (zeros > 0 && !IsDigit(character) && literals.ends_with(character) &&
+      before == literals + std::u32string(zeros, U'0')) {
+    return Fits(literals + after, mask) ? std::optional(literals) : std::nullopt;
+  }
+  while (!Fits(before + character, mask)) {
+    const std::size_t at = before.size();
+    if (!IsDigit(character) || at >= mask.size() || mask[at] == U'#') return std::nullopt;
+    before += mask[at];
+  }
+  before += character;
+  const auto length = static_cast<std::int64_t>(before.size() + after.size());
+  const bool too_long = rule.maximum_characters > 0 && length > rule.maximum_characters;
+  return Fits(before + after, mask) && !too_long ? std::optional(before) : std::nullopt;
+}
+
+void TryTyped(Input& input) {
+  TypingRule rule;
+  rule.maximum_characters = input.Between(-1, 9);
+  rule.mask = ShortText(input, "###.1");
+  const std::string before = ShortText(input, "00.15");
+  const std::string after = ShortText(input, "00.15");
+  std::string character = ShortText(input, "00.15");
+  character.resize(NextCharacter(character, 0));
+  if (character.empty()) return;
+  const auto typed = Typed(before, after, character, rule);
+  const auto expected =
+      ExpectedTyped(CodePoints(before), CodePoints(after), CodePoints(character)[0], rule);
+  Require(typed.has_value() == expected.has_value(), "typed where it fits, and only there");
+  Require(!typed || CodePoints(*typed) == *expected, "what stands before the caret");
 }
 
 // A field and what is known of it from outside: the text that it announced last, and the texts
-// that the way back leads through. What an edit makes of the text is not known here.
+// that Undo goes back to. What an edit makes of the text is not known here.
 class WatchedField : public Object {
  public:
-  void Wire() {
+  void Wire(std::string_view mask) {
+    _SetProperties(*field_, EncodedStream<kMostMaskBytes + 32>().Text("ValidationMask", mask));
     field_->TextChange =
         Delegate<void(Ref<TextField>)>(Self(this), &WatchedField::TakeChange, ReceiverFlag::kWeak);
   }
-  TextField& Field() { return *field_; }
 
   // Does the next thing that the input says, and checks what must hold after it.
   void Do(Input& input) {
     const std::string before = field_->Text();
-    const std::uint8_t kind = input.Byte();
-    if (kind % 8 == 0) {
-      GoBack();
-    } else if (kind % 8 == 1) {
-      field_->SetText(input.ShortText());
-      if (field_->Text() != before) way_back_.clear();
+    const std::size_t kind = input.Below(8);
+    if (kind == 0) {
+      Undo();
+    } else if (kind == 1) {
+      field_->SetText(input.OddText());
+      if (field_->Text() != before) undone_.clear();
     } else {
       users_edit_ = true;
       Edit(input, kind);
       users_edit_ = false;
-      if (field_->Text() != before) way_back_.push_back(before);
-      if (way_back_.size() > kStepsBack) way_back_.erase(way_back_.begin());
+      if (field_->Text() != before) undone_.push_back(before);
+      if (undone_.size() > kUndoSteps) undone_.erase(undone_.begin());
     }
     CheckText();
   }
 
+  static constexpr std::size_t kMostMaskBytes = 80;
+
  private:
+  // The most that a text grows to here: pastes of its own text double it.
+  static constexpr std::size_t kMostBytes = 4096;
+  static constexpr std::size_t kUndoSteps = 100;
+
   void TakeChange(Ref<TextField> field) {
     Require(users_edit_ || field->Text() != announced_,
             "a write is announced for another text only");
     announced_ = field->Text();
   }
 
-  void GoBack() {
+  void Undo() {
     const bool can_undo = field_->CanUndo();
-    Require(can_undo != way_back_.empty(), "a way back where there was an edit");
+    Require(can_undo != undone_.empty(), "Undo where there was an edit");
     field_->Undo();
     if (!can_undo) return;
-    Require(field_->Text() == way_back_.back(), "back to the text before");
-    way_back_.pop_back();
+    Require(field_->Text() == undone_.back(), "back to the text before");
+    undone_.pop_back();
   }
 
-  void Edit(Input& input, std::uint8_t kind) {
-    switch (kind % 8) {
+  void Edit(Input& input, std::size_t kind) {
+    switch (kind) {
       case 2: {
         const std::size_t anchor = input.Byte();
         return field_->UserSelected(anchor, input.Byte());
       }
       case 3:
-        return Paste(input.ShortText());
+        return Paste(input.OddText());
       case 4:
         return field_->Cut();
       case 5:
@@ -101,7 +254,7 @@ class WatchedField : public Object {
         if (field_->Text().size() < kMostBytes) field_->Paste();
         return;
       default:
-        return Type(ValidUtf8(input.ShortText()));
+        return Type(ValidUtf8(input.OddText()));
     }
   }
 
@@ -114,6 +267,10 @@ class WatchedField : public Object {
   void Type(std::string_view text) {
     if (text.empty()) return;
     field_->TakeKey(Key::Character(std::string(text.substr(0, NextCharacter(text, 0)))));
+  }
+
+  static std::ptrdiff_t LineBreaks(std::string_view text) {
+    return std::count_if(text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; });
   }
 
   void CheckText() const {
@@ -129,17 +286,30 @@ class WatchedField : public Object {
   Ref<TextField> field_ = New<TextField>();
   std::string announced_;
   bool users_edit_ = false;
-  std::vector<std::string> way_back_;
+  std::vector<std::string> undone_;
 };
+
+// A field from its making on, under a part of the input.
+void TryField(Input& input) {
+  constexpr std::size_t kMostPart = 512;
+  TestProgram program;
+  const auto field = New<WatchedField>();
+  Input part(input.Take(kMostPart));
+  // Mostly none, since a mask lets little through.
+  const bool has_mask = part.OneIn(4);
+  field->Wire(has_mask ? ValidUtf8(part.Take(part.Below(WatchedField::kMostMaskBytes / 3))) : "");
+  while (!part.AtEnd()) field->Do(part);
+}
+
+constexpr void (*kSubjects[])(Input&) = {TryVal, TryFormat, TryTyped, TryField};
 
 }  // namespace
 
 void TryInput(Input input) {
-  TestProgram program;
-  const auto field = New<WatchedField>();
-  field->Wire();
-  SetMask(field->Field(), MaskFrom(input));
-  while (!input.AtEnd()) field->Do(input);
+  const auto subject = input.Pick(kSubjects);
+  do {
+    subject(input);
+  } while (!input.AtEnd());
 }
 
 }  // namespace vamo
