@@ -65,6 +65,10 @@ class HeadlessDisplay : public Display, public User {
   // The images that can be opened; by default every one can.
   void RemovePictures() { has_pictures_ = false; }
   bool Running() const { return !stopped_; }
+  // The windows in the order of the screen, the front one last; hidden ones are among them.
+  const std::vector<HeadlessWindow*>& Views() const { return windows_; }
+  // The window that has the keys. InvalidArgumentException where none has.
+  HeadlessWindow& ActiveView() const;
   // How often the clipboard has been read.
   int ClipboardReads() const { return clipboard_reads_; }
 
@@ -94,7 +98,6 @@ class HeadlessDisplay : public Display, public User {
   void Activate(HeadlessWindow& window);
   // As a desktop does when the window that had the keys has gone. Whether there was one to give to.
   bool GiveKeysToFrontWindow();
-  HeadlessWindow& ActiveView() const;
   HeadlessWindow& Titled(std::string_view title) const;
   HeadlessControl& Find(Role role, std::string_view name) const;
   HeadlessControl& FindDescribed(std::string_view description) const;
@@ -102,7 +105,6 @@ class HeadlessDisplay : public Display, public User {
   Ref<MenuItem> FindItem(std::string_view path) const;
 
   std::function<void(HeadlessDisplay&)> user_;
-  // In the order of the screen, the front one last; hidden ones are among them.
   std::vector<HeadlessWindow*> windows_;
   std::deque<std::function<void()>> events_;
   std::vector<class HeadlessTimer*> timers_;

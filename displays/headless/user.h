@@ -30,6 +30,7 @@ struct ShownControl {
   double value = 0;
   bool visible = false;
   bool enabled = false;
+  bool operator==(const ShownControl&) const = default;
 };
 
 // What a user can do and see, in the active window where nothing else is said. Controls are found

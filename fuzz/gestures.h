@@ -1,0 +1,204 @@
+// The gestures of a user that the bytes of an input stand for.
+#ifndef VAMO_FUZZ_GESTURES_H_
+#define VAMO_FUZZ_GESTURES_H_
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "displays/headless/display.h"
+#include "displays/headless/window.h"
+#include "target.h"
+#include "toolkit/conversions.h"
+#include "toolkit/menu_service.h"
+#include "toolkit/runtime.h"
+
+namespace vamo {
+
+// Makes one gesture after the other on the windows as they stand: only what is on the screen is
+// touched. It does not look at what comes of it.
+class Gestures {
+ public:
+  Gestures(Input& input, HeadlessDisplay& display) : input_(input), display_(display) {}
+
+  // What a gesture is meant to be.
+  struct Meaning {
+    bool ends_program = false;
+    // Typing of visible characters, and nothing else.
+    bool types = false;
+  };
+  Meaning MakeNext();
+
+ private:
+  // A kind of gesture has the bytes from the end of the one before it to its own.
+  struct Kind {
+    std::size_t end;
+    void (Gestures::*make)();
+  };
+  static const Kind kKinds[];
+  // The end of what can be done while no window has the keys.
+  static constexpr std::size_t kWithoutKeys = 22;
+
+  void Choose() {
+    const DrawnMenu menu = input_.Pick(DrawnMenus(*ActiveMenuBar()));
+    const Ref<MenuItem> item = input_.Pick(menu.items);
+    const bool quits = item->Value() == "Quit";
+    if (IsSeparator(*item) || (quits && !input_.OneIn(10))) return;
+    meaning_.ends_program = quits;
+    display_.Choose(menu.text + "/" + item->Value());
+  }
+  void Activate() {
+    if (const auto title = PickTitle()) display_.ActivateWindow(*title);
+  }
+  void Wait() { display_.LetTimePass(std::chrono::milliseconds(input_.Below(5000))); }
+  void Close() {
+    const auto title = PickTitle();
+    if (!title || (*title == "Vamo" && !input_.OneIn(10))) return;
+    const bool last = Runtime::Current().LiveWindows().size() == 1;
+    meaning_.ends_program = *title == "Vamo" || (last && display_.MenuBarsLiveInWindows());
+    display_.Close(*title);
+  }
+  void SwitchAway() { display_.SwitchAway(); }
+  void Quit() {
+    if (!input_.OneIn(5)) return;
+    meaning_.ends_program = true;
+    display_.PressKey(Key::Command("q"));
+  }
+
+  void PressDigit() {
+    static constexpr std::string_view kDigits[] = {"0", "1", "2", "3", "5", "9", "."};
+    meaning_.types = true;
+    display_.PressKey(Key::Character(std::string(input_.Pick(kDigits))));
+  }
+  void PressCharacter() {
+    using std::string_view_literals::operator""sv;
+    static constexpr std::string_view kCharacters[] = {
+        "a"sv,  "-"sv,    ","sv,    " "sv,  "é"sv,  "漢"sv,   "😀"sv,    "\b"sv,
+        "\b"sv, "\x7F"sv, "\x7F"sv, "\t"sv, "\r"sv, "\x1B"sv, "\x10"sv, "\0"sv};
+    Key key = Key::Character(std::string(input_.Pick(kCharacters)));
+    key.shift = input_.OneIn(4);
+    key.word = input_.OneIn(2);
+    display_.PressKey(key);
+  }
+  void PressOtherKey() {
+    constexpr auto kCodes = static_cast<std::size_t>(KeyCode::kOther) + 1;
+    Key key{static_cast<KeyCode>(input_.Below(kCodes)), ""};
+    key.shift = input_.OneIn(3);
+    key.command = input_.OneIn(20);
+    display_.PressKey(key);
+  }
+  void PressCommand() {
+    Key key = Key::Command(std::string(1, input_.Pick(std::string_view("acvxzb1"))));
+    key.shift = input_.OneIn(10);
+    display_.PressKey(key);
+  }
+  void Type() { display_.Type(input_.OddText()); }
+  void Paste() { PasteText(input_.OddText()); }
+  void Overwrite() {
+    if (!PickShown(Role::kText) || !PickShown(Role::kSlider)) return;
+    display_.Click(Role::kText, input_.OneIn(2) ? "r" : "N");
+    display_.PressKey(Key::Command("a"));
+    PasteText(input_.WrittenNumber());
+  }
+  void Drop() {
+    if (const auto field = PickShown(Role::kText)) {
+      display_.Drop(Role::kText, field->name, input_.OddText());
+    }
+  }
+  void Select() {
+    const auto field = PickShown(Role::kText);
+    if (!field) return;
+    const std::size_t bound = std::min<std::size_t>(field->text.size() + 3, 256);
+    const std::size_t anchor = input_.Below(bound);
+    display_.Select(field->name, anchor, input_.Below(bound));
+  }
+
+  void Click() {
+    const auto control = PickShown(static_cast<Role>(input_.Below(4)));
+    if (!control) return;
+    if (control->description.empty()) return display_.Click(control->role, control->name);
+    display_.ClickDescribed(control->description);
+  }
+  void PressButton() {
+    if (const auto button = PickShown(Role::kButton)) {
+      display_.PressByAssistiveTechnology(button->name);
+    }
+  }
+  void Drag() {
+    const auto slider = PickShown(Role::kSlider);
+    if (!slider) return;
+    std::vector<std::int64_t> positions(input_.Below(4) + 1);
+    for (std::int64_t& position : positions) position = PickPosition(slider->name);
+    display_.DragSlider(slider->name, positions);
+  }
+  // Now and then where the text has been already, which the knob then leaves as it is.
+  std::int64_t PickPosition(std::string_view slider) {
+    const std::size_t kind = input_.Below(4);
+    if (kind == 0) return input_.Between(-5, 1005);
+    if (kind > 1) return input_.Between(0, 110);
+    const double number = Val(display_.Sees(Role::kText, slider).text);
+    return Truncate(slider == "r" ? 100 * number : number);
+  }
+  void TurnWheel() {
+    if (const auto slider = PickShown(Role::kSlider)) {
+      display_.TurnWheel(slider->name, input_.Between(-12, 12));
+    }
+  }
+
+  void PasteText(std::string_view text) {
+    display_.SetClipboard(text);
+    display_.PressKey(Key::Command("v"));
+  }
+
+  // A control of the window that has the keys; nothing where the user sees none of the kind.
+  std::optional<ShownControl> PickShown(Role role) {
+    std::vector<ShownControl> shown;
+    for (const HeadlessControl* control : display_.ActiveView().Controls()) {
+      const ShownControl& candidate = control->Shown();
+      if (candidate.visible && candidate.role == role) shown.push_back(candidate);
+    }
+    if (shown.empty()) return std::nullopt;
+    return input_.Pick(shown);
+  }
+  std::optional<std::string> PickTitle() {
+    const std::vector<std::string> titles = display_.Windows();
+    if (titles.empty()) return std::nullopt;
+    return input_.Pick(titles);
+  }
+
+  Input& input_;
+  HeadlessDisplay& display_;
+  Meaning meaning_;
+};
+
+inline constexpr Gestures::Kind Gestures::kKinds[] = {
+    {8, &Gestures::Choose},          {15, &Gestures::Activate},
+    {19, &Gestures::Wait},           {kWithoutKeys, &Gestures::Close},
+    {24, &Gestures::SwitchAway},     {25, &Gestures::Quit},
+    {79, &Gestures::PressDigit},     {107, &Gestures::PressCharacter},
+    {129, &Gestures::PressOtherKey}, {151, &Gestures::PressCommand},
+    {162, &Gestures::Type},          {173, &Gestures::Paste},
+    {194, &Gestures::Overwrite},     {199, &Gestures::Drop},
+    {210, &Gestures::Select},        {221, &Gestures::Click},
+    {225, &Gestures::PressButton},   {245, &Gestures::Drag},
+    {256, &Gestures::TurnWheel}};
+
+inline Gestures::Meaning Gestures::MakeNext() {
+  meaning_ = {};
+  std::size_t number = input_.Byte();
+  if (!Runtime::Current().ActiveWindow()) number %= kWithoutKeys;
+  const Kind* const kind = std::find_if(std::begin(kKinds), std::end(kKinds),
+                                        [&](const Kind& k) { return number < k.end; });
+  (this->*kind->make)();
+  return meaning_;
+}
+
+}  // namespace vamo
+
+#endif  // VAMO_FUZZ_GESTURES_H_
