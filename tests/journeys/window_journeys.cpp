@@ -73,6 +73,8 @@ TEST(WindowJourney, InfoIsOneWindowThatCanBeReopened) {
 
 TEST(WindowJourney, TheInfoTextIsReadAndCopiedByKeysButNotChanged) {
   InControlWindow([](User& user) {
+    user.PressKey(Arrow(KeyCode::kHelp, /*shift=*/true));
+    EXPECT_EQ(user.ActiveTitle(), "Vamo") << "with shift it is another key";
     user.PressKey(Arrow(KeyCode::kHelp));
     EXPECT_EQ(user.Focused().name, "Info");
     EXPECT_EQ(user.Focused().selected_text, "");
