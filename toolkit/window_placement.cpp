@@ -7,9 +7,8 @@
 namespace vamo {
 namespace {
 
-// What the numbers of a window's type mean, beside that of a splash.
+// The type of a window that is neither a splash nor to be read.
 constexpr std::int64_t kWorkingWindow = 0;
-constexpr std::int64_t kWindowBeside = 7;
 
 // The first live window of which that is true, or nil.
 template <class Predicate>
@@ -35,7 +34,7 @@ Window::Placement Window::WhereToShow() const {
     return {Rule::kMiddleOfScreen};
   }
   if (has_been_shown_) return {};
-  if (state_.type == kWindowBeside) {
+  if (IsReading()) {
     const Ref<Window> working = WorkingWindowOnScreen();
     return working ? Placement{Rule::kBeside, working} : Placement{};
   }

@@ -1,7 +1,6 @@
 // Where windows go on the screen.
 #include "displays/qt/placement.h"
 
-#include <QApplication>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -12,9 +11,8 @@ namespace vamo {
 namespace {
 
 QWidget* WidgetOf(const Ref<Window>& window) {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    const auto* shown = dynamic_cast<WindowWidget*>(widget);
-    if (shown != nullptr && window && shown->GetWindow() == &*window) return widget;
+  for (WindowWidget* widget : AllWindows()) {
+    if (window && widget->GetWindow() == &*window) return widget;
   }
   return nullptr;
 }

@@ -7,6 +7,7 @@
 #include <QWindow>
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "displays/qt/convert.h"
 #include "displays/qt/menu.h"
@@ -147,6 +148,14 @@ bool WindowWidget::event(QEvent* event) {
 void WindowWidget::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (window_ != nullptr) window_->UserAskedToClose();
+}
+
+std::vector<WindowWidget*> AllWindows() {
+  std::vector<WindowWidget*> windows;
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (auto* window = dynamic_cast<WindowWidget*>(widget)) windows.push_back(window);
+  }
+  return windows;
 }
 
 QtWindowView::QtWindowView(Window& window, Activation& activation, Zoom& zoom)

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <memory>
+#include <vector>
 
 #include "displays/qt/activation.h"
 #include "displays/qt/content.h"
@@ -64,6 +65,9 @@ class WindowWidget : public QWidget {
   QMenuBar* menu_bar_ = nullptr;
   bool just_placed_ = false;
 };
+
+// The program's windows, hidden ones and those that go at the end of an event among them.
+std::vector<WindowWidget*> AllWindows();
 
 // A window's end of its widget, which it owns.
 class QtWindowView : public WindowView {

@@ -14,14 +14,6 @@ namespace {
 
 constexpr std::array kFactors{1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0, 3.5, 4.0, 5.0, 6.0, 8.0};
 
-std::vector<WindowWidget*> AllWindows() {
-  std::vector<WindowWidget*> windows;
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    if (auto* window = dynamic_cast<WindowWidget*>(widget)) windows.push_back(window);
-  }
-  return windows;
-}
-
 bool FitsTheScreen(double factor) {
   const std::vector<WindowWidget*> windows = AllWindows();
   return std::all_of(windows.begin(), windows.end(), [&](WindowWidget* window) {
