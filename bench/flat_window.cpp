@@ -1,4 +1,3 @@
-// What one move of a slider of the control window comes to, without any window.
 #include "flat_window.h"
 
 #include "stats/interval.h"

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "controlwnd/control_wnd.h"
-#include "displays/headless/display.h"
+#include "displays/headless/user.h"
 #include "flat_window.h"
 #include "p_references.h"
 #include "shell/startup.h"
@@ -86,8 +86,8 @@ void FlatEvent(benchmark::State& state, const char* n) {
 // Runs the program without pixels and does something with its control window, N being set.
 template <class Function>
 void WithControlWindow(const char* n, const Function& function) {
-  Main(std::make_unique<HeadlessDisplay>([&](HeadlessDisplay& display) {
-    display.Type(" ");
+  Main(std::make_unique<HeadlessDisplay>([&](HeadlessUser& user) {
+    user.Type(" ");
     const auto window = Cast<class ControlWnd>(ControlWnd());
     window->nEdit()->SetText(n);
     function(*window);

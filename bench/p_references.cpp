@@ -1,4 +1,3 @@
-// Other ways to the two-tailed p of Student's t, and the least that a pass of the series can cost.
 #include "p_references.h"
 
 #include <algorithm>

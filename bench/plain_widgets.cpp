@@ -1,4 +1,3 @@
-// What the windows written by hand are put together from.
 #include "plain_widgets.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,3 @@
-// The control window, written by hand.
 #include "plain_window.h"
 
 #include <QApplication>

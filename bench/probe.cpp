@@ -1,4 +1,3 @@
-// Works a program from inside and takes one measurement.
 #include "probe.h"
 
 #include <malloc.h>

@@ -5,8 +5,8 @@
 #ifndef VAMO_CONTROLWND_ACCESSORS_H_
 #define VAMO_CONTROLWND_ACCESSORS_H_
 
-#include "toolkit/menu_item.h"
-#include "toolkit/window.h"
+#include "toolkit/window/menu_item.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 

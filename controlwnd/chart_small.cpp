@@ -1,7 +1,6 @@
-// The picture that the control window and the About window show.
 #include "controlwnd/chart_small.h"
 
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo::_x_ChartSmall {
 

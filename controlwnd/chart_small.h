@@ -2,7 +2,7 @@
 #ifndef VAMO_CONTROLWND_CHART_SMALL_H_
 #define VAMO_CONTROLWND_CHART_SMALL_H_
 
-#include "toolkit/picture.h"
+#include "toolkit/control/canvas.h"
 
 namespace vamo::_x_ChartSmall {
 

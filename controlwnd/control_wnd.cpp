@@ -5,7 +5,7 @@
 #include "stats/interval.h"
 #include "stats/significance.h"
 #include "toolkit/conversions.h"
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {

@@ -1,4 +1,3 @@
-// The working window.
 #ifndef VAMO_CONTROLWND_CONTROL_WND_H_
 #define VAMO_CONTROLWND_CONTROL_WND_H_
 
@@ -9,13 +8,13 @@
 
 #include "controlwnd/accessors.h"
 #include "controlwnd/menu_accessors.h"
-#include "toolkit/label.h"
-#include "toolkit/picture.h"
-#include "toolkit/push_button.h"
-#include "toolkit/rectangle.h"
-#include "toolkit/slider.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/window.h"
+#include "toolkit/control/canvas.h"
+#include "toolkit/control/label.h"
+#include "toolkit/control/push_button.h"
+#include "toolkit/control/rectangle.h"
+#include "toolkit/control/slider.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 

@@ -1,6 +1,6 @@
 // The working window: what it does at the points of its life that are not input of r or N.
 #include "controlwnd/control_wnd.h"
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {

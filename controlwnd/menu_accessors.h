@@ -2,7 +2,7 @@
 #ifndef VAMO_CONTROLWND_MENU_ACCESSORS_H_
 #define VAMO_CONTROLWND_MENU_ACCESSORS_H_
 
-#include "toolkit/menu_item.h"
+#include "toolkit/window/menu_item.h"
 
 // One for each item, named as the item, which is looked up in the window's bar. Each raises
 // IllegalCastException for an item of another class.

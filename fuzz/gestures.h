@@ -12,12 +12,12 @@
 #include <string_view>
 #include <vector>
 
-#include "displays/headless/display.h"
+#include "displays/headless/user.h"
 #include "displays/headless/window.h"
 #include "target.h"
 #include "toolkit/conversions.h"
-#include "toolkit/menu_service.h"
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/window/menu_service.h"
 
 namespace vamo {
 
@@ -25,7 +25,7 @@ namespace vamo {
 // touched. It does not look at what comes of it.
 class Gestures {
  public:
-  Gestures(Input& input, HeadlessDisplay& display) : input_(input), display_(display) {}
+  Gestures(Input& input, HeadlessUser& user) : input_(input), user_(user) {}
 
   // What a gesture is meant to be.
   struct Meaning {
@@ -51,30 +51,30 @@ class Gestures {
     const bool quits = item->Value() == "Quit";
     if (IsSeparator(*item) || (quits && !input_.OneIn(10))) return;
     meaning_.ends_program = quits;
-    display_.Choose(menu.text + "/" + item->Value());
+    user_.Choose(menu.text + "/" + item->Value());
   }
   void Activate() {
-    if (const auto title = PickTitle()) display_.ActivateWindow(*title);
+    if (const auto title = PickTitle()) user_.ActivateWindow(*title);
   }
-  void Wait() { display_.LetTimePass(std::chrono::milliseconds(input_.Below(5000))); }
+  void Wait() { user_.LetTimePass(std::chrono::milliseconds(input_.Below(5000))); }
   void Close() {
     const auto title = PickTitle();
     if (!title || (*title == "Vamo" && !input_.OneIn(10))) return;
     const bool last = Runtime::Current().LiveWindows().size() == 1;
-    meaning_.ends_program = *title == "Vamo" || (last && display_.MenuBarsLiveInWindows());
-    display_.Close(*title);
+    meaning_.ends_program = *title == "Vamo" || (last && user_.Display().MenuBarsLiveInWindows());
+    user_.Close(*title);
   }
-  void SwitchAway() { display_.SwitchAway(); }
+  void SwitchAway() { user_.SwitchAway(); }
   void Quit() {
     if (!input_.OneIn(5)) return;
     meaning_.ends_program = true;
-    display_.PressKey(Key::Command("q"));
+    user_.PressKey(Key::Command("q"));
   }
 
   void PressDigit() {
     static constexpr std::string_view kDigits[] = {"0", "1", "2", "3", "5", "9", "."};
     meaning_.types = true;
-    display_.PressKey(Key::Character(std::string(input_.Pick(kDigits))));
+    user_.PressKey(Key::Character(std::string(input_.Pick(kDigits))));
   }
   void PressCharacter() {
     using std::string_view_literals::operator""sv;
@@ -84,31 +84,31 @@ class Gestures {
     Key key = Key::Character(std::string(input_.Pick(kCharacters)));
     key.shift = input_.OneIn(4);
     key.word = input_.OneIn(2);
-    display_.PressKey(key);
+    user_.PressKey(key);
   }
   void PressOtherKey() {
     constexpr auto kCodes = static_cast<std::size_t>(KeyCode::kOther) + 1;
     Key key{static_cast<KeyCode>(input_.Below(kCodes)), ""};
     key.shift = input_.OneIn(3);
     key.command = input_.OneIn(20);
-    display_.PressKey(key);
+    user_.PressKey(key);
   }
   void PressCommand() {
     Key key = Key::Command(std::string(1, input_.Pick(std::string_view("acvxzb1"))));
     key.shift = input_.OneIn(10);
-    display_.PressKey(key);
+    user_.PressKey(key);
   }
-  void Type() { display_.Type(input_.OddText()); }
+  void Type() { user_.Type(input_.OddText()); }
   void Paste() { PasteText(input_.OddText()); }
   void Overwrite() {
     if (!PickShown(Role::kText) || !PickShown(Role::kSlider)) return;
-    display_.Click(Role::kText, input_.OneIn(2) ? "r" : "N");
-    display_.PressKey(Key::Command("a"));
+    user_.Click(Role::kText, input_.OneIn(2) ? "r" : "N");
+    user_.PressKey(Key::Command("a"));
     PasteText(input_.WrittenNumber());
   }
   void Drop() {
     if (const auto field = PickShown(Role::kText)) {
-      display_.Drop(Role::kText, field->name, input_.OddText());
+      user_.Drop(Role::kText, field->name, input_.OddText());
     }
   }
   void Select() {
@@ -116,18 +116,18 @@ class Gestures {
     if (!field) return;
     const std::size_t bound = std::min<std::size_t>(field->text.size() + 3, 256);
     const std::size_t anchor = input_.Below(bound);
-    display_.Select(field->name, anchor, input_.Below(bound));
+    user_.Select(field->name, anchor, input_.Below(bound));
   }
 
   void Click() {
     const auto control = PickShown(static_cast<Role>(input_.Below(4)));
     if (!control) return;
-    if (control->description.empty()) return display_.Click(control->role, control->name);
-    display_.ClickDescribed(control->description);
+    if (control->description.empty()) return user_.Click(control->role, control->name);
+    user_.ClickDescribed(control->description);
   }
   void PressButton() {
     if (const auto button = PickShown(Role::kButton)) {
-      display_.PressByAssistiveTechnology(button->name);
+      user_.PressByAssistiveTechnology(button->name);
     }
   }
   void Drag() {
@@ -135,31 +135,31 @@ class Gestures {
     if (!slider) return;
     std::vector<std::int64_t> positions(input_.Below(4) + 1);
     for (std::int64_t& position : positions) position = PickPosition(slider->name);
-    display_.DragSlider(slider->name, positions);
+    user_.DragSlider(slider->name, positions);
   }
   // Now and then where the text has been already, which the knob then leaves as it is.
   std::int64_t PickPosition(std::string_view slider) {
     const std::size_t kind = input_.Below(4);
     if (kind == 0) return input_.Between(-5, 1005);
     if (kind > 1) return input_.Between(0, 110);
-    const double number = Val(display_.Sees(Role::kText, slider).text);
+    const double number = Val(user_.Sees(Role::kText, slider).text);
     return Truncate(slider == "r" ? 100 * number : number);
   }
   void TurnWheel() {
     if (const auto slider = PickShown(Role::kSlider)) {
-      display_.TurnWheel(slider->name, input_.Between(-12, 12));
+      user_.TurnWheel(slider->name, input_.Between(-12, 12));
     }
   }
 
   void PasteText(std::string_view text) {
-    display_.SetClipboard(text);
-    display_.PressKey(Key::Command("v"));
+    user_.SetClipboard(text);
+    user_.PressKey(Key::Command("v"));
   }
 
   // A control of the window that has the keys; nothing where the user sees none of the kind.
   std::optional<ShownControl> PickShown(Role role) {
     std::vector<ShownControl> shown;
-    for (const HeadlessControl* control : display_.ActiveView().Controls()) {
+    for (const HeadlessControl* control : user_.Display().ActiveWindow().Controls()) {
       const ShownControl& candidate = control->Shown();
       if (candidate.visible && candidate.role == role) shown.push_back(candidate);
     }
@@ -167,13 +167,13 @@ class Gestures {
     return input_.Pick(shown);
   }
   std::optional<std::string> PickTitle() {
-    const std::vector<std::string> titles = display_.Windows();
+    const std::vector<std::string> titles = user_.Windows();
     if (titles.empty()) return std::nullopt;
     return input_.Pick(titles);
   }
 
   Input& input_;
-  HeadlessDisplay& display_;
+  HeadlessUser& user_;
   Meaning meaning_;
 };
 

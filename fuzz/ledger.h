@@ -12,8 +12,8 @@
 #include "stats/significance.h"
 #include "target.h"
 #include "toolkit/conversions.h"
-#include "toolkit/delegate.h"
-#include "toolkit/object.h"
+#include "toolkit/object/delegate.h"
+#include "toolkit/object/object.h"
 
 namespace vamo {
 

@@ -7,15 +7,16 @@
 
 #include "target.h"
 #include "test_program.h"
-#include "toolkit/label.h"
-#include "toolkit/picture.h"
-#include "toolkit/property_stream.h"
-#include "toolkit/push_button.h"
-#include "toolkit/rectangle.h"
-#include "toolkit/slider.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/timer.h"
-#include "toolkit/window.h"
+#include "toolkit/control/canvas.h"
+#include "toolkit/control/label.h"
+#include "toolkit/control/push_button.h"
+#include "toolkit/control/rectangle.h"
+#include "toolkit/control/slider.h"
+#include "toolkit/object/property_stream.h"
+#include "toolkit/text/text_area.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/window/timer.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {

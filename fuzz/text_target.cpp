@@ -12,11 +12,12 @@
 
 #include "target.h"
 #include "test_program.h"
+#include "toolkit/control/properties.h"
 #include "toolkit/conversions.h"
-#include "toolkit/key.h"
-#include "toolkit/property_stream.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/typing_rule.h"
+#include "toolkit/object/property_stream.h"
+#include "toolkit/runtime/key.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/text/typing_rule.h"
 #include "toolkit/utf8.h"
 
 namespace vamo {
@@ -193,7 +194,8 @@ void TryTyped(Input& input) {
 class WatchedField : public Object {
  public:
   void Wire(std::string_view mask) {
-    _SetProperties(*field_, EncodedStream<kMostMaskBytes + 32>().Text("ValidationMask", mask));
+    _SetProperties(*field_,
+                   EncodedStream<kMostMaskBytes + 32>().Set(property::kValidationMask, mask));
     field_->TextChange =
         Delegate<void(Ref<TextField>)>(Self(this), &WatchedField::TakeChange, ReceiverFlag::kWeak);
   }
@@ -277,7 +279,7 @@ class WatchedField : public Object {
     const std::string& text = field_->Text();
     Require(text == announced_, "each change is announced");
     Require(text == ValidUtf8(text), "valid UTF-8");
-    const auto [anchor, caret] = field_->GetSelection();
+    const auto [anchor, caret] = field_->Selection();
     Require(anchor == CharacterBoundary(text, anchor) && caret == CharacterBoundary(text, caret),
             "the selection lies between characters");
     Require((Asc(text) == 0xFFFD) == (text.rfind("\xEF\xBF\xBD", 0) == 0), "the first character");

@@ -6,13 +6,13 @@
 #include <string_view>
 #include <vector>
 
-#include "displays/headless/display.h"
+#include "displays/headless/user.h"
 #include "displays/headless/window.h"
 #include "gestures.h"
 #include "ledger.h"
 #include "shell/startup.h"
 #include "target.h"
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {
@@ -21,21 +21,21 @@ namespace {
 // windows that there have been.
 class UserDisplay : public HeadlessDisplay {
  public:
-  UserDisplay(std::function<void(HeadlessDisplay&)> user, bool bars_live_in_windows,
-              std::vector<WeakRef>& opened)
+  UserDisplay(std::function<void(HeadlessUser&)> user, bool bars_live_in_windows,
+              std::vector<WeakRef<Object>>& opened)
       : HeadlessDisplay(std::move(user)),
         bars_live_in_windows_(bars_live_in_windows),
         opened_(opened) {}
 
   bool MenuBarsLiveInWindows() const override { return bars_live_in_windows_; }
   std::unique_ptr<WindowView> OpenWindow(Window& window) override {
-    opened_.emplace_back(Self(&window));
+    opened_.emplace_back(Ref<Object>(Self(&window)));
     return HeadlessDisplay::OpenWindow(window);
   }
 
  private:
   const bool bars_live_in_windows_;
-  std::vector<WeakRef>& opened_;
+  std::vector<WeakRef<Object>>& opened_;
 };
 
 // The control window, where there is one; it is not made for the question.
@@ -43,14 +43,15 @@ Ref<class ControlWnd> LiveControlWnd() {
   return Cast<class ControlWnd>(_GetImplicitWindow("ControlWnd.ControlWnd"));
 }
 
-void CheckWindows(const HeadlessDisplay& display, const std::vector<WeakRef>& opened) {
+void CheckWindows(const HeadlessDisplay& display, const std::vector<WeakRef<Object>>& opened) {
   const std::vector<Ref<Window>>& live = Runtime::Current().LiveWindows();
   for (const Ref<Window>& window : live) {
     Require(_GetImplicitWindow(window->Class()->name) == window, "one live window of a class");
   }
-  const auto alive = std::count_if(opened.begin(), opened.end(),
-                                   [](const WeakRef& window) { return bool(window.Value()); });
-  Require(display.Views().size() == live.size(), "a live window is on the display, no other");
+  const auto alive = std::count_if(opened.begin(), opened.end(), [](const WeakRef<Object>& window) {
+    return bool(window.Value());
+  });
+  Require(display.Windows().size() == live.size(), "a live window is on the display, no other");
   Require(static_cast<std::size_t>(alive) == live.size(), "a closed window goes");
 
   const Ref<Window>& active = Runtime::Current().ActiveWindow();
@@ -62,23 +63,23 @@ void CheckWindows(const HeadlessDisplay& display, const std::vector<WeakRef>& op
 
 // What a display shows is the state of the objects: asked anew, each would show the same.
 void CheckShown(const HeadlessDisplay& display) {
-  for (HeadlessWindow* view : display.Views()) {
+  for (HeadlessWindow* view : display.Windows()) {
     const Ref<RectControl>& focus = view->Window().Focus();
     Require(view->OnScreen() == view->Window().Visible(), "a visible window is on the screen");
     Require((view->Focus() == nullptr ? nullptr : &view->Focus()->Control()) ==
                 (focus ? &*focus : nullptr),
             "the focus is shown");
     Require(!focus || focus->CanTakeFocus(), "the focus is on what can have it");
-    for (const HeadlessControl* control : std::vector(view->Controls())) {
-      Require(HeadlessControl(*view, control->Control()).Shown() == control->Shown(),
+    for (const HeadlessControl* control : view->Controls()) {
+      Require(control->Present() == control->Shown(),
               control->Control().Name() + " is shown as it is");
     }
   }
 }
 
 // Results are spoken as they show. A warning may have come and gone in the course of one gesture.
-void CheckHeard(HeadlessDisplay& display) {
-  for (const std::string& heard : display.Hears()) {
+void CheckHeard(User& user) {
+  for (const std::string& heard : user.Hears()) {
     const Ref<class ControlWnd> window = LiveControlWnd();
     Require(window && Runtime::Current().ActiveWindow() == window, "said in the active window");
     if (heard == "range of N (4 - 1,1000)") continue;
@@ -104,30 +105,32 @@ class Program {
 
   void Run() {
     const bool bars_live_in_windows = input_.OneIn(2);
-    const int status = Main(std::make_unique<UserDisplay>(
-        [this](HeadlessDisplay& display) { Use(display); }, bars_live_in_windows, objects_));
+    const int status = Main(std::make_unique<UserDisplay>([this](HeadlessUser& user) { Use(user); },
+                                                          bars_live_in_windows, objects_));
     ledger_ = nullptr;
     Require(status == 0, "the program ends well");
     Require(!Runtime::Exists(), "the run time ends");
-    for (const WeakRef& object : objects_) Require(!object.Value(), "nothing outlives the end");
+    for (const WeakRef<Object>& object : objects_)
+      Require(!object.Value(), "nothing outlives the end");
   }
 
  private:
-  void Use(HeadlessDisplay& display) {
-    Gestures gestures(input_, display);
-    while (display.Running() && !input_.AtEnd()) Watch(gestures, display);
-    objects_.emplace_back(Runtime::Current().App());
-    objects_.emplace_back(Menu());
+  void Use(HeadlessUser& user) {
+    Gestures gestures(input_, user);
+    while (user.Display().Running() && !input_.AtEnd()) Watch(gestures, user);
+    objects_.emplace_back(Ref<Object>(Runtime::Current().App()));
+    objects_.emplace_back(Ref<Object>(Menu()));
   }
 
-  void Watch(Gestures& gestures, HeadlessDisplay& display) {
+  void Watch(Gestures& gestures, HeadlessUser& user) {
     const Before before;
     const Gestures::Meaning meaning = gestures.MakeNext();
+    const HeadlessDisplay& display = user.Display();
     Require(display.Running() != meaning.ends_program, "who ends the program means it");
     if (!display.Running()) return;
     CheckWindows(display, objects_);
     CheckShown(display);
-    CheckHeard(display);
+    CheckHeard(user);
     if (const Ref<class ControlWnd> window = LiveControlWnd()) {
       CheckControlWnd(*window, before, meaning.types);
     }
@@ -141,7 +144,7 @@ class Program {
         n = window->nEdit()->Text();
       }
     }
-    const WeakRef active{Runtime::Current().ActiveWindow()};
+    const WeakRef<Window> active{Runtime::Current().ActiveWindow()};
     std::string r, n;
   };
 
@@ -161,7 +164,7 @@ class Program {
 
   Input& input_;
   // All windows and, at the end, what else must go.
-  std::vector<WeakRef> objects_;
+  std::vector<WeakRef<Object>> objects_;
   Ref<Ledger> ledger_;
 };
 

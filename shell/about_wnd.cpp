@@ -2,9 +2,9 @@
 #include "shell/about_wnd.h"
 
 #include "controlwnd/chart_small.h"
+#include "controlwnd/stream_tables.h"
 #include "shell/rights.h"
-#include "toolkit/runtime.h"
-#include "toolkit/stream_tables.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {

@@ -1,4 +1,3 @@
-// The About window, which is the splash at the start.
 #ifndef VAMO_SHELL_ABOUT_WND_H_
 #define VAMO_SHELL_ABOUT_WND_H_
 
@@ -7,10 +6,10 @@
 #include <string_view>
 
 #include "controlwnd/accessors.h"
-#include "toolkit/label.h"
-#include "toolkit/picture.h"
-#include "toolkit/timer.h"
-#include "toolkit/window.h"
+#include "toolkit/control/canvas.h"
+#include "toolkit/control/label.h"
+#include "toolkit/window/timer.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 

@@ -1,9 +1,8 @@
-// The file type set of the program.
 #include "shell/file_types.h"
 
 #include <string_view>
 
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo::FileTypes {
 

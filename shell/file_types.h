@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "toolkit/file_type.h"
-#include "toolkit/object.h"
+#include "toolkit/object/object.h"
+#include "toolkit/runtime/file_type.h"
 
 // The set is registered at start-up; nothing in the program opens or saves a file of these types.
 namespace vamo::FileTypes {

@@ -1,8 +1,7 @@
-// The application object.
 #include "shell/handle_about_menu.h"
 
 #include "controlwnd/accessors.h"
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {

@@ -1,12 +1,11 @@
-// The application object.
 #ifndef VAMO_SHELL_HANDLE_ABOUT_MENU_H_
 #define VAMO_SHELL_HANDLE_ABOUT_MENU_H_
 
 #include <string_view>
 
-#include "toolkit/application.h"
-#include "toolkit/menu_item.h"
-#include "toolkit/object.h"
+#include "toolkit/object/object.h"
+#include "toolkit/runtime/application.h"
+#include "toolkit/window/menu_item.h"
 
 namespace vamo {
 

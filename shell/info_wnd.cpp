@@ -4,9 +4,9 @@
 #include <array>
 #include <cstddef>
 
+#include "controlwnd/stream_tables.h"
 #include "shell/rights.h"
-#include "toolkit/runtime.h"
-#include "toolkit/stream_tables.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {

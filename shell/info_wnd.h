@@ -1,4 +1,3 @@
-// The Info window.
 #ifndef VAMO_SHELL_INFO_WND_H_
 #define VAMO_SHELL_INFO_WND_H_
 
@@ -7,8 +6,8 @@
 
 #include "controlwnd/accessors.h"
 #include "controlwnd/menu_accessors.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/window.h"
+#include "toolkit/text/text_area.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 

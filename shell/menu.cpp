@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {

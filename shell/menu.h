@@ -1,9 +1,8 @@
-// The menu bar of the program.
 #ifndef VAMO_SHELL_MENU_H_
 #define VAMO_SHELL_MENU_H_
 
 #include "controlwnd/accessors.h"
-#include "toolkit/menu_item.h"
+#include "toolkit/window/menu_item.h"
 
 namespace vamo {
 

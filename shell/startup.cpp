@@ -12,8 +12,8 @@
 #include "shell/menu.h"
 #include "shell/rights.h"
 #include "shell/version.h"
-#include "toolkit/delegate.h"
-#include "toolkit/runtime.h"
+#include "toolkit/object/delegate.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 

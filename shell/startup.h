@@ -6,7 +6,7 @@
 #include <memory>
 #include <string_view>
 
-#include "toolkit/display.h"
+#include "toolkit/runtime/display.h"
 
 namespace vamo {
 

@@ -7,7 +7,7 @@
 #include "shell/about_wnd.h"
 #include "shell/handle_about_menu.h"
 #include "test_program.h"
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {
@@ -53,8 +53,8 @@ TEST_F(AccessorsTest, EachMenuItemIsFoundUnderItsOwnName) {
 }
 
 TEST_F(AccessorsTest, EachHandlerPassesItsEventOn) {
-  for (const auto& [name, handler] : window_->GetMenuHandlers()) EXPECT_FALSE(handler.Invoke());
-  EXPECT_EQ(window_->GetMenuHandlers().size(), 2U);
+  for (const auto& [name, handler] : window_->MenuHandlers()) EXPECT_FALSE(handler.Invoke());
+  EXPECT_EQ(window_->MenuHandlers().size(), 2U);
   EXPECT_FALSE(window_->Qbtn()->MouseDown.Invoke(window_->Qbtn(), 1, 1));
   EXPECT_FALSE(AboutWnd()->Event_KeyDown("x"));
   EXPECT_FALSE(AboutWnd()->Event_MouseDown(1, 1));

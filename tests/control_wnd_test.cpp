@@ -22,7 +22,7 @@ class ControlWndTest : public testing::Test {
 TEST_F(ControlWndTest, HasItsControlsInOrderWithTheirParents) {
   std::string order;
   for (const auto& control : window_->Controls()) {
-    const auto parent = control->Parent();
+    const auto parent = window_->ParentOf(*control);
     order += control->Name() + (parent ? " in " + parent->Name() : "") + ", ";
     EXPECT_EQ(control->_Index(), INT32_MIN);
     EXPECT_TRUE(control->Window() == window_);
@@ -36,18 +36,18 @@ TEST_F(ControlWndTest, HasItsControlsInOrderWithTheirParents) {
 }
 
 TEST_F(ControlWndTest, StreamsReachTheControls) {
-  EXPECT_EQ(window_->GetState().title, "Vamo");
-  EXPECT_EQ(window_->GetState().height, 425);
+  EXPECT_EQ(window_->InitialState().title, "Vamo");
+  EXPECT_EQ(window_->InitialState().height, 425);
   EXPECT_EQ(window_->StaticText4()->Bounds().top, -5);
   EXPECT_EQ(window_->StaticText4()->Font().size, 48.0F);
-  EXPECT_EQ(window_->StaticText7()->TextColor(), (Colour{0x80, 0, 0}));
+  EXPECT_EQ(window_->StaticText7()->TextColour(), (Colour{0x80, 0, 0}));
   EXPECT_EQ(window_->nText()->Text(), "(4 - 1,1000)");
   EXPECT_EQ(window_->rEdit()->Rule().mask, ".###");
   EXPECT_EQ(window_->rEdit()->Rule().maximum_characters, 4);
   EXPECT_EQ(window_->zFld()->Alignment(), TextAlignment::kLeft);
   EXPECT_EQ(window_->nSlider()->MaximumValue(), 1000);
   EXPECT_EQ(window_->Rectangle3()->BorderThickness(), 2.0);
-  EXPECT_FALSE(window_->Rectangle3()->GetLocks().left);
+  EXPECT_FALSE(window_->Rectangle3()->Locks().left);
   EXPECT_TRUE(window_->Qbtn()->Default());
 }
 
@@ -112,10 +112,10 @@ TEST_F(ControlWndTest, AboveTheRangeTheModelKeepsItsLastResults) {
 
 TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
   using std::chrono_literals::operator""ms;
-  HeadlessDisplay& display = program_.display();
+  HeadlessUser& user = program_.user();
   const auto heard_after = [&](std::chrono::milliseconds time) {
-    display.LetTimePass(time);
-    return display.Hears();
+    user.LetTimePass(time);
+    return user.Hears();
   };
   const std::vector<std::string> nothing;
   EXPECT_EQ(heard_after(1000ms), nothing) << "nothing has been worked out";
@@ -137,7 +137,7 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
   window_->nEdit()->SetText("30");
   EXPECT_EQ(heard_after(1000ms), results);
   window_->nEdit()->SetText("31");
-  display.SwitchAway();
+  user.SwitchAway();
   window_->nEdit()->SetText("9999");
   EXPECT_EQ(heard_after(1000ms), nothing) << "it would be spoken into another program";
 }

@@ -5,9 +5,10 @@
 #include <vector>
 
 #include "test_window.h"
-#include "toolkit/delegate.h"
-#include "toolkit/property_stream.h"
-#include "toolkit/push_button.h"
+#include "toolkit/control/properties.h"
+#include "toolkit/control/push_button.h"
+#include "toolkit/object/delegate.h"
+#include "toolkit/object/property_stream.h"
 
 namespace vamo {
 namespace {
@@ -49,7 +50,8 @@ TEST(SliderTest, StepsOfAnySizeEndAtTheEnds) {
   TestProgram program;
   const auto slider = New<Slider>();
   _SetProperties(
-      *slider, EncodedStream<640>().Integer("LineStep", INT64_MIN).Integer("PageStep", INT64_MAX));
+      *slider,
+      EncodedStream<640>().Set(property::kLineStep, INT64_MIN).Set(property::kPageStep, INT64_MAX));
   const auto reached = [&](KeyCode key) {
     slider->UserMovedTo(50);
     EXPECT_TRUE(slider->TakeKey({key, "", false, false}));
@@ -81,24 +83,24 @@ TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   const auto window = ImplicitInstance<TestWindow>();
   window->timer()->Action = note;
   window->timer()->SetRunMode(1);
-  program.display().LetTimePass(1000ms);
+  program.user().LetTimePass(1000ms);
   EXPECT_EQ(log->entries.size(), 0U) << "a period is missing";
   window->timer()->SetPeriod(100);
-  program.display().LetTimePass(99ms);
+  program.user().LetTimePass(99ms);
   EXPECT_EQ(log->entries.size(), 0U);
-  program.display().LetTimePass(1000ms);
+  program.user().LetTimePass(1000ms);
   EXPECT_EQ(log->entries.size(), 1U);
   window->timer()->SetRunMode(2);
-  program.display().LetTimePass(350ms);
+  program.user().LetTimePass(350ms);
   EXPECT_EQ(log->entries.size(), 4U);
   window->timer()->Reset();
-  program.display().LetTimePass(99ms);
+  program.user().LetTimePass(99ms);
   EXPECT_EQ(log->entries.size(), 4U) << "the period has begun anew";
-  program.display().LetTimePass(1ms);
+  program.user().LetTimePass(1ms);
   EXPECT_EQ(log->entries.size(), 5U);
   const auto timer = window->timer();
   window->Close();
-  program.display().LetTimePass(1000ms);
+  program.user().LetTimePass(1000ms);
   EXPECT_EQ(log->entries.size(), 5U);
 }
 

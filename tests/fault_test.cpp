@@ -10,7 +10,7 @@
 #include "controlwnd/control_wnd.h"
 #include "shell/startup.h"
 #include "test_program.h"
-#include "toolkit/application.h"
+#include "toolkit/runtime/application.h"
 
 namespace vamo {
 namespace {
@@ -37,21 +37,21 @@ struct Outcome {
   std::string said;
   std::string steps;
   std::vector<std::int64_t> positions;
-  std::vector<WeakRef> windows;
+  std::vector<WeakRef<Window>> windows;
 };
 
 // Drags the knob of r over 50, where its handler fails.
 Outcome DragOverAFailure(const std::function<void()>& fail) {
   Outcome outcome;
-  const auto drag = [&](HeadlessDisplay& display) {
-    display.PressKey(Key::Character("x"));
+  const auto drag = [&](HeadlessUser& user) {
+    user.PressKey(Key::Character("x"));
     for (const auto& window : Runtime::Current().LiveWindows())
       outcome.windows.emplace_back(window);
     const auto handler = New<FailingHandler>(50, fail);
     Cast<class ControlWnd>(ControlWnd())->rSlider()->ValueChanged =
         Delegate<void(Ref<Slider>)>(handler, &FailingHandler::Take, ReceiverFlag::kStrong);
-    display.DragSlider("r", {12, 50, 37});
-    EXPECT_FALSE(display.Running());
+    user.DragSlider("r", {12, 50, 37});
+    EXPECT_FALSE(user.Display().Running());
     outcome.positions = handler->positions;
   };
   testing::internal::CaptureStderr();
@@ -80,7 +80,7 @@ TEST(FaultTest, AHandlerThatFailsInTheMiddleOfADragEndsTheProgramInOrder) {
     EXPECT_EQ(outcome.positions, (std::vector<std::int64_t>{12, 50}));
     EXPECT_NE(outcome.steps.find(test.last_steps), std::string::npos) << outcome.steps;
     ASSERT_EQ(outcome.windows.size(), 2U);
-    for (const WeakRef& window : outcome.windows) EXPECT_FALSE(window.Value());
+    for (const WeakRef<Window>& window : outcome.windows) EXPECT_FALSE(window.Value());
   }
 }
 
@@ -129,13 +129,13 @@ TEST(FaultTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
   int keys = 0;
   const auto open = [&] {
     New<FleetingWindow>(keys)->Constructor();
-    program.display().ActivateWindow("");
+    program.user().ActivateWindow("");
   };
   open();
-  program.display().PressKey(Key::Character("x"));
+  program.user().PressKey(Key::Character("x"));
   EXPECT_EQ(keys, 1);
   open();
-  program.display().Type("several");
+  program.user().Type("several");
   EXPECT_EQ(keys, 2) << "the rest has no window to go to";
   EXPECT_TRUE(program.runtime().LiveWindows().empty());
 }
@@ -156,7 +156,7 @@ TEST(FaultTest, AClosedWindowIsNeitherShownNorClosedAgain) {
   window->Close();
   EXPECT_EQ(window->ends, 1);
   EXPECT_FALSE(window->Visible());
-  EXPECT_TRUE(program.display().Windows().empty());
+  EXPECT_TRUE(program.user().Windows().empty());
 }
 
 }  // namespace

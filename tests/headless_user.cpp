@@ -1,15 +1,13 @@
-// The display without pixels is its own user.
 #include <memory>
 
-#include "displays/headless/display.h"
+#include "displays/headless/user.h"
 #include "journeys/journey_steps.h"
 #include "shell/startup.h"
 
 namespace vamo {
 
 int RunProgram(const std::function<void(User&)>& journey) {
-  return Main(
-      std::make_unique<HeadlessDisplay>([&](HeadlessDisplay& display) { journey(display); }));
+  return Main(std::make_unique<HeadlessDisplay>([&](HeadlessUser& user) { journey(user); }));
 }
 
 }  // namespace vamo

@@ -1,17 +1,28 @@
-# Fails where a layer includes from one that it does not stand on. Usage: cmake -D ROOT=folder -P includes.cmake
+# Fails where a room includes from one that it does not stand on. Usage: cmake -D ROOT=folder -P includes.cmake
+set(toolkit "toolkit/[a-z0-9_]+\\.h")
+set(toolkit/object "${toolkit}|toolkit/object/")
+set(toolkit/runtime "${toolkit/object}|toolkit/runtime/")
+set(toolkit/control "${toolkit/runtime}|toolkit/control/")
+set(toolkit/text "${toolkit/control}|toolkit/text/")
+set(toolkit/window "toolkit/")
 set(stats "stats/|toolkit/(conversions|utf8)\\.h")
-set(toolkit "toolkit/")
 set(controlwnd "controlwnd/|stats/|toolkit/")
 set(shell "shell/|controlwnd/|toolkit/")
-set(displays/headless "displays/headless/|toolkit/")
+set(displays "toolkit/")
+set(displays/headless "displays/(headless/|user\\.h)|toolkit/")
 set(displays/qt "displays/qt/|toolkit/")
-foreach(layer stats toolkit controlwnd shell displays/headless displays/qt)
-  file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/${layer}/*.h ${ROOT}/${layer}/*.cpp)
-  # It stands above all layers and chooses the display.
+foreach(room
+        toolkit toolkit/object toolkit/runtime toolkit/control toolkit/text toolkit/window
+        stats controlwnd shell displays displays/headless displays/qt)
+  file(GLOB sources RELATIVE ${ROOT} ${ROOT}/${room}/*.h ${ROOT}/${room}/*.cpp)
+  # It stands above all rooms and chooses the display.
   list(REMOVE_ITEM sources shell/main.cpp)
+  if(NOT sources)
+    message(SEND_ERROR "${room}: no sources")
+  endif()
   foreach(source IN LISTS sources)
     file(STRINGS ${ROOT}/${source} includes REGEX "^#include \"")
-    list(FILTER includes EXCLUDE REGEX "^#include \"(${${layer}})")
+    list(FILTER includes EXCLUDE REGEX "^#include \"(${${room}})")
     foreach(include IN LISTS includes)
       message(SEND_ERROR "${source}: ${include}")
     endforeach()

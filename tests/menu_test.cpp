@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "test_window.h"
-#include "toolkit/menu_service.h"
+#include "toolkit/window/menu_service.h"
 
 namespace vamo {
 namespace {
@@ -28,7 +28,7 @@ class MenuTest : public testing::Test {
     app_->SetMenuBar(bar_);
     program_.runtime().RegisterApp(app_);
     window_ = ImplicitInstance<TestWindow>();
-    program_.display().PressKey(Key::Character("x"));
+    program_.user().PressKey(Key::Character("x"));
   }
 
   MenuHandler Handler(bool (Log::*method)()) { return {log_, method, ReceiverFlag::kStrong}; }
@@ -55,7 +55,7 @@ TEST_F(MenuTest, TheWindowsHandlerComesFirstAndCanTakeTheItem) {
   EXPECT_EQ(log_->entries, (std::vector<std::string>{"pass", "take"}));
   window_->Close();
   window_ = ImplicitInstance<TestWindow>();
-  program_.display().PressKey(Key::Character("x"));
+  program_.user().PressKey(Key::Character("x"));
   window_->_AddMenuHandler("Own", Handler(&Log::Take));
   UserChose(bar_->_Lookup("Own"));
   EXPECT_EQ(log_->entries, (std::vector<std::string>{"pass", "take", "take"}));
@@ -64,29 +64,29 @@ TEST_F(MenuTest, TheWindowsHandlerComesFirstAndCanTakeTheItem) {
 TEST_F(MenuTest, ADisabledItemsShortcutDoesNothing) {
   window_->_AddMenuHandler("Own", Handler(&Log::Take));
   const int enablings = window_->enablings;
-  program_.display().PressKey(Key::Command("o"));
+  program_.user().PressKey(Key::Command("o"));
   EXPECT_EQ(window_->enablings, enablings + 1);
   EXPECT_TRUE(log_->entries.empty());
-  EXPECT_FALSE(program_.display().CanChoose("Edit/Own"));
+  EXPECT_FALSE(program_.user().CanChoose("Edit/Own"));
   bar_->_Lookup("Own")->SetAutoEnabled(true);
-  program_.display().PressKey(Key::Command("o"));
+  program_.user().PressKey(Key::Command("o"));
   EXPECT_EQ(log_->entries.size(), 1U);
-  program_.display().PressKey({KeyCode::kCharacter, "o", /*shift=*/true, /*command=*/true});
+  program_.user().PressKey({KeyCode::kCharacter, "o", /*shift=*/true, /*command=*/true});
   EXPECT_EQ(log_->entries.size(), 1U) << "with shift it is another key";
 }
 
 TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {
   window_->field()->SetText("text");
-  program_.display().Click(Role::kText, "field");
-  EXPECT_FALSE(program_.display().CanChoose("Edit/EditCopy"));
-  program_.display().Select("field", 0, 2);
-  EXPECT_TRUE(program_.display().Choose("Edit/EditCopy"));
+  program_.user().Click(Role::kText, "field");
+  EXPECT_FALSE(program_.user().CanChoose("Edit/EditCopy"));
+  program_.user().Select("field", 0, 2);
+  EXPECT_TRUE(program_.user().Choose("Edit/EditCopy"));
   EXPECT_EQ(program_.display().Clipboard(), "te");
   EXPECT_TRUE(window_->field()->CanPaste());
   EXPECT_EQ(program_.display().ClipboardReads(), 0) << "enabling the items reads no clipboard";
   app_->_AddMenuHandler("EditCopy", Handler(&Log::Take));
-  program_.display().Select("field", 0, 3);
-  program_.display().PressKey(Key::Command("c"));
+  program_.user().Select("field", 0, 3);
+  program_.user().PressKey(Key::Command("c"));
   EXPECT_EQ(program_.display().Clipboard(), "te");
 }
 

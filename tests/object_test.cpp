@@ -1,15 +1,15 @@
 // References and delegates.
-#include "toolkit/object.h"
+#include "toolkit/object/object.h"
 
 #include <gtest/gtest.h>
 
-#include "toolkit/delegate.h"
-#include "toolkit/label.h"
-#include "toolkit/menu_item.h"
-#include "toolkit/push_button.h"
-#include "toolkit/slider.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/timer.h"
+#include "toolkit/control/label.h"
+#include "toolkit/control/push_button.h"
+#include "toolkit/control/slider.h"
+#include "toolkit/object/delegate.h"
+#include "toolkit/runtime/application.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/window/timer.h"
 
 namespace vamo {
 namespace {
@@ -25,9 +25,9 @@ TEST(RefTest, NilAndWrongCastsRaiseBeforeAnythingIsTouched) {
   const Ref<Object> label = New<Label>();
   EXPECT_TRUE(Cast<RectControl>(label) == label);
   EXPECT_THROW(Cast<Slider>(label), IllegalCastException);
-  WeakRef weak{label};
+  WeakRef<Object> weak{label};
   EXPECT_TRUE(weak.Value() == label);
-  weak = WeakRef(New<Label>());
+  weak = WeakRef<Object>(New<Label>());
   EXPECT_FALSE(weak.Value());
 }
 

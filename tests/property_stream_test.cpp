@@ -1,20 +1,21 @@
 // The byte format of property streams, as it is written and as it is read.
-#include "toolkit/property_stream.h"
+#include "toolkit/object/property_stream.h"
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <array>
 #include <string>
 #include <string_view>
 
 #include "test_program.h"
-#include "toolkit/label.h"
-#include "toolkit/picture.h"
-#include "toolkit/rectangle.h"
-#include "toolkit/slider.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/timer.h"
-#include "toolkit/window.h"
+#include "toolkit/control/canvas.h"
+#include "toolkit/control/label.h"
+#include "toolkit/control/properties.h"
+#include "toolkit/control/rectangle.h"
+#include "toolkit/control/slider.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/window/timer.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -32,64 +33,67 @@ std::string EncodedEntries(PropertyStream stream) {
 }
 
 TEST(StreamWriterTest, WritesEachTypeAsItIsStored) {
-  EXPECT_EQ(
-      EncodedEntries(
-          EncodedStream<640>().Integer("Left", 55).Integer("Top", -5).Integer("Index", INT32_MIN)),
-      "Left \x37\0\0\0\0\0\0\0"
-      "Top \xFB\xFF\xFF\xFF\xFF\xFF\xFF\xFF"
-      "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s);
   EXPECT_EQ(EncodedEntries(EncodedStream<640>()
-                               .Single("FontSize", 12.0F)
-                               .Double("BorderThickness", 1.0)
-                               .Colour("FillColor", Colour{0x80, 0x01, 0x02})),
+                               .Set(property::kLeft, 55)
+                               .Set(property::kTop, -5)
+                               .Set(property::kIndex, INT32_MIN)),
+            "Left \x37\0\0\0\0\0\0\0"
+            "Top \xFB\xFF\xFF\xFF\xFF\xFF\xFF\xFF"
+            "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s);
+  EXPECT_EQ(EncodedEntries(EncodedStream<640>()
+                               .Set(property::kFontSize, 12.0F)
+                               .Set(property::kBorderThickness, 1.0)
+                               .Set(property::kFillColor, Colour{0x80, 0x01, 0x02})),
             "FontSize \0\0\x40\x41"
             "BorderThickness \0\0\0\0\0\0\xF0\x3F"
             "FillColor \x80\x01\x02\0"s);
-  EXPECT_EQ(
-      EncodedEntries(
-          EncodedStream<640>().Boolean("Visible", true).Text("Name", "rEdit").Text("Tooltip")),
-      "Visible \x01"
-      "Name \x05\0\0\0rEdit"
-      "Tooltip \0\0\0\0"s);
+  EXPECT_EQ(EncodedEntries(EncodedStream<640>()
+                               .Set(property::kVisible, true)
+                               .Set(property::kName, "rEdit")
+                               .Set(property::kTooltip, "")),
+            "Visible \x01"
+            "Name \x05\0\0\0rEdit"
+            "Tooltip \0\0\0\0"s);
 }
 
 TEST(StreamWriterTest, TheLengthByteHoldsShortLengthsOnly) {
   // A name, a blank and a length of 4 bytes stand before the 245 of the text.
   static constexpr std::array<char, 245> kText{};
   static constexpr std::string_view kLong(kText.data(), kText.size());
-  EXPECT_EQ(Stored(EncodedStream<300>().Text("Hint", kLong))[0], '\xFE');
-  const std::string at_bound = Stored(EncodedStream<255>().Text("Hints", kLong));
+  constexpr property::Text kHints{"Hints"};
+  EXPECT_EQ(Stored(EncodedStream<300>().Set(property::kHint, kLong))[0], '\xFE');
+  const std::string at_bound = Stored(EncodedStream<255>().Set(kHints, kLong));
   EXPECT_EQ(at_bound[0], '\xFF');
   EXPECT_EQ(at_bound.back(), '\0');
-  EXPECT_THROW(EncodedStream<254>().Text("Hints", kLong), std::out_of_range);
+  EXPECT_THROW(EncodedStream<254>().Set(kHints, kLong), std::out_of_range);
 }
 
 TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
   TestProgram program;
   const auto slider = New<Slider>();
   _SetProperties(*slider, EncodedStream<640>()
-                              .Integer("Value", 300)
-                              .Integer("MinimumValue", 4)
-                              .Integer("MaximumValue", 1000));
+                              .Set(property::kPosition, 300)
+                              .Set(property::kMinimumValue, 4)
+                              .Set(property::kMaximumValue, 1000));
   EXPECT_EQ(slider->Value(), 300) << "the position comes before the range";
 
   const auto label = New<Label>();
   _SetProperties(*label, EncodedStream<640>()
-                             .Integer("Index", INT32_MIN)
-                             .Text("Value", "t =")
-                             .Single("FontSize", 9.0F)
-                             .Colour("TextColor", Colour{0xFF, 0x80, 0})
-                             .Boolean("Visible", false));
+                             .Set(property::kIndex, INT32_MIN)
+                             .Set(property::kValue, "t =")
+                             .Set(property::kFontSize, 9.0F)
+                             .Set(property::kTextColor, Colour{0xFF, 0x80, 0})
+                             .Set(property::kVisible, false));
   EXPECT_EQ(label->_Index(), INT32_MIN);
   EXPECT_EQ(label->Text(), "t =");
   EXPECT_EQ(label->Font().size, 9.0F);
-  EXPECT_EQ(label->TextColor(), (Colour{0xFF, 0x80, 0}));
+  EXPECT_EQ(label->TextColour(), (Colour{0xFF, 0x80, 0}));
   EXPECT_FALSE(label->Visible());
 
   const auto rectangle = New<Rectangle>();
-  _SetProperties(
-      *rectangle,
-      EncodedStream<640>().Double("BorderThickness", 2.5).Double("BorderThickness", 2.0));
+  _SetProperties(*rectangle, EncodedStream<640>()
+                                 .Set(property::kBorderThickness, 2.5)
+                                 .Set(property::kBorderThickness, 2.0));
   EXPECT_EQ(rectangle->BorderThickness(), 2.0) << "the later one stands";
 }
 

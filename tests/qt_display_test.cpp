@@ -17,9 +17,10 @@
 
 #include "journeys/journey_steps.h"
 #include "qt_steps.h"
-#include "toolkit/property_stream.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/window.h"
+#include "toolkit/control/properties.h"
+#include "toolkit/object/property_stream.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -82,9 +83,9 @@ class FleetingWindow : public Window {
  public:
   void Layout() override {
     _SetProperties(*this, EncodedStream<640>()
-                              .Integer("Width", 200)
-                              .Integer("Height", 100)
-                              .Text("Title", "Fleeting"));
+                              .Set(property::kWidth, 200)
+                              .Set(property::kHeight, 100)
+                              .Set(property::kTitle, "Fleeting"));
   }
   void CreateControls() override { _AddControl("field", __New<TextField>()); }
   bool Event_KeyDown(std::string /*key*/) override {

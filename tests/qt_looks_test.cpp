@@ -19,9 +19,10 @@
 
 #include "journeys/journey_steps.h"
 #include "qt_steps.h"
-#include "toolkit/label.h"
-#include "toolkit/property_stream.h"
-#include "toolkit/window.h"
+#include "toolkit/control/label.h"
+#include "toolkit/control/properties.h"
+#include "toolkit/object/property_stream.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -248,10 +249,10 @@ class ElasticWindow : public Window {
  public:
   void Layout() override {
     _SetProperties(*this, EncodedStream<640>()
-                              .Integer("Width", 300)
-                              .Integer("Height", 200)
-                              .Integer("MinimumWidth", 64)
-                              .Boolean("Resizeable", true));
+                              .Set(property::kWidth, 300)
+                              .Set(property::kHeight, 200)
+                              .Set(property::kMinimumWidth, 64)
+                              .Set(property::kResizeable, true));
   }
   bool Event_MouseDown(std::int64_t x, std::int64_t y) override {
     pressed = {x, y};
@@ -261,13 +262,13 @@ class ElasticWindow : public Window {
   void CreateControls() override {
     _AddControl("label", __New<Label>());
     _SetProperties(*ControlNamed<Label>("label"), EncodedStream<640>()
-                                                      .Integer("Top", 180)
-                                                      .Integer("Width", 298)
-                                                      .Integer("Height", 15)
-                                                      .Boolean("LockLeft", true)
-                                                      .Boolean("LockTop", true)
-                                                      .Boolean("LockRight", true)
-                                                      .Boolean("LockBottom", true));
+                                                      .Set(property::kTop, 180)
+                                                      .Set(property::kWidth, 298)
+                                                      .Set(property::kHeight, 15)
+                                                      .Set(property::kLockLeft, true)
+                                                      .Set(property::kLockTop, true)
+                                                      .Set(property::kLockRight, true)
+                                                      .Set(property::kLockBottom, true));
   }
 };
 

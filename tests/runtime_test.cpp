@@ -6,9 +6,10 @@
 #include <thread>
 
 #include "test_window.h"
-#include "toolkit/delegate.h"
-#include "toolkit/picture.h"
-#include "toolkit/property_stream.h"
+#include "toolkit/control/canvas.h"
+#include "toolkit/object/delegate.h"
+#include "toolkit/object/property_stream.h"
+#include "toolkit/window/menu_item.h"
 
 namespace vamo {
 namespace {

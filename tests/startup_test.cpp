@@ -9,12 +9,12 @@
 
 #include "controlwnd/accessors.h"
 #include "controlwnd/control_wnd.h"
-#include "displays/headless/display.h"
+#include "displays/headless/user.h"
 #include "shell/about_wnd.h"
 #include "shell/file_types.h"
 #include "shell/handle_about_menu.h"
 #include "shell/info_wnd.h"
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {
@@ -30,7 +30,7 @@ struct Outcome {
 
 // Runs the program, with `failing` as the step that raises an exception, and notes what it does.
 Outcome RunFailingAt(std::string_view failing,
-                     const std::function<void(HeadlessDisplay&)>& user = nullptr) {
+                     const std::function<void(HeadlessUser&)>& user = nullptr) {
   Outcome outcome;
   testing::internal::CaptureStderr();
   outcome.status = Main(std::make_unique<HeadlessDisplay>(user), [&](std::string_view step) {
@@ -43,9 +43,9 @@ Outcome RunFailingAt(std::string_view failing,
 
 TEST(StartupTest, TakesItsStepsInOrder) {
   bool ran = false;
-  const Outcome outcome = RunFailingAt("", [&](HeadlessDisplay& display) {
+  const Outcome outcome = RunFailingAt("", [&](HeadlessUser& user) {
     ran = true;
-    EXPECT_EQ(display.Windows(), Steps{""}) << "the About window is the first and only one";
+    EXPECT_EQ(user.Windows(), Steps{""}) << "the About window is the first and only one";
     EXPECT_FALSE(_GetImplicitWindow("ControlWnd.ControlWnd"));
     EXPECT_TRUE(Runtime::Current().SupportsHiDPI());
   });
@@ -79,7 +79,7 @@ TEST(StartupTest, AFailingStepIsHandedOverOnceAndStillEndsInOrder) {
     expected.insert(expected.end(),
                     {"_UnhandledException", "RuntimePerformFinalizers", "RuntimeExit"});
     const Outcome outcome =
-        RunFailingAt(before[i], [](HeadlessDisplay&) { FAIL() << "the loop ran"; });
+        RunFailingAt(before[i], [](HeadlessUser&) { FAIL() << "the loop ran"; });
     EXPECT_EQ(outcome.steps, expected);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.said, "vamo: UnsupportedOperationException: made to fail\n");
@@ -95,11 +95,11 @@ TEST(StartupTest, AnExceptionOutOfMainStillRunsTheFinalisers) {
 }
 
 TEST(StartupTest, AnExceptionInAnEventEndsTheLoopWithStatusOne) {
-  const Outcome outcome = RunFailingAt("", [](HeadlessDisplay& display) {
-    display.PressKey(Key::Character("x"));
+  const Outcome outcome = RunFailingAt("", [](HeadlessUser& user) {
+    user.PressKey(Key::Character("x"));
     ControlWnd()->_AddMenuHandler("AboutMenuItem", MenuHandler());
-    display.Choose("Window/About Vamo");
-    EXPECT_FALSE(display.Running());
+    user.Choose("Window/About Vamo");
+    EXPECT_FALSE(user.Display().Running());
   });
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.said, "vamo: NilObjectException: A delegate without a function was called.\n");
@@ -108,10 +108,10 @@ TEST(StartupTest, AnExceptionInAnEventEndsTheLoopWithStatusOne) {
 // What follows runs inside the started program.
 class ProgramTest : public testing::Test {
  protected:
-  static void InProgram(const std::function<void(HeadlessDisplay&)>& user) {
+  static void InProgram(const std::function<void(HeadlessUser&)>& act) {
     bool completed = false;
-    Main(std::make_unique<HeadlessDisplay>([&](HeadlessDisplay& display) {
-      user(display);
+    Main(std::make_unique<HeadlessDisplay>([&](HeadlessUser& user) {
+      act(user);
       completed = true;
     }));
     EXPECT_TRUE(completed);
@@ -120,7 +120,7 @@ class ProgramTest : public testing::Test {
 };
 
 TEST_F(ProgramTest, TheApplicationCarriesItsVersionAndTheBar) {
-  InProgram([](HeadlessDisplay&) {
+  InProgram([](HeadlessUser&) {
     const auto app = App();
     EXPECT_EQ(app->MajorVersion(), 3);
     EXPECT_EQ(app->MinorVersion() + app->BugVersion() + app->NonReleaseVersion(), 0);
@@ -138,7 +138,7 @@ TEST_F(ProgramTest, TheApplicationCarriesItsVersionAndTheBar) {
 }
 
 TEST_F(ProgramTest, TheMenuTreeStands) {
-  InProgram([](HeadlessDisplay&) {
+  InProgram([](HeadlessUser&) {
     std::string tree;
     for (const auto& menu : Menu()->Children()) {
       tree += menu->Name() + ":" + menu->Value();
@@ -165,21 +165,21 @@ TEST_F(ProgramTest, TheMenuTreeStands) {
 }
 
 TEST_F(ProgramTest, TheItemsAreEnabledByTheWindowInFront) {
-  InProgram([](HeadlessDisplay& display) {
-    display.PressKey(Key::Character("x"));
-    EXPECT_TRUE(display.CanChoose("Window/About Vamo"));
-    EXPECT_TRUE(display.CanChoose("Help/About Vamo"));
-    EXPECT_FALSE(display.CanChoose("Window/Control"));
-    EXPECT_FALSE(display.CanChoose("Edit/Copy"));
-    display.Click(Role::kButton, "Info");
-    EXPECT_TRUE(display.CanChoose("Edit/Copy"));
-    EXPECT_FALSE(display.CanChoose("Edit/Paste"));
-    EXPECT_FALSE(display.CanChoose("Window/About Vamo"));
+  InProgram([](HeadlessUser& user) {
+    user.PressKey(Key::Character("x"));
+    EXPECT_TRUE(user.CanChoose("Window/About Vamo"));
+    EXPECT_TRUE(user.CanChoose("Help/About Vamo"));
+    EXPECT_FALSE(user.CanChoose("Window/Control"));
+    EXPECT_FALSE(user.CanChoose("Edit/Copy"));
+    user.Click(Role::kButton, "Info");
+    EXPECT_TRUE(user.CanChoose("Edit/Copy"));
+    EXPECT_FALSE(user.CanChoose("Edit/Paste"));
+    EXPECT_FALSE(user.CanChoose("Window/About Vamo"));
   });
 }
 
 TEST_F(ProgramTest, ClassesTellTheEventsThatTheyImplement) {
-  InProgram([](HeadlessDisplay&) {
+  InProgram([](HeadlessUser&) {
     const auto implemented = [](const auto& object) {
       std::string events;
       for (const char* event : {"Layout", "CreateControls", "Activate", "Close", "EnableMenuItems",
@@ -199,62 +199,62 @@ TEST_F(ProgramTest, ClassesTellTheEventsThatTheyImplement) {
 }
 
 TEST_F(ProgramTest, TheSplashGoesThroughItsStates) {
-  InProgram([](HeadlessDisplay& display) {
+  InProgram([](HeadlessUser& user) {
     const auto about = AboutWnd();
-    display.LetTimePass(3999ms);
+    user.LetTimePass(3999ms);
     EXPECT_TRUE(AboutIsShown());
-    display.PressKey(Key::Character("x"));
+    user.PressKey(Key::Character("x"));
     EXPECT_FALSE(AboutIsShown());
     // The timer still fires, but the user has gone to another program by then.
-    display.SwitchAway();
-    display.LetTimePass(1ms);
-    EXPECT_EQ(display.ActiveTitle(), "");
-    display.ActivateWindow("Vamo");
+    user.SwitchAway();
+    user.LetTimePass(1ms);
+    EXPECT_EQ(user.ActiveTitle(), "");
+    user.ActivateWindow("Vamo");
     // Shown again, it is the same object, and its timer is spent.
-    display.Choose("Help/About Vamo");
+    user.Choose("Help/About Vamo");
     EXPECT_TRUE(AboutWnd() == about);
-    display.LetTimePass(60000ms);
+    user.LetTimePass(60000ms);
     EXPECT_TRUE(AboutIsShown());
-    display.ActivateWindow("Vamo");
+    user.ActivateWindow("Vamo");
     EXPECT_FALSE(AboutIsShown());
     // Closed, it makes way for a new one with a timer of its own.
-    display.Choose("Help/About Vamo");
-    display.Close("");
-    EXPECT_TRUE(display.Running());
-    display.ActivateWindow("Vamo");
+    user.Choose("Help/About Vamo");
+    user.Close("");
+    EXPECT_TRUE(user.Display().Running());
+    user.ActivateWindow("Vamo");
     EXPECT_FALSE(AboutWnd() == about);
   });
 }
 
 TEST_F(ProgramTest, AShowingInTheFirstFourSecondsIsEndedByTheTimer) {
-  InProgram([](HeadlessDisplay& display) {
-    display.Click(Role::kLabel, "Vamo");
-    display.Choose("Window/About Vamo");
-    display.LetTimePass(3000ms);
+  InProgram([](HeadlessUser& user) {
+    user.Click(Role::kLabel, "Vamo");
+    user.Choose("Window/About Vamo");
+    user.LetTimePass(3000ms);
     EXPECT_TRUE(AboutIsShown());
-    display.LetTimePass(1000ms);
+    user.LetTimePass(1000ms);
     EXPECT_FALSE(AboutIsShown());
-    EXPECT_EQ(display.ActiveTitle(), "Vamo");
+    EXPECT_EQ(user.ActiveTitle(), "Vamo");
   });
 }
 
 TEST_F(ProgramTest, TheInfoTextIsWholeAndFixed) {
-  InProgram([](HeadlessDisplay& display) {
-    display.PressKey(Key::Character("x"));
-    display.Click(Role::kButton, "Info");
+  InProgram([](HeadlessUser& user) {
+    user.PressKey(Key::Character("x"));
+    user.Click(Role::kButton, "Info");
     const auto area = Cast<class InfoWnd>(InfoWnd())->StaticText1();
     const std::string text = area->Text();
     EXPECT_EQ(text.size(), 911U);
     EXPECT_EQ(text.find('\n'), std::string::npos);
     EXPECT_EQ(text.find("\r\rCopyright"), 233U);
     EXPECT_EQ(text.substr(text.size() - 25), "respect to this software.");
-    display.Type("typed");
+    user.Type("typed");
     EXPECT_EQ(area->Text(), text);
   });
 }
 
 TEST_F(ProgramTest, TheFileTypesAreRegistered) {
-  InProgram([](HeadlessDisplay&) {
+  InProgram([](HeadlessUser&) {
     const auto& types = FileTypes::AllFileTypes();
     ASSERT_EQ(types.size(), 2U);
     EXPECT_TRUE(types[0] == FileTypes::Text());

@@ -6,7 +6,7 @@
 
 #include "controlwnd/accessors.h"
 #include "test_program.h"
-#include "toolkit/property_stream.h"
+#include "toolkit/object/property_stream.h"
 
 namespace vamo {
 namespace {

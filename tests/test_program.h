@@ -5,9 +5,9 @@
 #include <memory>
 #include <utility>
 
-#include "displays/headless/display.h"
-#include "toolkit/runtime.h"
-#include "toolkit/window.h"
+#include "displays/headless/user.h"
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 
@@ -16,14 +16,15 @@ class TestProgram {
  public:
   TestProgram() : TestProgram(std::make_unique<HeadlessDisplay>()) {}
 
-  HeadlessDisplay& display() { return display_; }
+  HeadlessDisplay& display() { return user_.Display(); }
+  HeadlessUser& user() { return user_; }
   Runtime& runtime() { return runtime_; }
 
  private:
   explicit TestProgram(std::unique_ptr<HeadlessDisplay> display)
-      : display_(*display), runtime_(std::move(display)) {}
+      : user_(*display), runtime_(std::move(display)) {}
 
-  HeadlessDisplay& display_;
+  HeadlessUser user_;
   Runtime runtime_;
 };
 

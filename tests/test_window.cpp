@@ -1,4 +1,3 @@
-// A window, an application and a log for the tests of the toolkit.
 #include "test_window.h"
 
 #include <stdexcept>

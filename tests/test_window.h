@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "test_program.h"
-#include "toolkit/application.h"
-#include "toolkit/label.h"
-#include "toolkit/slider.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/timer.h"
-#include "toolkit/window.h"
+#include "toolkit/control/label.h"
+#include "toolkit/control/slider.h"
+#include "toolkit/runtime/application.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/window/timer.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 

@@ -6,10 +6,12 @@
 #include <vector>
 
 #include "test_program.h"
-#include "toolkit/key.h"
-#include "toolkit/property_stream.h"
-#include "toolkit/text_edit.h"
-#include "toolkit/typing_rule.h"
+#include "toolkit/control/properties.h"
+#include "toolkit/object/property_stream.h"
+#include "toolkit/runtime/key.h"
+#include "toolkit/text/text_area.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/text/typing_rule.h"
 #include "toolkit/utf8.h"
 
 namespace vamo {
@@ -82,7 +84,7 @@ TEST_F(TextFieldTest, AWriteRaisesTheChangeInsideAndOnlyForAnotherText) {
   field_->SetText("wrong");
   EXPECT_EQ(recorder_->changes, (std::vector<std::string>{"wrong", "right"}));
   EXPECT_EQ(field_->Text(), "right");
-  EXPECT_EQ(field_->GetSelection(), (TextEdit::Selection{5, 5}));
+  EXPECT_EQ(field_->Selection(), (Selection{5, 5}));
   field_->SetText("right");
   EXPECT_EQ(recorder_->changes.size(), 2U);
 }
@@ -160,7 +162,8 @@ TEST_F(TextFieldTest, DeletingAWordTakesTheBlanksOnTheWay) {
 }
 
 TEST_F(TextFieldTest, AReadOnlyOrDisabledFieldKeepsItsText) {
-  _SetProperties(*field_, EncodedStream<640>().Text("Value", "fixed").Boolean("ReadOnly", true));
+  _SetProperties(
+      *field_, EncodedStream<640>().Set(property::kValue, "fixed").Set(property::kReadOnly, true));
   field_->UserSelected(0, 5);
   Press("x");
   Press("\b");

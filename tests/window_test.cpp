@@ -20,12 +20,12 @@ TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   EXPECT_TRUE(ImplicitInstance<TestWindow>() == window);
   EXPECT_THROW(ImplicitInstance<OtherWindow>(), IllegalCastException);
   window->Show();
-  program.display().PressKey(Key::Character("x"));
+  program.user().PressKey(Key::Character("x"));
   EXPECT_TRUE(program.runtime().ActiveWindow() == window);
   window->Close();
   EXPECT_FALSE(program.runtime().ActiveWindow());
   window->Show();
-  EXPECT_TRUE(program.display().Windows().empty()) << "a closed window does not come back";
+  EXPECT_TRUE(program.user().Windows().empty()) << "a closed window does not come back";
   EXPECT_FALSE(ImplicitInstance<TestWindow>() == window);
 }
 
@@ -45,7 +45,7 @@ TEST(WindowTest, AWindowThatIsHeldPastTheEndHasNothingOnTheDisplay) {
 TEST(WindowTest, ActivationIsRaisedWhenTheWindowBecomesTheActiveOne) {
   TestProgram program;
   const auto window = ImplicitInstance<TestWindow>();
-  program.display().PressKey(Key::Character("x"));
+  program.user().PressKey(Key::Character("x"));
   EXPECT_EQ(window->activations, 1);
   window->UserActivated();
   EXPECT_EQ(window->activations, 1) << "it already was";

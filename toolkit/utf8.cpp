@@ -1,4 +1,3 @@
-// The few things that must be known about UTF-8.
 #include "toolkit/utf8.h"
 
 #include <algorithm>
@@ -11,6 +10,12 @@ constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 unsigned char Byte(char c) { return static_cast<unsigned char>(c); }
 
 bool IsContinuation(char c) { return (Byte(c) & 0xC0) == 0x80; }
+
+// The UTF-16 units of the character that begins with this byte; 0 for a byte inside a character.
+std::size_t Utf16Units(char c) {
+  if (IsContinuation(c)) return 0;
+  return Byte(c) >= 0xF0 ? 2 : 1;
+}
 
 }  // namespace
 
@@ -59,6 +64,22 @@ std::size_t CharacterBoundary(std::string_view text, std::size_t at) {
   at = std::min(at, text.size());
   while (at > 0 && at < text.size() && IsContinuation(text[at])) --at;
   return at;
+}
+
+std::size_t Utf16Offset(std::string_view text, std::size_t byte_offset) {
+  std::size_t offset = 0;
+  for (const char c : text.substr(0, byte_offset)) offset += Utf16Units(c);
+  return offset;
+}
+
+std::size_t ByteOffset(std::string_view text, std::size_t utf16_offset) {
+  std::size_t offset = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::size_t units = Utf16Units(text[i]);
+    if (units > 0 && offset >= utf16_offset) return i;
+    offset += units;
+  }
+  return text.size();
 }
 
 }  // namespace vamo

@@ -1,4 +1,3 @@
-// Programs that this one starts.
 #include "child.h"
 
 #include <signal.h>

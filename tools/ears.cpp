@@ -1,4 +1,3 @@
-// The ears of a user who works with a screen reader.
 #include "ears.h"
 
 #include <array>

@@ -1,4 +1,3 @@
-// What the users of a screen have in common, whatever brings them to it.
 #include "screen_user.h"
 
 #include <map>

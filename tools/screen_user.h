@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "displays/headless/user.h"
+#include "displays/user.h"
 
 namespace vamo {
 

@@ -1,4 +1,3 @@
-// The screen of an X server, as its window manager keeps it.
 #include "x_screen.h"
 
 #include <X11/XKBlib.h>

@@ -1,4 +1,3 @@
-// Acts on an X server, by way of xdotool and xclip.
 #include "x_tools.h"
 
 #include <stdexcept>

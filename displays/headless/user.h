@@ -1,84 +1,69 @@
-// A user of the running program, whatever display it runs on.
 #ifndef VAMO_DISPLAYS_HEADLESS_USER_H_
 #define VAMO_DISPLAYS_HEADLESS_USER_H_
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "toolkit/key.h"
+#include "displays/headless/display.h"
+#include "displays/user.h"
+#include "toolkit/object/object.h"
 
 namespace vamo {
 
-// How a screen reader tells the kinds of control apart.
-enum class Role { kText, kSlider, kButton, kLabel };
+class HeadlessControl;
+class MenuItem;
 
-// What a user sees of a control.
-struct ShownControl {
-  Role role = Role::kLabel;
-  // The name that a screen reader reads; of a label without one, its text.
-  std::string name;
-  std::string description;
-  // The caption of a control that has one.
-  std::string labelled_by;
-  std::string text;
-  std::string selected_text;
-  std::int64_t position = 0;
-  // The number that a screen reader reads for the position.
-  double value = 0;
-  bool visible = false;
-  bool enabled = false;
-  bool operator==(const ShownControl&) const = default;
-};
-
-// What a user can do and see, in the active window where nothing else is said. Controls are found
-// by what a screen reader reads, so a wrong name fails whoever needs it: what is not on the screen
-// raises an exception. After the program has ended, nothing of this has an effect.
-class User {
+// The user of a display without pixels. A key in a text control that the program leaves alone moves
+// the caret or, with A and the command key, selects all.
+class HeadlessUser : public User {
  public:
-  virtual ~User() = default;
+  explicit HeadlessUser(HeadlessDisplay& display) : display_(display) {}
 
-  virtual void PressKey(const Key& key) = 0;
-  virtual void Type(std::string_view text) = 0;
-  virtual void SetClipboard(std::string_view text) = 0;
-  // With the clipboard and the paste shortcut, into what has the keys.
-  void Paste(std::string_view text);
-  virtual void Click(Role role, std::string_view name) = 0;
-  // Presses the slider's knob and takes it to each of the positions in turn.
-  virtual void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) = 0;
-  // Presses the slider beside its knob, at the place of a position, and goes on from there.
-  virtual void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) = 0;
-  virtual void TurnWheel(std::string_view slider, std::int64_t notches) = 0;
-  virtual void PressByAssistiveTechnology(std::string_view button) = 0;
-  // A menu item by its texts, such as "Edit/Copy", after its menu has been opened. False where the
-  // item is disabled.
-  virtual bool Choose(std::string_view path) = 0;
-  virtual bool CanChoose(std::string_view path) = 0;
-  virtual void Close(std::string_view title) = 0;
-  // A click on another window of the program.
-  virtual void ActivateWindow(std::string_view title) = 0;
-  virtual void LetTimePass(std::chrono::milliseconds time) = 0;
+  void PressKey(const Key& key) override;
+  void Type(std::string_view text) override;
+  void SetClipboard(std::string_view text) override { display_.SetClipboardText(text); }
+  void Click(Role role, std::string_view name) override;
+  void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) override;
+  void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) override;
+  void TurnWheel(std::string_view slider, std::int64_t notches) override;
+  void PressByAssistiveTechnology(std::string_view button) override;
+  bool Choose(std::string_view path) override;
+  bool CanChoose(std::string_view path) override;
+  void Close(std::string_view title) override;
+  void ActivateWindow(std::string_view title) override;
+  void LetTimePass(std::chrono::milliseconds time) override { display_.LetTimePass(time); }
+  std::vector<std::string> Windows() override;
+  std::string ActiveTitle() override;
+  ShownControl Sees(Role role, std::string_view name) override;
+  ShownControl SeesDescribed(std::string_view description) override;
+  ShownControl Focused() override;
+  std::string Clipboard() override { return display_.Clipboard(); }
+  int Beeps() override { return display_.Beeps(); }
+  std::vector<std::string> Hears() override { return display_.TakeAnnouncements(); }
 
-  // The titles of the windows on the screen, in the order of the alphabet.
-  virtual std::vector<std::string> Windows() = 0;
-  // The title of the window that has the keys; empty where none has, as of one without a title.
-  virtual std::string ActiveTitle() = 0;
-  virtual ShownControl Sees(Role role, std::string_view name) = 0;
-  virtual ShownControl SeesDescribed(std::string_view description) = 0;
-  // What has the keys; without a name where nothing has.
-  virtual ShownControl Focused() = 0;
-  virtual std::string Clipboard() = 0;
-  virtual int Beeps() = 0;
-  // What the program has had a screen reader say since the last call.
-  virtual std::vector<std::string> Hears() = 0;
+  // What only this display's user does and knows.
+  void Drop(Role role, std::string_view name, std::string_view text);
+  void Select(std::string_view field, std::size_t anchor, std::size_t caret);
+  void ClickDescribed(std::string_view description);
+  // A click on another program's window.
+  void SwitchAway();
+  HeadlessDisplay& Display() const { return display_; }
+
+ private:
+  HeadlessWindow& Titled(std::string_view title) const;
+  HeadlessControl& Find(Role role, std::string_view name) const;
+  template <class ControlClass>
+  ControlClass& Find(Role role, std::string_view name) const;
+  HeadlessControl& FindDescribed(std::string_view description) const;
+  void ClickOn(const HeadlessControl& control);
+  Ref<MenuItem> FindItem(std::string_view path) const;
+
+  HeadlessDisplay& display_;
 };
-
-inline void User::Paste(std::string_view text) {
-  SetClipboard(text);
-  PressKey(Key::Command("v"));
-}
 
 }  // namespace vamo
 

@@ -1,44 +1,46 @@
-// The windows, controls and timers of the display without pixels.
 #include "displays/headless/window.h"
 
-#include "toolkit/label.h"
-#include "toolkit/push_button.h"
-#include "toolkit/runtime.h"
-#include "toolkit/slider.h"
-#include "toolkit/text_edit.h"
+#include <utility>
+
+#include "toolkit/control/canvas.h"
+#include "toolkit/control/label.h"
+#include "toolkit/control/push_button.h"
+#include "toolkit/control/rectangle.h"
+#include "toolkit/control/slider.h"
+#include "toolkit/text/text_area.h"
+#include "toolkit/text/text_field.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
+namespace {
 
-HeadlessControl::HeadlessControl(HeadlessWindow& window, RectControl& control)
-    : window_(window), control_(control) {
+void CopyText(const TextEdit& text, ShownControl& shown) {
+  shown.role = Role::kText;
+  shown.text = text.Text();
+  shown.selected_text = text.SelectedText();
+}
+
+}  // namespace
+
+HeadlessControl::HeadlessControl(HeadlessWindow& window, RectControl& control,
+                                 std::function<void(ShownControl&)> copy_own)
+    : window_(window), control_(control), copy_own_(std::move(copy_own)) {
   window_.controls_.push_back(this);
-  Update();
+  shown_ = Present();
 }
 
 HeadlessControl::~HeadlessControl() { std::erase(window_.controls_, this); }
 
-void HeadlessControl::Update() {
-  shown_.name = control_.AccessibleName();
-  shown_.description = control_.AccessibleDescription();
+ShownControl HeadlessControl::Present() const {
+  ShownControl present;
+  present.name = control_.AccessibleName();
+  present.description = control_.AccessibleDescription();
   const Ref<Label> caption = control_.LabelledBy();
-  shown_.labelled_by = caption ? caption->Text() : "";
-  shown_.visible = control_.Visible();
-  shown_.enabled = control_.Enabled();
-  if (const auto* text = dynamic_cast<TextEdit*>(&control_)) {
-    shown_.role = Role::kText;
-    shown_.text = text->Text();
-    shown_.selected_text = text->SelectedText();
-  } else if (const auto* slider = dynamic_cast<Slider*>(&control_)) {
-    shown_.role = Role::kSlider;
-    shown_.position = slider->Value();
-    shown_.value = slider->InUnits(shown_.position);
-  } else if (const auto* button = dynamic_cast<PushButton*>(&control_)) {
-    shown_.role = Role::kButton;
-    shown_.text = button->Caption();
-  } else if (const auto* label = dynamic_cast<Label*>(&control_)) {
-    shown_.text = label->Text();
-    if (shown_.name.empty()) shown_.name = shown_.text;
-  }
+  present.labelled_by = caption ? caption->Text() : "";
+  present.visible = control_.Visible();
+  present.enabled = control_.Enabled();
+  copy_own_(present);
+  return present;
 }
 
 HeadlessWindow::HeadlessWindow(HeadlessDisplay& display, vamo::Window& window)
@@ -48,15 +50,51 @@ HeadlessWindow::HeadlessWindow(HeadlessDisplay& display, vamo::Window& window)
 
 HeadlessWindow::~HeadlessWindow() { std::erase(display_.windows_, this); }
 
-std::unique_ptr<ControlView> HeadlessWindow::CreateControl(RectControl& control) {
-  return std::make_unique<HeadlessControl>(*this, control);
+std::unique_ptr<ControlView> HeadlessWindow::CreateControl(Canvas& canvas) {
+  return std::make_unique<HeadlessControl>(*this, canvas, [](ShownControl&) {});
+}
+
+std::unique_ptr<ControlView> HeadlessWindow::CreateControl(Label& label) {
+  return std::make_unique<HeadlessControl>(*this, label, [&](ShownControl& shown) {
+    shown.text = label.Text();
+    if (shown.name.empty()) shown.name = shown.text;
+  });
+}
+
+std::unique_ptr<ControlView> HeadlessWindow::CreateControl(PushButton& button) {
+  return std::make_unique<HeadlessControl>(*this, button, [&](ShownControl& shown) {
+    shown.role = Role::kButton;
+    shown.text = button.Caption();
+  });
+}
+
+std::unique_ptr<ControlView> HeadlessWindow::CreateControl(Rectangle& rectangle) {
+  return std::make_unique<HeadlessControl>(*this, rectangle, [](ShownControl&) {});
+}
+
+std::unique_ptr<ControlView> HeadlessWindow::CreateControl(Slider& slider) {
+  return std::make_unique<HeadlessControl>(*this, slider, [&](ShownControl& shown) {
+    shown.role = Role::kSlider;
+    shown.position = slider.Value();
+    shown.value = slider.InUnits(shown.position);
+  });
+}
+
+std::unique_ptr<ControlView> HeadlessWindow::CreateControl(TextArea& area) {
+  return std::make_unique<HeadlessControl>(*this, area,
+                                           [&](ShownControl& shown) { CopyText(area, shown); });
+}
+
+std::unique_ptr<ControlView> HeadlessWindow::CreateControl(TextField& field) {
+  return std::make_unique<HeadlessControl>(*this, field,
+                                           [&](ShownControl& shown) { CopyText(field, shown); });
 }
 
 void HeadlessWindow::Show() {
   on_screen_ = true;
   // A screen activates a window when it comes around to it, not while the program asks for it.
   display_.Post([&display = display_, window = WeakRef(Self(&window_))] {
-    const Ref<vamo::Window> shown = Cast<vamo::Window>(window.Value());
+    const Ref<vamo::Window> shown = window.Value();
     for (HeadlessWindow* view : display.windows_) {
       if (shown && &view->window_ == &*shown && view->on_screen_) return display.Activate(*view);
     }

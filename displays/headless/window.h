@@ -5,29 +5,36 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <utility>
 #include <vector>
 
 #include "displays/headless/display.h"
+#include "displays/user.h"
+#include "toolkit/control/control.h"
+#include "toolkit/runtime/display.h"
 
 namespace vamo {
 
 // A control as it is shown: the copy of its state, made when it asked for it. What a control
 // forgets to have shown stays out of it.
-class HeadlessControl final : public ControlView {
+class HeadlessControl : public ControlView {
  public:
-  HeadlessControl(HeadlessWindow& window, RectControl& control);
+  // `copy_own` copies what only controls of that class have.
+  HeadlessControl(HeadlessWindow& window, RectControl& control,
+                  std::function<void(ShownControl&)> copy_own);
   ~HeadlessControl() override;
 
-  void Update() override;
+  void Update() override { shown_ = Present(); }
 
   RectControl& Control() const { return control_; }
   HeadlessWindow& Window() const { return window_; }
   const ShownControl& Shown() const { return shown_; }
+  // The control's present state, as it would be shown.
+  ShownControl Present() const;
 
  private:
   HeadlessWindow& window_;
   RectControl& control_;
+  const std::function<void(ShownControl&)> copy_own_;
   ShownControl shown_;
 };
 
@@ -37,7 +44,13 @@ class HeadlessWindow : public WindowView {
   HeadlessWindow(HeadlessDisplay& display, vamo::Window& window);
   ~HeadlessWindow() override;
 
-  std::unique_ptr<ControlView> CreateControl(RectControl& control) override;
+  std::unique_ptr<ControlView> CreateControl(Canvas& canvas) override;
+  std::unique_ptr<ControlView> CreateControl(Label& label) override;
+  std::unique_ptr<ControlView> CreateControl(PushButton& button) override;
+  std::unique_ptr<ControlView> CreateControl(Rectangle& rectangle) override;
+  std::unique_ptr<ControlView> CreateControl(Slider& slider) override;
+  std::unique_ptr<ControlView> CreateControl(TextArea& area) override;
+  std::unique_ptr<ControlView> CreateControl(TextField& field) override;
   void Show() override;
   void Hide() override { on_screen_ = false; }
   void UpdateFocus() override;

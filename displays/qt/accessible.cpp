@@ -1,4 +1,3 @@
-// What assistive technology reads where Qt's own answer falls short.
 #include "displays/qt/accessible.h"
 
 #include <QAccessibleWidget>
@@ -6,7 +5,7 @@
 #include "displays/qt/label.h"
 #include "displays/qt/slider.h"
 #include "displays/qt/window.h"
-#include "toolkit/label.h"
+#include "toolkit/control/label.h"
 
 namespace vamo {
 namespace {
@@ -15,7 +14,7 @@ using Relations = QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>;
 
 const RectControl* ControlOf(const QWidget* widget) {
   const auto* shows = dynamic_cast<const ControlWidget*>(widget);
-  return shows == nullptr ? nullptr : shows->GetControl();
+  return shows == nullptr ? nullptr : shows->Control();
 }
 
 bool IsCaptionOf(const RectControl& caption, const RectControl& control) {
@@ -82,7 +81,7 @@ class AccessibleSlider : public AccessibleControl, public QAccessibleValueInterf
 
  private:
   double InUnits(int position) const {
-    const auto* slider = static_cast<const Slider*>(slider_.GetControl());
+    const auto* slider = static_cast<const Slider*>(slider_.Control());
     return slider == nullptr ? position : slider->InUnits(position);
   }
 

@@ -1,11 +1,10 @@
-// Which window the user's keys go to.
 #include "displays/qt/activation.h"
 
 #include <QApplication>
 #include <chrono>
 
 #include "displays/qt/window.h"
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -14,7 +13,7 @@ namespace {
 constexpr std::chrono::milliseconds kPatience{1000};
 
 void Report(const WindowWidget& widget) {
-  if (Window* window = widget.GetWindow()) window->UserActivated();
+  if (Window* window = widget.ShownWindow()) window->UserActivated();
 }
 
 }  // namespace
@@ -41,7 +40,7 @@ void Activation::Activated(WindowWidget& window) {
 }
 
 void Activation::Deactivated(const WindowWidget& window) {
-  if (Window* deactivated = window.GetWindow()) deactivated->UserDeactivated();
+  if (Window* deactivated = window.ShownWindow()) deactivated->UserDeactivated();
 }
 
 void Activation::GiveUp() {

@@ -1,4 +1,3 @@
-// The push button on the screen.
 #include "displays/qt/button.h"
 
 #include <QMouseEvent>
@@ -21,7 +20,7 @@ void ButtonWidget::ShowState() {
 }
 
 void ButtonWidget::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || GetControl() == nullptr) {
+  if (event->button() != Qt::LeftButton || Control() == nullptr) {
     event->ignore();
     return;
   }

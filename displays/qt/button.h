@@ -1,4 +1,3 @@
-// The push button on the screen.
 #ifndef VAMO_DISPLAYS_QT_BUTTON_H_
 #define VAMO_DISPLAYS_QT_BUTTON_H_
 
@@ -6,7 +5,7 @@
 
 #include "displays/qt/control.h"
 #include "displays/qt/convert.h"
-#include "toolkit/push_button.h"
+#include "toolkit/control/push_button.h"
 
 namespace vamo {
 

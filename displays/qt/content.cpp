@@ -1,4 +1,3 @@
-// What a window shows below its menu bar.
 #include "displays/qt/content.h"
 
 #include <QMouseEvent>
@@ -7,33 +6,23 @@
 
 #include "displays/qt/convert.h"
 #include "displays/qt/window.h"
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
 
-struct Span {
-  int begin;
-  int length;
-};
-
 // Both ends go to whole pixels, so that what touches as designed does so at every factor.
-Span ScaledSpan(std::int64_t begin, std::int64_t length, double factor) {
-  const int from = Scaled(begin, factor);
-  return {from, Scaled(begin + length, factor) - from};
-}
-
-// One dimension of a control in a window that its user has made larger by so much.
-Span Stretched(Span designed, int growth, bool begin_locked, bool end_locked) {
-  if (!end_locked) return designed;
-  if (!begin_locked) return {designed.begin + growth, designed.length};
-  return {designed.begin, std::max(0, designed.length + growth)};
+Bounds ScaledBounds(const Bounds& bounds, double factor) {
+  const int left = Scaled(bounds.left, factor);
+  const int top = Scaled(bounds.top, factor);
+  return {left, top, Scaled(bounds.left + bounds.width, factor) - left,
+          Scaled(bounds.top + bounds.height, factor) - top};
 }
 
 }  // namespace
 
 ContentWidget::ContentWidget(WindowWidget& parent) : QWidget(&parent), window_(parent) {
-  const Window::State& state = parent.GetWindow()->GetState();
+  const Window::State& state = parent.ShownWindow()->InitialState();
   setAutoFillBackground(true);
   QPalette colours = palette();
   // Without a colour of its own a window has that of the text on it, which then needs no edge.
@@ -42,13 +31,12 @@ ContentWidget::ContentWidget(WindowWidget& parent) : QWidget(&parent), window_(p
   setPalette(colours);
 }
 
-ControlWidget& ContentWidget::AddControl(RectControl& control) {
-  ControlWidget& widget = MakeControlWidget(control, *this);
+void ContentWidget::Add(ControlWidget& widget) {
   controls_.push_back(&widget);
+  widget.AsWidget().setObjectName(ToQString(widget.Control()->Name()));
   Place(widget);
   widget.Rescale(window_.Factor());
   widget.Refresh();
-  return widget;
 }
 
 void ContentWidget::Rescale() {
@@ -60,30 +48,27 @@ void ContentWidget::Rescale() {
 
 QWidget* ContentWidget::Find(const RectControl* control) const {
   for (ControlWidget* widget : controls_) {
-    if (control != nullptr && widget->GetControl() == control) return &widget->AsWidget();
+    if (control != nullptr && widget->Control() == control) return &widget->AsWidget();
   }
   return nullptr;
 }
 
 void ContentWidget::Place(ControlWidget& widget) {
-  const RectControl* control = widget.GetControl();
-  const Window* window = window_.GetWindow();
+  const RectControl* control = widget.Control();
+  const Window* window = window_.ShownWindow();
   if (control == nullptr || window == nullptr) return;
   const double factor = window_.Factor();
-  const Bounds& bounds = control->Bounds();
-  const RectControl::Locks& locks = control->GetLocks();
-  const Window::State& designed = window->GetState();
-  const Span across = Stretched(ScaledSpan(bounds.left, bounds.width, factor),
-                                width() - Scaled(designed.width, factor), locks.left, locks.right);
-  const Span down = Stretched(ScaledSpan(bounds.top, bounds.height, factor),
-                              height() - Scaled(designed.height, factor), locks.top, locks.bottom);
-  widget.SetBox({across.begin, down.begin, across.length, down.length});
+  const Window::State& designed = window->InitialState();
+  const Bounds box = Stretched(ScaledBounds(control->Bounds(), factor), control->Locks(),
+                               width() - Scaled(designed.width, factor),
+                               height() - Scaled(designed.height, factor));
+  widget.SetBox({ToInt(box.left), ToInt(box.top), ToInt(box.width), ToInt(box.height)});
 }
 
 void ContentWidget::mousePressEvent(QMouseEvent* event) {
   event->accept();
   const QPoint at = (event->position() / window_.Factor()).toPoint();
-  if (Window* window = window_.GetWindow()) window->UserPressedMouse(at.x(), at.y());
+  if (Window* window = window_.ShownWindow()) window->UserPressedMouse(at.x(), at.y());
 }
 
 void ContentWidget::resizeEvent(QResizeEvent* /*event*/) {
@@ -91,7 +76,7 @@ void ContentWidget::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void ContentWidget::paintEvent(QPaintEvent* /*event*/) {
-  const Window* window = window_.GetWindow();
+  const Window* window = window_.ShownWindow();
   if (window == nullptr || !window->IsSplash()) return;
   // A window without a frame needs an edge where it lies on another one of its colour.
   QPainter painter(this);

@@ -1,4 +1,3 @@
-// What a window shows below its menu bar.
 #ifndef VAMO_DISPLAYS_QT_CONTENT_H_
 #define VAMO_DISPLAYS_QT_CONTENT_H_
 
@@ -18,10 +17,11 @@ class ContentWidget : public QWidget {
  public:
   explicit ContentWidget(WindowWidget& parent);
 
-  ControlWidget& AddControl(RectControl& control);
+  // Takes in a new widget of a control, whose parent is this one.
+  void Add(ControlWidget& widget);
   // Makes all controls as large as the window's factor says.
   void Rescale();
-  // The widget of a control, or nil.
+  // The widget of a control, or null.
   QWidget* Find(const RectControl* control) const;
 
  protected:

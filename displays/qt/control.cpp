@@ -1,27 +1,11 @@
-// What the widgets of all controls have in common.
 #include "displays/qt/control.h"
 
 #include <QScopedValueRollback>
 
-#include "displays/qt/button.h"
 #include "displays/qt/convert.h"
-#include "displays/qt/label.h"
-#include "displays/qt/shapes.h"
-#include "displays/qt/slider.h"
-#include "displays/qt/text_area.h"
-#include "displays/qt/text_field.h"
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
-namespace {
-
-template <class WidgetClass, class ControlClass>
-ControlWidget* MakeIf(RectControl& control, QWidget& parent) {
-  auto* cast = dynamic_cast<ControlClass*>(&control);
-  return cast == nullptr ? nullptr : new WidgetClass(*cast, parent);
-}
-
-}  // namespace
 
 void ControlWidget::Rescale(double factor) {
   if (control_ == nullptr) return;
@@ -55,21 +39,6 @@ void ControlWidget::ReportFocus(Qt::FocusReason reason) {
   const bool users = reason == Qt::MouseFocusReason || reason == Qt::OtherFocusReason;
   if (!users || !IsUsersDoing()) return;
   if (const Ref<Window> window = control_->Window()) window->UserFocused(Self(control_));
-}
-
-ControlWidget& MakeControlWidget(RectControl& control, QWidget& parent) {
-  constexpr ControlWidget* (*kMakers[])(RectControl&, QWidget&) = {
-      MakeIf<FieldWidget, TextField>,   MakeIf<AreaWidget, TextArea>,
-      MakeIf<LabelWidget, Label>,       MakeIf<SliderWidget, Slider>,
-      MakeIf<ButtonWidget, PushButton>, MakeIf<RectangleWidget, Rectangle>,
-      MakeIf<CanvasWidget, Canvas>,     MakeIf<BlankWidget, RectControl>,
-  };
-  ControlWidget* widget = nullptr;
-  for (const auto maker : kMakers) {
-    if (widget == nullptr) widget = maker(control, parent);
-  }
-  widget->AsWidget().setObjectName(ToQString(control.Name()));
-  return *widget;
 }
 
 }  // namespace vamo

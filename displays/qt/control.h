@@ -1,12 +1,11 @@
-// What the widgets of all controls have in common.
 #ifndef VAMO_DISPLAYS_QT_CONTROL_H_
 #define VAMO_DISPLAYS_QT_CONTROL_H_
 
 #include <QPointer>
 #include <QWidget>
 
-#include "toolkit/control.h"
-#include "toolkit/display.h"
+#include "toolkit/control/control.h"
+#include "toolkit/runtime/display.h"
 
 namespace vamo {
 
@@ -20,8 +19,8 @@ class ControlWidget {
   ControlWidget& operator=(const ControlWidget&) = delete;
 
   virtual QWidget& AsWidget() = 0;
-  // Nil when the control's part on the display has been given up.
-  RectControl* GetControl() const { return control_; }
+  // Null when the control's part on the display has been given up.
+  RectControl* Control() const { return control_; }
   void Detach() { control_ = nullptr; }
 
   // Makes everything so many times larger than the control says. The place is the parent's matter.
@@ -58,7 +57,7 @@ class WidgetFor : public QtWidget, public ControlWidget {
   QWidget& AsWidget() override { return *this; }
 
  protected:
-  ControlClass& TheControl() const { return static_cast<ControlClass&>(*GetControl()); }
+  ControlClass& TheControl() const { return static_cast<ControlClass&>(*Control()); }
 };
 
 // The control's end of its widget. It does not own the widget: the window's widget does.
@@ -76,10 +75,6 @@ class QtControlView : public ControlView {
   QPointer<QWidget> alive_;
   ControlWidget& widget_;
 };
-
-// A widget of the right class for the control, as a child of `parent`, which owns it. It shows
-// nothing before Rescale and Refresh.
-ControlWidget& MakeControlWidget(RectControl& control, QWidget& parent);
 
 }  // namespace vamo
 

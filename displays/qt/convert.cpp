@@ -1,4 +1,3 @@
-// From the toolkit's values to Qt's and back.
 #include "displays/qt/convert.h"
 
 #include <QFontDatabase>
@@ -7,17 +6,9 @@
 #include <cmath>
 #include <limits>
 
+#include "toolkit/utf8.h"
+
 namespace vamo {
-namespace {
-
-// The UTF-16 units of the character that begins with this byte; 0 for a byte inside a character.
-int Utf16Units(char byte) {
-  const auto value = static_cast<unsigned char>(byte);
-  if ((value & 0xC0U) == 0x80U) return 0;
-  return value >= 0xF0 ? 2 : 1;
-}
-
-}  // namespace
 
 QString ToQString(std::string_view utf8) {
   // QString::fromUtf8 would drop U+FEFF at the start, and all offsets would be off by one.
@@ -68,19 +59,11 @@ int Scaled(std::int64_t length, double factor) {
 }
 
 int Utf16Position(std::string_view utf8, std::size_t byte_offset) {
-  int position = 0;
-  for (const char byte : utf8.substr(0, byte_offset)) position += Utf16Units(byte);
-  return position;
+  return static_cast<int>(Utf16Offset(utf8, byte_offset));
 }
 
-std::size_t ByteOffset(std::string_view utf8, int utf16_position) {
-  int position = 0;
-  for (std::size_t i = 0; i < utf8.size(); ++i) {
-    const int units = Utf16Units(utf8[i]);
-    if (units > 0 && position >= utf16_position) return i;
-    position += units;
-  }
-  return utf8.size();
+std::size_t ByteOffsetOf(std::string_view utf8, int position) {
+  return ByteOffset(utf8, static_cast<std::size_t>(position));
 }
 
 }  // namespace vamo

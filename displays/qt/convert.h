@@ -10,9 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/class_info.h"
-#include "toolkit/control.h"
-#include "toolkit/label.h"
+#include "toolkit/style.h"
 
 namespace vamo {
 
@@ -30,10 +28,9 @@ int ToInt(std::int64_t number);
 // So many times a length, as a whole number.
 int Scaled(std::int64_t length, double factor);
 
-// The place in the UTF-16 form of valid UTF-8 that belongs to a byte offset, and the other way
-// round. A place past the end is the end.
+// A byte offset into valid UTF-8 as Qt counts, and the other way round.
 int Utf16Position(std::string_view utf8, std::size_t byte_offset);
-std::size_t ByteOffset(std::string_view utf8, int utf16_position);
+std::size_t ByteOffsetOf(std::string_view utf8, int position);
 
 }  // namespace vamo
 

@@ -1,10 +1,9 @@
-// The display on Qt 6 Widgets.
 #ifndef VAMO_DISPLAYS_QT_DISPLAY_H_
 #define VAMO_DISPLAYS_QT_DISPLAY_H_
 
 #include <memory>
 
-#include "toolkit/display.h"
+#include "toolkit/runtime/display.h"
 
 namespace vamo {
 

@@ -1,4 +1,3 @@
-// The one road of the keys from Qt to the toolkit.
 #include "displays/qt/keys.h"
 
 #include <algorithm>
@@ -8,7 +7,7 @@
 #include "displays/qt/convert.h"
 #include "displays/qt/window.h"
 #include "toolkit/utf8.h"
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -104,9 +103,9 @@ std::optional<Key> ToKey(const QKeyEvent& event) {
   return key;
 }
 
-KeyRoad::KeyRoad(WindowWidget& window) : QObject(&window), window_(window) { Watch(window); }
+KeyRouter::KeyRouter(WindowWidget& window) : QObject(&window), window_(window) { Watch(window); }
 
-bool KeyRoad::eventFilter(QObject* /*watched*/, QEvent* event) {
+bool KeyRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     // The toolkit knows the shortcuts, so Qt must not look for any, but for the menus' mnemonics.
     if (IsMnemonic(static_cast<QKeyEvent&>(*event))) return false;
@@ -117,8 +116,8 @@ bool KeyRoad::eventFilter(QObject* /*watched*/, QEvent* event) {
   return TakeKey(static_cast<QKeyEvent&>(*event));
 }
 
-bool KeyRoad::TakeKey(const QKeyEvent& event) {
-  Window* window = window_.GetWindow();
+bool KeyRouter::TakeKey(const QKeyEvent& event) {
+  Window* window = window_.ShownWindow();
   if (window == nullptr) return true;
   const std::optional<Key> key = ToKey(event);
   if (!key.has_value()) return false;

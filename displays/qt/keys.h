@@ -1,4 +1,3 @@
-// The one road of the keys from Qt to the toolkit.
 #ifndef VAMO_DISPLAYS_QT_KEYS_H_
 #define VAMO_DISPLAYS_QT_KEYS_H_
 
@@ -6,7 +5,7 @@
 #include <QObject>
 #include <optional>
 
-#include "toolkit/key.h"
+#include "toolkit/runtime/key.h"
 
 namespace vamo {
 
@@ -20,9 +19,9 @@ std::optional<Key> ToKey(const QKeyEvent& event);
 // Takes the keys of all widgets of one window before the widgets see them and gives them to the
 // toolkit. A key that carries a character goes no further; one that the toolkit leaves alone and
 // that carries none goes on to the widget.
-class KeyRoad : public QObject {
+class KeyRouter : public QObject {
  public:
-  explicit KeyRoad(WindowWidget& window);
+  explicit KeyRouter(WindowWidget& window);
 
   void Watch(QObject& widget) { widget.installEventFilter(this); }
   bool eventFilter(QObject* watched, QEvent* event) override;

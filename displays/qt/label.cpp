@@ -1,4 +1,3 @@
-// The label on the screen.
 #include "displays/qt/label.h"
 
 #include <QFontMetricsF>
@@ -9,7 +8,7 @@
 #include <cstdint>
 
 #include "displays/qt/convert.h"
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -33,8 +32,8 @@ Reach ReachOf(const RectControl& label) {
   constexpr double kGap = 5;
   const Bounds& box = label.Bounds();
   const Ref<Window> window = label.Window();
-  const Ref<RectControl> parent = label.Parent();
-  const Bounds whole = parent ? parent->Bounds() : Bounds{0, 0, window->GetState().width, 0};
+  const Ref<RectControl> parent = window->ParentOf(label);
+  const Bounds whole = parent ? parent->Bounds() : Bounds{0, 0, window->InitialState().width, 0};
   std::int64_t left = whole.left;
   std::int64_t right = whole.left + whole.width;
   for (const Ref<RectControl>& other : window->Controls()) {
@@ -63,7 +62,7 @@ LabelWidget::LabelWidget(Label& label, QWidget& parent) : WidgetFor(label, paren
   setTextFormat(Qt::PlainText);
   setAlignment(ToQtAlignment(label.Alignment()));
   QPalette colours = palette();
-  colours.setColor(QPalette::WindowText, ToQColor(label.TextColor()));
+  colours.setColor(QPalette::WindowText, ToQColor(label.TextColour()));
   setPalette(colours);
 }
 

@@ -1,4 +1,3 @@
-// The label on the screen.
 #ifndef VAMO_DISPLAYS_QT_LABEL_H_
 #define VAMO_DISPLAYS_QT_LABEL_H_
 
@@ -7,7 +6,7 @@
 #include <QTextLayout>
 
 #include "displays/qt/control.h"
-#include "toolkit/label.h"
+#include "toolkit/control/label.h"
 
 namespace vamo {
 

@@ -1,4 +1,3 @@
-// The menus on the screen.
 #include "displays/qt/menu.h"
 
 #include <QAction>
@@ -6,7 +5,7 @@
 #include <vector>
 
 #include "displays/qt/convert.h"
-#include "toolkit/menu_service.h"
+#include "toolkit/window/menu_service.h"
 
 namespace vamo {
 namespace {
@@ -15,16 +14,6 @@ QString Escaped(const QString& title) { return QString(title).replace(u'&', QStr
 
 // Where to look for the letter of an entry. On every desktop C is Copy, and T is Cut.
 qsizetype FirstCandidate(const QString& title) { return title == QStringLiteral("Cut") ? 2 : 0; }
-
-// The text of a menu or of an entry, with the first letter that none before it has as its mnemonic.
-QString WithMnemonic(const QString& title, QString& letters_in_use) {
-  for (qsizetype i = FirstCandidate(title); i < title.size(); ++i) {
-    if (!title[i].isLetter() || letters_in_use.contains(title[i], Qt::CaseInsensitive)) continue;
-    letters_in_use += title[i];
-    return Escaped(title.left(i)) + u'&' + Escaped(title.mid(i));
-  }
-  return Escaped(title);
-}
 
 QAction::MenuRole Role(const MenuItem& item) {
   if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return QAction::QuitRole;
@@ -75,6 +64,15 @@ class Menu : public QMenu {
 };
 
 }  // namespace
+
+QString WithMnemonic(const QString& title, QString& letters_in_use) {
+  for (qsizetype i = FirstCandidate(title); i < title.size(); ++i) {
+    if (!title[i].isLetter() || letters_in_use.contains(title[i], Qt::CaseInsensitive)) continue;
+    letters_in_use += title[i];
+    return Escaped(title.left(i)) + u'&' + Escaped(title.mid(i));
+  }
+  return Escaped(title);
+}
 
 void FillMenuBar(QMenuBar& bar, const MenuBar& tree) {
   QString letters_in_use;

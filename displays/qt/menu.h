@@ -1,10 +1,10 @@
-// The menus on the screen.
 #ifndef VAMO_DISPLAYS_QT_MENU_H_
 #define VAMO_DISPLAYS_QT_MENU_H_
 
 #include <QMenuBar>
+#include <QString>
 
-#include "toolkit/menu_item.h"
+#include "toolkit/window/menu_item.h"
 
 namespace vamo {
 
@@ -14,6 +14,9 @@ inline constexpr bool kOneMenuBarOnScreen = true;
 #else
 inline constexpr bool kOneMenuBarOnScreen = false;
 #endif
+
+// The text of a menu or of an entry, with the first letter that none before it has as its mnemonic.
+QString WithMnemonic(const QString& title, QString& letters_in_use);
 
 // Fills an empty bar with the menus to be drawn of a tree. The items' state is fetched each time
 // that a menu opens. On macOS Qt takes the items for the application menu there, by their roles.

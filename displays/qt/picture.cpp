@@ -1,4 +1,3 @@
-// An image from the application's resources.
 #include "displays/qt/picture.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,3 @@
-// An image from the application's resources.
 #ifndef VAMO_DISPLAYS_QT_PICTURE_H_
 #define VAMO_DISPLAYS_QT_PICTURE_H_
 
@@ -7,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "toolkit/display.h"
+#include "toolkit/runtime/display.h"
 
 namespace vamo {
 

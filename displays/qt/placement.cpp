@@ -1,4 +1,3 @@
-// Where windows go on the screen.
 #include "displays/qt/placement.h"
 
 #include <QScreen>
@@ -12,7 +11,7 @@ namespace {
 
 QWidget* WidgetOf(const Ref<Window>& window) {
   for (WindowWidget* widget : AllWindows()) {
-    if (window && widget->GetWindow() == &*window) return widget;
+    if (window && widget->ShownWindow() == &*window) return widget;
   }
   return nullptr;
 }

@@ -2,7 +2,7 @@
 #ifndef VAMO_DISPLAYS_QT_PLACEMENT_H_
 #define VAMO_DISPLAYS_QT_PLACEMENT_H_
 
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 class QPoint;
 class QSize;

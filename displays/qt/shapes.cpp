@@ -1,4 +1,3 @@
-// The drawn controls on the screen: rectangle and canvas.
 #include "displays/qt/shapes.h"
 
 #include <QPainter>
@@ -8,12 +7,12 @@
 
 #include "displays/qt/convert.h"
 #include "displays/qt/picture.h"
-#include "toolkit/runtime.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 
 void RectangleWidget::paintEvent(QPaintEvent* /*event*/) {
-  if (GetControl() == nullptr) return;
+  if (Control() == nullptr) return;
   const Rectangle& rectangle = TheControl();
   QPainter painter(this);
   const QRectF box = rect();
@@ -23,12 +22,12 @@ void RectangleWidget::paintEvent(QPaintEvent* /*event*/) {
   const double pixel_count = wanted > 0 ? std::max(1.0, std::round(wanted * pixels)) : 0;
   const double border = std::min({pixel_count / pixels, box.width() / 2, box.height() / 2});
   const QRectF inside = box.adjusted(border, border, -border, -border);
-  painter.fillRect(box, ToQColor(rectangle.BottomRightColor()));
+  painter.fillRect(box, ToQColor(rectangle.BottomRightColour()));
   painter.setPen(Qt::NoPen);
-  painter.setBrush(ToQColor(rectangle.TopLeftColor()));
+  painter.setBrush(ToQColor(rectangle.TopLeftColour()));
   painter.drawPolygon(QPolygonF({box.bottomLeft(), box.topLeft(), box.topRight(), inside.topRight(),
                                  inside.topLeft(), inside.bottomLeft()}));
-  painter.fillRect(inside, ToQColor(rectangle.FillColor()));
+  painter.fillRect(inside, ToQColor(rectangle.FillColour()));
 }
 
 void CanvasWidget::ShowState() {
@@ -37,7 +36,7 @@ void CanvasWidget::ShowState() {
 }
 
 void CanvasWidget::paintEvent(QPaintEvent* /*event*/) {
-  if (GetControl() == nullptr || !TheControl().Backdrop()) return;
+  if (Control() == nullptr || !TheControl().Backdrop()) return;
   const auto* picture = dynamic_cast<const QtPicture*>(TheControl().Backdrop()->Image().get());
   if (picture == nullptr) return;
   const double ratio = Runtime::Current().SupportsHiDPI() ? devicePixelRatioF() : 1;

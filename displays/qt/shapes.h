@@ -1,4 +1,4 @@
-// The drawn controls on the screen: rectangle, canvas, and the control that shows nothing.
+// The drawn controls on the screen: rectangle and canvas.
 #ifndef VAMO_DISPLAYS_QT_SHAPES_H_
 #define VAMO_DISPLAYS_QT_SHAPES_H_
 
@@ -6,19 +6,10 @@
 #include <QWidget>
 
 #include "displays/qt/control.h"
-#include "toolkit/picture.h"
-#include "toolkit/rectangle.h"
+#include "toolkit/control/canvas.h"
+#include "toolkit/control/rectangle.h"
 
 namespace vamo {
-
-// A control without anything to see.
-class BlankWidget : public WidgetFor<QWidget, RectControl> {
- public:
-  using WidgetFor::WidgetFor;
-
- protected:
-  void ShowState() override {}
-};
 
 // Draws a frame in two colours, with mitred corners, and what it encloses.
 class RectangleWidget : public WidgetFor<QWidget, Rectangle> {

@@ -1,4 +1,3 @@
-// The slider on the screen.
 #include "displays/qt/slider.h"
 
 #include <QFocusEvent>

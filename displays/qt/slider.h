@@ -1,4 +1,3 @@
-// The slider on the screen.
 #ifndef VAMO_DISPLAYS_QT_SLIDER_H_
 #define VAMO_DISPLAYS_QT_SLIDER_H_
 
@@ -8,7 +7,7 @@
 #include <QStyleOptionSlider>
 
 #include "displays/qt/control.h"
-#include "toolkit/slider.h"
+#include "toolkit/control/slider.h"
 
 namespace vamo {
 

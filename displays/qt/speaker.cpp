@@ -1,4 +1,3 @@
-// The voice of the program.
 #include "displays/qt/speaker.h"
 
 #include <QApplication>

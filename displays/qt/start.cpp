@@ -1,4 +1,3 @@
-// How Qt's application object is made.
 #include "displays/qt/start.h"
 
 #include <QPalette>

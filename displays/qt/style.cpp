@@ -1,4 +1,3 @@
-// How fields, sliders and buttons are drawn.
 #include "displays/qt/style.h"
 
 #include <QPainter>

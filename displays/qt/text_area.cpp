@@ -1,4 +1,3 @@
-// The text area on the screen.
 #include "displays/qt/text_area.h"
 
 #include <QContextMenuEvent>
@@ -8,7 +7,7 @@
 
 #include "displays/qt/convert.h"
 #include "displays/qt/text_commands.h"
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -55,7 +54,7 @@ void AreaWidget::ShowState() {
 // Where a side lies outside of the window, the rest of the border would look like a mistake.
 void AreaWidget::ShowBorder() {
   const TextArea& area = TheControl();
-  const Window::State& window = area.Window()->GetState();
+  const Window::State& window = area.Window()->InitialState();
   const Bounds& bounds = area.Bounds();
   const bool whole = bounds.left >= 0 && bounds.top >= 0 &&
                      bounds.left + bounds.width <= window.width &&
@@ -66,8 +65,8 @@ void AreaWidget::ShowBorder() {
 
 void AreaWidget::ShowColours() {
   QPalette colours = palette();
-  colours.setColor(QPalette::Text, ToQColor(TheControl().TextColor()));
-  colours.setColor(QPalette::Base, ToQColor(TheControl().BackgroundColor()));
+  colours.setColor(QPalette::Text, ToQColor(TheControl().TextColour()));
+  colours.setColor(QPalette::Base, ToQColor(TheControl().BackgroundColour()));
   colours.setColor(QPalette::WindowText, palette().color(QPalette::Mid));
   // Qt paints with the inactive colours while the keys go elsewhere, to a menu of this window too.
   const bool hidden = TheControl().HideSelection() && !isActiveWindow();
@@ -81,7 +80,7 @@ void AreaWidget::ShowColours() {
 }
 
 void AreaWidget::ShowSelection() {
-  const auto [anchor, caret] = TheControl().GetSelection();
+  const auto [anchor, caret] = TheControl().Selection();
   QTextCursor cursor = textCursor();
   const int from = Utf16Position(TheControl().Text(), anchor);
   const int to = Utf16Position(TheControl().Text(), caret);
@@ -94,27 +93,27 @@ void AreaWidget::ShowSelection() {
 void AreaWidget::ReportSelection() {
   const QTextCursor cursor = textCursor();
   TextArea& area = TheControl();
-  area.UserSelected(ByteOffset(area.Text(), cursor.anchor()),
-                    ByteOffset(area.Text(), cursor.position()));
+  area.UserSelected(ByteOffsetOf(area.Text(), cursor.anchor()),
+                    ByteOffsetOf(area.Text(), cursor.position()));
 }
 
 bool AreaWidget::event(QEvent* event) {
   const bool turned =
       event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
   const bool done = QPlainTextEdit::event(event);
-  if (turned && GetControl() != nullptr) ShowColours();
+  if (turned && Control() != nullptr) ShowColours();
   return done;
 }
 
 void AreaWidget::keyPressEvent(QKeyEvent* event) {
-  if (GetControl() != nullptr && !DoEditKey(TheControl(), *event) && IsCaretKey(*event)) {
+  if (Control() != nullptr && !DoEditKey(TheControl(), *event) && IsCaretKey(*event)) {
     QPlainTextEdit::keyPressEvent(event);
   }
   event->accept();
 }
 
 void AreaWidget::contextMenuEvent(QContextMenuEvent* event) {
-  if (GetControl() == nullptr) return;
+  if (Control() == nullptr) return;
   OpenTextMenu(*this, TheControl(), event->globalPos(), [this] { selectAll(); });
 }
 

@@ -1,11 +1,10 @@
-// The text area on the screen.
 #ifndef VAMO_DISPLAYS_QT_TEXT_AREA_H_
 #define VAMO_DISPLAYS_QT_TEXT_AREA_H_
 
 #include <QPlainTextEdit>
 
 #include "displays/qt/control.h"
-#include "toolkit/text_edit.h"
+#include "toolkit/text/text_area.h"
 
 namespace vamo {
 

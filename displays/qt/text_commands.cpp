@@ -1,4 +1,3 @@
-// What the text field and the text area do alike with keys and menus.
 #include "displays/qt/text_commands.h"
 
 #include <QMenu>
@@ -6,7 +5,10 @@
 #include <algorithm>
 #include <array>
 
-#include "toolkit/runtime.h"
+#include "displays/qt/convert.h"
+#include "displays/qt/menu.h"
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/text/edit_commands.h"
 
 namespace vamo {
 namespace {
@@ -44,20 +46,21 @@ constexpr std::array kCaretKeys{
     QKeySequence::Deselect,
 };
 
-struct Command {
-  const char* title;
-  QKeySequence::StandardKey key;
-  bool (TextEdit::*can_act)() const;
-  void (TextEdit::*act)();
-};
-constexpr std::array kCommands{
-    Command{"&Undo", QKeySequence::Undo, &TextEdit::CanUndo, &TextEdit::Undo},
-    Command{"Cu&t", QKeySequence::Cut, &TextEdit::CanCut, &TextEdit::Cut},
-    Command{"&Copy", QKeySequence::Copy, &TextEdit::CanCopy, &TextEdit::Copy},
-    Command{"&Paste", QKeySequence::Paste, &TextEdit::CanPaste, &TextEdit::Paste},
-};
+QKeySequence::StandardKey PlatformKey(EditAction action) {
+  switch (action) {
+    case EditAction::kUndo:
+      return QKeySequence::Undo;
+    case EditAction::kCut:
+      return QKeySequence::Cut;
+    case EditAction::kCopy:
+      return QKeySequence::Copy;
+    case EditAction::kPaste:
+      break;
+  }
+  return QKeySequence::Paste;
+}
 
-void Do(const Command& command, TextEdit& text) {
+void Do(const EditCommand& command, TextEdit& text) {
   Runtime::Current().Dispatch([&, self = Self(&text)] { (text.*command.act)(); });
 }
 
@@ -73,9 +76,9 @@ bool IsCaretKey(const QKeyEvent& event) {
 }
 
 bool DoEditKey(TextEdit& text, const QKeyEvent& event) {
-  for (const Command& command : kCommands) {
-    const bool pastes = command.key == QKeySequence::Paste && IsPasteToo(event);
-    if (!pastes && !event.matches(command.key)) continue;
+  for (const EditCommand& command : kEditCommands) {
+    const bool pastes = command.action == EditAction::kPaste && IsPasteToo(event);
+    if (!pastes && !event.matches(PlatformKey(command.action))) continue;
     Do(command, text);
     return true;
   }
@@ -86,15 +89,16 @@ void OpenTextMenu(QWidget& widget, TextEdit& text, const QPoint& at,
                   const std::function<void()>& select_all) {
   auto* menu = new QMenu(&widget);
   QObject::connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
-  for (const Command& command : kCommands) {
-    if (command.key == QKeySequence::Cut) menu->addSeparator();
-    QAction* action = menu->addAction(QString::fromLatin1(command.title));
+  QString letters_in_use;
+  for (const EditCommand& command : kEditCommands) {
+    if (command.action == EditAction::kCut) menu->addSeparator();
+    QAction* action = menu->addAction(WithMnemonic(ToQString(command.title), letters_in_use));
     action->setEnabled((text.*command.can_act)());
     QObject::connect(action, &QAction::triggered, &widget,
                      [&command, self = Self(&text)] { Do(command, *self); });
   }
   menu->addSeparator();
-  QAction* action = menu->addAction(QStringLiteral("Select &All"));
+  QAction* action = menu->addAction(WithMnemonic(QStringLiteral("Select All"), letters_in_use));
   action->setEnabled(!text.Text().empty());
   QObject::connect(action, &QAction::triggered, &widget, select_all);
   menu->popup(at);

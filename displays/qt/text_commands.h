@@ -5,7 +5,7 @@
 #include <QKeyEvent>
 #include <functional>
 
-#include "toolkit/text_edit.h"
+#include "toolkit/text/text_edit.h"
 
 class QPoint;
 class QWidget;

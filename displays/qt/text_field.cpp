@@ -1,4 +1,3 @@
-// The text field on the screen.
 #include "displays/qt/text_field.h"
 
 #include <QClipboard>
@@ -14,7 +13,8 @@
 
 #include "displays/qt/convert.h"
 #include "displays/qt/text_commands.h"
-#include "toolkit/window.h"
+#include "toolkit/control/label.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -57,9 +57,9 @@ void FieldWidget::ShowLook() {
   setEchoMode(field.Password() ? QLineEdit::Password : QLineEdit::Normal);
   setInputMethodHints(inputMethodHints() | HintsFor(KeyboardFor(field.Rule())));
   setPlaceholderText(ToQString(field.Hint()));
-  const QColor background = ToQColor(field.BackgroundColor());
+  const QColor background = ToQColor(field.BackgroundColour());
   QPalette colours = palette();
-  colours.setColor(QPalette::Text, ToQColor(field.TextColor()));
+  colours.setColor(QPalette::Text, ToQColor(field.TextColour()));
   colours.setColor(QPalette::Base, background);
   // A little darker shows that nothing can be typed here; the text stays as legible as any.
   colours.setColor(QPalette::Disabled, QPalette::Base, background.darker(104));
@@ -87,11 +87,11 @@ void FieldWidget::ShowText() {
 void FieldWidget::Edit(const QString& after) {
   const QString before = text();
   const qsizetype shorter = std::min(before.size(), after.size());
-  // An edit leaves what is behind the caret as it was.
-  const int caret = Utf16Position(TheControl().Text(), TheControl().GetSelection().caret);
-  const qsizetype behind = std::min(shorter, after.size() - caret);
+  // An edit leaves what comes after the caret as it was.
+  const int caret = Utf16Position(TheControl().Text(), TheControl().Selection().caret);
+  const qsizetype after_caret = std::min(shorter, after.size() - caret);
   qsizetype tail = 0;
-  while (tail < behind && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
+  while (tail < after_caret && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
     ++tail;
   qsizetype head = 0;
   while (head < shorter - tail && before[head] == after[head]) ++head;
@@ -120,7 +120,7 @@ void FieldWidget::Replace(qsizetype from, qsizetype length, const QString& inser
 }
 
 void FieldWidget::ShowCaption() {
-  if (GetControl() == nullptr) return;
+  if (Control() == nullptr) return;
   const Ref<Label> caption = TheControl().LabelledBy();
   if (!caption) return;
   auto* label = parentWidget()->findChild<QLabel*>(ToQString(caption->Name()));
@@ -128,7 +128,7 @@ void FieldWidget::ShowCaption() {
 }
 
 void FieldWidget::ShowSelection() {
-  const auto [anchor, caret] = TheControl().GetSelection();
+  const auto [anchor, caret] = TheControl().Selection();
   const int from = Utf16Position(TheControl().Text(), anchor);
   const int to = Utf16Position(TheControl().Text(), caret);
   const bool shown = cursorPosition() == to && selectionLength() == std::abs(to - from);
@@ -145,7 +145,7 @@ void FieldWidget::ReportSelection() {
   int anchor = caret;
   if (hasSelectedText()) anchor = selectionStart() == caret ? selectionEnd() : selectionStart();
   TextField& field = TheControl();
-  field.UserSelected(ByteOffset(field.Text(), anchor), ByteOffset(field.Text(), caret));
+  field.UserSelected(ByteOffsetOf(field.Text(), anchor), ByteOffsetOf(field.Text(), caret));
 }
 
 void FieldWidget::ReportPaste(const QString& pasted) {
@@ -159,7 +159,7 @@ void FieldWidget::ReportForeignText(const QString& foreign) {
 }
 
 void FieldWidget::keyPressEvent(QKeyEvent* event) {
-  if (GetControl() != nullptr && !DoEditKey(TheControl(), *event) && IsCaretKey(*event)) {
+  if (Control() != nullptr && !DoEditKey(TheControl(), *event) && IsCaretKey(*event)) {
     QLineEdit::keyPressEvent(event);
   }
   event->accept();
@@ -168,7 +168,7 @@ void FieldWidget::keyPressEvent(QKeyEvent* event) {
 void FieldWidget::inputMethodEvent(QInputMethodEvent* event) {
   const QString committed = event->commitString();
   const int replaced = event->replacementLength();
-  if (GetControl() != nullptr && (replaced > 0 || !committed.isEmpty())) {
+  if (Control() != nullptr && (replaced > 0 || !committed.isEmpty())) {
     QInputMethodEvent nothing_being_composed;
     QLineEdit::inputMethodEvent(&nothing_being_composed);
     const Ref<Window> window = TheControl().Window();
@@ -195,7 +195,7 @@ void FieldWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void FieldWidget::contextMenuEvent(QContextMenuEvent* event) {
-  if (GetControl() == nullptr) return;
+  if (Control() == nullptr) return;
   OpenTextMenu(*this, TheControl(), event->globalPos(), [this] { selectAll(); });
 }
 

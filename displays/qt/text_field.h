@@ -1,4 +1,3 @@
-// The text field on the screen.
 #ifndef VAMO_DISPLAYS_QT_TEXT_FIELD_H_
 #define VAMO_DISPLAYS_QT_TEXT_FIELD_H_
 
@@ -6,7 +5,7 @@
 #include <string_view>
 
 #include "displays/qt/control.h"
-#include "toolkit/text_edit.h"
+#include "toolkit/text/text_field.h"
 
 namespace vamo {
 
@@ -26,7 +25,7 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
   void dropEvent(QDropEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  // The caption may have been created behind the field; by now it is there.
+  // The caption may have been created after the field; by now it is there.
   void showEvent(QShowEvent* event) override;
 
  private:

@@ -1,4 +1,3 @@
-// The system alert on a platform that has no sound for it.
 #include "displays/qt/visible_bell.h"
 
 #include <QColor>

@@ -1,4 +1,3 @@
-// A window on the screen.
 #include "displays/qt/window.h"
 
 #include <QApplication>
@@ -9,10 +8,16 @@
 #include <utility>
 #include <vector>
 
+#include "displays/qt/button.h"
 #include "displays/qt/convert.h"
+#include "displays/qt/label.h"
 #include "displays/qt/menu.h"
 #include "displays/qt/placement.h"
-#include "toolkit/window.h"
+#include "displays/qt/shapes.h"
+#include "displays/qt/slider.h"
+#include "displays/qt/text_area.h"
+#include "displays/qt/text_field.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -20,7 +25,7 @@ namespace {
 Qt::WindowFlags Flags(const Window& window) {
   // A dialog can stay in front of a window, and no desktop tiles it.
   if (window.IsSplash()) return Qt::Dialog | Qt::FramelessWindowHint;
-  const Window::State& state = window.GetState();
+  const Window::State& state = window.InitialState();
   Qt::WindowFlags flags =
       Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
   flags.setFlag(Qt::WindowCloseButtonHint, state.has_close_button);
@@ -63,7 +68,7 @@ void WindowWidget::AddMenuBar() {
 }
 
 QSize WindowWidget::DesignedSize() const {
-  const Window::State& state = window_->GetState();
+  const Window::State& state = window_->InitialState();
   return {Scaled(state.width, Factor()), Scaled(state.height, Factor())};
 }
 
@@ -74,7 +79,7 @@ void WindowWidget::SetSizes(const QSize& content) {
     layout()->activate();
     return;
   }
-  const Window::State& state = window_->GetState();
+  const Window::State& state = window_->InitialState();
   const auto scaled = [this](std::int64_t length) { return Scaled(length, Factor()); };
   const bool bar_above = menu_bar_ != nullptr && !kOneMenuBarOnScreen;
   const int bar = bar_above ? menu_bar_->heightForWidth(content.width()) : 0;
@@ -96,10 +101,9 @@ QSize WindowWidget::SizeAt(double factor) const {
   return (QSizeF(size()) * (factor / Factor())).toSize();
 }
 
-ControlWidget& WindowWidget::AddControl(RectControl& control) {
-  ControlWidget& widget = content_->AddControl(control);
+void WindowWidget::Add(ControlWidget& widget) {
+  content_->Add(widget);
   keys_.Watch(widget.AsWidget());
-  return widget;
 }
 
 void WindowWidget::BringToFront() {
@@ -169,8 +173,40 @@ QtWindowView::~QtWindowView() {
   widget_->deleteLater();
 }
 
-std::unique_ptr<ControlView> QtWindowView::CreateControl(RectControl& control) {
-  return std::make_unique<QtControlView>(widget_->AddControl(control));
+// The window's widget owns that of the control.
+template <class WidgetClass, class ControlClass>
+std::unique_ptr<ControlView> QtWindowView::Create(ControlClass& control) {
+  auto* widget = new WidgetClass(control, widget_->Content());
+  widget_->Add(*widget);
+  return std::make_unique<QtControlView>(*widget);
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(Canvas& canvas) {
+  return Create<CanvasWidget>(canvas);
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(Label& label) {
+  return Create<LabelWidget>(label);
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(PushButton& button) {
+  return Create<ButtonWidget>(button);
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(Rectangle& rectangle) {
+  return Create<RectangleWidget>(rectangle);
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(Slider& slider) {
+  return Create<SliderWidget>(slider);
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(TextArea& area) {
+  return Create<AreaWidget>(area);
+}
+
+std::unique_ptr<ControlView> QtWindowView::CreateControl(TextField& field) {
+  return Create<FieldWidget>(field);
 }
 
 void QtWindowView::Show() {

@@ -1,4 +1,3 @@
-// A window on the screen.
 #ifndef VAMO_DISPLAYS_QT_WINDOW_H_
 #define VAMO_DISPLAYS_QT_WINDOW_H_
 
@@ -11,13 +10,12 @@
 #include "displays/qt/content.h"
 #include "displays/qt/keys.h"
 #include "displays/qt/zoom.h"
-#include "toolkit/display.h"
+#include "toolkit/runtime/display.h"
+#include "toolkit/window/window.h"
 
 class QMenuBar;
 
 namespace vamo {
-
-class Window;
 
 // The window of the desktop that shows a window of the toolkit: menu bar and content. It reports
 // activation and the wish to close, and never closes by itself. It may live a little longer than
@@ -26,8 +24,8 @@ class WindowWidget : public QWidget {
  public:
   WindowWidget(Window& window, Activation& activation, Zoom& zoom);
 
-  // Nil when the window's part on the display has been given up.
-  Window* GetWindow() const { return window_; }
+  // Null when the window's part on the display has been given up.
+  Window* ShownWindow() const { return window_; }
   void Detach() { window_ = nullptr; }
 
   // How many times larger than designed the window is.
@@ -39,7 +37,9 @@ class WindowWidget : public QWidget {
   // The keys that make windows larger and smaller. False: it is another key.
   bool TakeZoomKey(const QKeyEvent& event) { return zoom_.TakeKey(event); }
 
-  ControlWidget& AddControl(RectControl& control);
+  ContentWidget& Content() { return *content_; }
+  // Takes in a new widget of a control, whose parent is the content.
+  void Add(ControlWidget& widget);
   void BringToFront();
   void TakeAway();
   // Sends the keys where the toolkit has its focus.
@@ -61,7 +61,7 @@ class WindowWidget : public QWidget {
   // The factor that the sizes have been set for.
   double factor_;
   ContentWidget* content_;
-  KeyRoad keys_;
+  KeyRouter keys_;
   QMenuBar* menu_bar_ = nullptr;
   bool just_placed_ = false;
 };
@@ -75,12 +75,21 @@ class QtWindowView : public WindowView {
   QtWindowView(Window& window, Activation& activation, Zoom& zoom);
   ~QtWindowView() override;
 
-  std::unique_ptr<ControlView> CreateControl(RectControl& control) override;
+  std::unique_ptr<ControlView> CreateControl(Canvas& canvas) override;
+  std::unique_ptr<ControlView> CreateControl(Label& label) override;
+  std::unique_ptr<ControlView> CreateControl(PushButton& button) override;
+  std::unique_ptr<ControlView> CreateControl(Rectangle& rectangle) override;
+  std::unique_ptr<ControlView> CreateControl(Slider& slider) override;
+  std::unique_ptr<ControlView> CreateControl(TextArea& area) override;
+  std::unique_ptr<ControlView> CreateControl(TextField& field) override;
   void Show() override;
   void Hide() override { widget_->TakeAway(); }
   void UpdateFocus() override { widget_->ShowFocus(); }
 
  private:
+  template <class WidgetClass, class ControlClass>
+  std::unique_ptr<ControlView> Create(ControlClass& control);
+
   Activation& activation_;
   QPointer<WindowWidget> widget_;
 };

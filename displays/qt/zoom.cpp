@@ -1,4 +1,3 @@
-// How large the windows are.
 #include "displays/qt/zoom.h"
 
 #include <QApplication>

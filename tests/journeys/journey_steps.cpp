@@ -1,4 +1,3 @@
-// What the journeys do again and again.
 #include "journeys/journey_steps.h"
 
 #include <gtest/gtest.h>

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "displays/headless/user.h"
+#include "displays/user.h"
 
 namespace vamo {
 

@@ -1,4 +1,3 @@
-// What the tests from outside do again and again, beside the steps of the journeys.
 #include "steps.h"
 
 #include <gtest/gtest.h>

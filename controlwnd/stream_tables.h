@@ -1,0 +1,329 @@
+// Readable rows for the property streams: for each class of object a struct of what differs from
+// object to object, and the stream of such a row.
+#ifndef VAMO_CONTROLWND_STREAM_TABLES_H_
+#define VAMO_CONTROLWND_STREAM_TABLES_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "toolkit/control/properties.h"
+#include "toolkit/object/property_stream.h"
+
+namespace vamo {
+
+inline constexpr Colour kBlack{0, 0, 0};
+inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
+
+// A window. Lengths in logical pixels.
+struct WindowRow {
+  std::int64_t width, height;
+  std::int64_t maximum_width, maximum_height;
+  std::int64_t type;
+  std::string_view title;
+  bool has_maximize_button;
+  bool resizeable;
+  bool composite;
+  bool has_background_colour;
+};
+
+// Which sides keep their distance to the window's.
+inline constexpr Locks kAllLocked{true, true, true, true};
+
+// What every visible control begins with.
+struct PlaceRow {
+  std::string_view name;
+  std::int64_t left, top, width, height;
+  std::int64_t tab_index;
+  // The name of the control that this one lies in; empty for the window itself.
+  std::string_view parent = {};
+  Locks locks = kAllLocked;
+};
+
+struct LabelRow {
+  PlaceRow place;
+  bool tab_stop = false;
+  std::string_view value = {};
+  float font_size = 12;
+  bool bold = false;
+  TextAlignment alignment = TextAlignment::kDefault;
+  Colour colour = {};
+  bool visible = true;
+};
+
+struct TextFieldRow {
+  PlaceRow place;
+  TextAlignment alignment;
+  std::string_view validation_mask;
+  std::int64_t maximum_characters;
+  bool spell_checking;
+  bool enabled;
+  bool read_only;
+};
+
+struct SliderRow {
+  PlaceRow place;
+  std::int64_t value, minimum, maximum;
+};
+
+struct RectangleRow {
+  PlaceRow place;
+  double border_thickness;
+  Colour fill, top_left, bottom_right;
+};
+
+struct CanvasRow {
+  PlaceRow place;
+  bool tab_stop;
+  bool enabled;
+};
+
+struct PushButtonRow {
+  PlaceRow place;
+  std::string_view caption;
+  float font_size;
+  bool bold;
+  bool is_default;
+};
+
+struct TextAreaRow {
+  PlaceRow place;
+  std::string_view value;
+};
+
+struct TimerRow {
+  std::int64_t run_mode;
+  // In milliseconds.
+  std::int64_t period;
+};
+
+// Room for the entries of any object of this program, and of one that shows a text of some length.
+inline constexpr std::size_t kRoom = 640;
+inline constexpr std::size_t kLongRoom = 1592;
+
+namespace internal {
+
+// An index that says: not a member of a control set.
+inline constexpr std::int64_t kNoIndex = INT32_MIN;
+
+template <std::size_t kSize>
+constexpr EncodedStream<kSize> Head(const PlaceRow& row) {
+  return EncodedStream<kSize>()
+      .Set(property::kName, row.name)
+      .Set(property::kIndex, kNoIndex)
+      .Set(property::kLeft, row.left)
+      .Set(property::kTop, row.top)
+      .Set(property::kWidth, row.width)
+      .Set(property::kHeight, row.height)
+      .Set(property::kLockLeft, row.locks.left)
+      .Set(property::kLockTop, row.locks.top)
+      .Set(property::kLockRight, row.locks.right)
+      .Set(property::kLockBottom, row.locks.bottom)
+      .Set(property::kTabIndex, row.tab_index)
+      .Set(property::kTabPanelIndex, 0);
+}
+
+}  // namespace internal
+
+// The stream of a row, in the order of its entries. What stands here as a constant is the same for
+// every object of the class in this program.
+
+constexpr EncodedStream<kRoom> WindowStream(const WindowRow& row) {
+  return EncodedStream<kRoom>()
+      .Set(property::kWidth, row.width)
+      .Set(property::kHeight, row.height)
+      .Set(property::kMinimumWidth, 64)
+      .Set(property::kMinimumHeight, 64)
+      .Set(property::kMaximumWidth, row.maximum_width)
+      .Set(property::kMaximumHeight, row.maximum_height)
+      .Set(property::kType, row.type)
+      .Set(property::kTitle, row.title)
+      .Set(property::kHasCloseButton, true)
+      .Set(property::kHasMaximizeButton, row.has_maximize_button)
+      .Set(property::kHasMinimizeButton, true)
+      .Set(property::kHasFullScreenButton, false)
+      .Set(property::kResizeable, row.resizeable)
+      .Set(property::kComposite, row.composite)
+      .Set(property::kMacProcID, 0)
+      .Set(property::kFullScreen, false)
+      .Set(property::kDefaultLocation, 0)
+      .Set(property::kVisible, true)
+      .Set(property::kHasBackgroundColor, row.has_background_colour)
+      .Set(property::kBackgroundColor, kWhite)
+      .Set(property::kMenuBarVisible, true)
+      .Set(property::kLiveResize, false);
+}
+
+constexpr EncodedStream<kRoom> LabelStream(const LabelRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Set(property::kTabStop, row.tab_stop)
+      .Set(property::kAllowAutoDeactivate, true)
+      .Set(property::kEnabled, true)
+      .Set(property::kTooltip, "")
+      .Set(property::kMultiline, false)
+      .Set(property::kSelectable, false)
+      .Set(property::kTextAlignment, row.alignment)
+      .Set(property::kTextColor, row.colour)
+      .Set(property::kTransparent, true)
+      .Set(property::kValue, row.value)
+      .Set(property::kVisible, row.visible)
+      .Set(property::kBold, row.bold)
+      .Set(property::kItalic, false)
+      .Set(property::kFontName, "System")
+      .Set(property::kUnderline, false)
+      .Set(property::kFontSize, row.font_size)
+      .Set(property::kFontUnit, false)
+      .Set(property::kDataSource, "")
+      .Set(property::kDataField, "")
+      .Set(property::kInitialParent, row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> TextFieldStream(const TextFieldRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Set(property::kTabStop, true)
+      .Set(property::kAllowAutoDeactivate, true)
+      .Set(property::kBackgroundColor, kWhite)
+      .Set(property::kHasBorder, true)
+      .Set(property::kEnabled, row.enabled)
+      .Set(property::kFormat, "")
+      .Set(property::kTooltip, "")
+      .Set(property::kPassword, false)
+      .Set(property::kTextColor, kBlack)
+      .Set(property::kTransparent, true)
+      .Set(property::kAllowFocusRing, true)
+      .Set(property::kVisible, true)
+      .Set(property::kFontName, "System")
+      .Set(property::kFontSize, 12.0F)
+      .Set(property::kFontUnit, false)
+      .Set(property::kBold, false)
+      .Set(property::kItalic, false)
+      .Set(property::kUnderline, false)
+      .Set(property::kHint, "")
+      .Set(property::kValue, "")
+      .Set(property::kAllowTabs, false)
+      .Set(property::kTextAlignment, row.alignment)
+      .Set(property::kAllowSpellChecking, row.spell_checking)
+      .Set(property::kMaximumCharactersAllowed, row.maximum_characters)
+      .Set(property::kValidationMask, row.validation_mask)
+      .Set(property::kReadOnly, row.read_only)
+      .Set(property::kDataSource, "")
+      .Set(property::kDataField, "")
+      .Set(property::kInitialParent, row.place.parent);
+}
+
+constexpr EncodedStream<kLongRoom> TextAreaStream(const TextAreaRow& row) {
+  return internal::Head<kLongRoom>(row.place)
+      .Set(property::kTabStop, false)
+      .Set(property::kAllowAutoDeactivate, true)
+      .Set(property::kBackgroundColor, kWhite)
+      .Set(property::kHasBorder, true)
+      .Set(property::kEnabled, true)
+      .Set(property::kFormat, "")
+      .Set(property::kTooltip, "")
+      .Set(property::kHideSelection, true)
+      .Set(property::kLineHeight, 0.0)
+      .Set(property::kLineSpacing, 1.0)
+      .Set(property::kMultiline, true)
+      .Set(property::kHasHorizontalScrollbar, false)
+      .Set(property::kHasVerticalScrollbar, false)
+      .Set(property::kAllowStyledText, true)
+      .Set(property::kTextColor, kBlack)
+      .Set(property::kTransparent, true)
+      .Set(property::kAllowFocusRing, false)
+      .Set(property::kVisible, true)
+      .Set(property::kBold, false)
+      .Set(property::kItalic, false)
+      .Set(property::kFontName, "System")
+      .Set(property::kFontSize, 12.0F)
+      .Set(property::kFontUnit, false)
+      .Set(property::kUnderline, false)
+      .Set(property::kValue, row.value)
+      .Set(property::kAllowTabs, false)
+      .Set(property::kTextAlignment, TextAlignment::kDefault)
+      .Set(property::kAllowSpellChecking, false)
+      .Set(property::kMaximumCharactersAllowed, 0)
+      .Set(property::kValidationMask, "")
+      .Set(property::kReadOnly, true)
+      .Set(property::kDataSource, "")
+      .Set(property::kDataField, "")
+      .Set(property::kInitialParent, row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> SliderStream(const SliderRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Set(property::kTabStop, true)
+      .Set(property::kAllowAutoDeactivate, true)
+      .Set(property::kEnabled, true)
+      .Set(property::kTooltip, "")
+      .Set(property::kTransparent, true)
+      .Set(property::kVisible, true)
+      .Set(property::kPosition, row.value)
+      .Set(property::kMinimumValue, row.minimum)
+      .Set(property::kMaximumValue, row.maximum)
+      .Set(property::kLineStep, 1)
+      .Set(property::kAllowLiveScrolling, true)
+      .Set(property::kPageStep, 1)
+      .Set(property::kTickMarkStyle, 0)
+      .Set(property::kInitialParent, row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> RectangleStream(const RectangleRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Set(property::kAllowAutoDeactivate, true)
+      .Set(property::kBorderThickness, row.border_thickness)
+      .Set(property::kBottomRightColor, row.bottom_right)
+      .Set(property::kEnabled, true)
+      .Set(property::kFillColor, row.fill)
+      .Set(property::kTooltip, "")
+      .Set(property::kTopLeftColor, row.top_left)
+      .Set(property::kTransparent, true)
+      .Set(property::kVisible, true)
+      .Set(property::kInitialParent, row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> CanvasStream(const CanvasRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Set(property::kTabStop, row.tab_stop)
+      .Set(property::kAllowAutoDeactivate, true)
+      .Set(property::kEnabled, row.enabled)
+      .Set(property::kTooltip, "")
+      .Set(property::kAllowFocusRing, false)
+      .Set(property::kVisible, true)
+      .Set(property::kAllowFocus, false)
+      .Set(property::kAllowTabs, false)
+      .Set(property::kTransparent, true)
+      .Set(property::kDoubleBuffer, false)
+      .Set(property::kTransparent, true)
+      .Set(property::kInitialParent, row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> PushButtonStream(const PushButtonRow& row) {
+  return internal::Head<kRoom>(row.place)
+      .Set(property::kTabStop, false)
+      .Set(property::kAllowAutoDeactivate, true)
+      .Set(property::kMacButtonStyle, 0)
+      .Set(property::kCancel, false)
+      .Set(property::kCaption, row.caption)
+      .Set(property::kDefault, row.is_default)
+      .Set(property::kEnabled, true)
+      .Set(property::kTooltip, "")
+      .Set(property::kTransparent, false)
+      .Set(property::kVisible, true)
+      .Set(property::kFontName, "System")
+      .Set(property::kFontSize, row.font_size)
+      .Set(property::kFontUnit, false)
+      .Set(property::kBold, row.bold)
+      .Set(property::kItalic, false)
+      .Set(property::kUnderline, false)
+      .Set(property::kInitialParent, row.place.parent);
+}
+
+constexpr EncodedStream<kRoom> TimerStream(const TimerRow& row) {
+  return EncodedStream<kRoom>()
+      .Set(property::kRunMode, row.run_mode)
+      .Set(property::kPeriod, row.period);
+}
+
+}  // namespace vamo
+
+#endif  // VAMO_CONTROLWND_STREAM_TABLES_H_

@@ -1,0 +1,40 @@
+#include "toolkit/control/label.h"
+
+#include <array>
+
+#include "toolkit/control/properties.h"
+#include "toolkit/object/ui_trap.h"
+
+namespace vamo {
+
+struct Label::Properties {
+  static constexpr std::array kRows{
+      Skipped(property::kMultiline),
+      Skipped(property::kSelectable),
+      Sets<&Label::alignment_>(property::kTextAlignment),
+      Sets<&Label::text_colour_>(property::kTextColor),
+      Sets<&Label::SetText>(property::kValue),
+      Skipped(property::kDataSource),
+      Skipped(property::kDataField),
+  };
+};
+
+constinit const ClassInfo Label::kClass{"Label", &TextControl::kClass, Properties::kRows};
+
+const std::string& Label::Text() const {
+  _UITrap();
+  return text_;
+}
+
+void Label::SetText(std::string_view text) {
+  _UITrap();
+  if (text_ == text) return;
+  text_ = text;
+  Changed();
+}
+
+std::unique_ptr<ControlView> Label::MakeView(WindowView& window_view) {
+  return window_view.CreateControl(*this);
+}
+
+}  // namespace vamo

@@ -1,0 +1,38 @@
+#ifndef VAMO_TOOLKIT_CONTROL_LABEL_H_
+#define VAMO_TOOLKIT_CONTROL_LABEL_H_
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "toolkit/control/control.h"
+
+namespace vamo {
+
+// A text that the user can read and not change. A text that is wider than the label is the
+// display's matter: it draws it narrower, never cut off.
+class Label : public TextControl {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  const std::string& Text() const;
+  void SetText(std::string_view text);
+
+  Colour TextColour() const { return text_colour_; }
+  TextAlignment Alignment() const { return alignment_; }
+
+ protected:
+  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+
+ private:
+  struct Properties;
+
+  std::string text_;
+  Colour text_colour_;
+  TextAlignment alignment_ = TextAlignment::kDefault;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_CONTROL_LABEL_H_

@@ -1,0 +1,37 @@
+#include "toolkit/control/push_button.h"
+
+#include <array>
+
+#include "toolkit/control/properties.h"
+#include "toolkit/runtime/runtime.h"
+
+namespace vamo {
+
+struct PushButton::Properties {
+  static constexpr std::array kRows{
+      Skipped(property::kMacButtonStyle),
+      Skipped(property::kCancel),
+      Sets<&PushButton::caption_>(property::kCaption),
+      Sets<&PushButton::default_>(property::kDefault),
+  };
+};
+
+constinit const ClassInfo PushButton::kClass{"PushButton", &TextControl::kClass, Properties::kRows};
+
+bool PushButton::UserPressed(std::int64_t x, std::int64_t y) {
+  bool dealt_with = false;
+  Runtime::Current().Dispatch([&, self = Self(this)] {
+    if (Enabled() && MouseDown) dealt_with = MouseDown.Invoke(self, x, y);
+  });
+  return dealt_with;
+}
+
+bool PushButton::UserPressedByAssistiveTechnology() {
+  return UserPressed(Bounds().width / 2, Bounds().height / 2);
+}
+
+std::unique_ptr<ControlView> PushButton::MakeView(WindowView& window_view) {
+  return window_view.CreateControl(*this);
+}
+
+}  // namespace vamo

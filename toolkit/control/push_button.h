@@ -1,0 +1,45 @@
+#ifndef VAMO_TOOLKIT_CONTROL_PUSH_BUTTON_H_
+#define VAMO_TOOLKIT_CONTROL_PUSH_BUTTON_H_
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "toolkit/control/control.h"
+#include "toolkit/object/delegate.h"
+
+namespace vamo {
+
+// A button for the mouse and for assistive technology. It never has the keys: Space and Return do
+// nothing to it.
+class PushButton : public TextControl {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  const std::string& Caption() const { return caption_; }
+  bool Default() const { return default_; }
+
+  // Raised when the mouse goes down on the button, with the place in the button's own coordinates.
+  // True: the handler has dealt with the press. False: the button goes on as buttons do.
+  Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)> MouseDown;
+
+  // The mouse has gone down at that place of the button. Tells what MouseDown said. A disabled
+  // button raises nothing.
+  bool UserPressed(std::int64_t x, std::int64_t y);
+  // Assistive technology has pressed the button: as the mouse at its centre.
+  bool UserPressedByAssistiveTechnology();
+
+ protected:
+  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+
+ private:
+  struct Properties;
+
+  std::string caption_;
+  bool default_ = false;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_CONTROL_PUSH_BUTTON_H_

@@ -1,0 +1,38 @@
+#ifndef VAMO_TOOLKIT_CONTROL_RECTANGLE_H_
+#define VAMO_TOOLKIT_CONTROL_RECTANGLE_H_
+
+#include <memory>
+
+#include "toolkit/control/control.h"
+
+namespace vamo {
+
+// A filled rectangle with a border in two colours, which other controls may lie in. It takes no
+// input.
+class Rectangle : public RectControl {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  // In logical pixels, on each side.
+  double BorderThickness() const { return border_thickness_; }
+  Colour FillColour() const { return fill_colour_; }
+  // The colours of the border at the left and the top, and at the right and the bottom.
+  Colour TopLeftColour() const { return top_left_colour_; }
+  Colour BottomRightColour() const { return bottom_right_colour_; }
+
+ protected:
+  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+
+ private:
+  struct Properties;
+
+  double border_thickness_ = 1;
+  Colour fill_colour_;
+  Colour top_left_colour_;
+  Colour bottom_right_colour_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_CONTROL_RECTANGLE_H_

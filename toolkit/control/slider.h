@@ -1,0 +1,62 @@
+#ifndef VAMO_TOOLKIT_CONTROL_SLIDER_H_
+#define VAMO_TOOLKIT_CONTROL_SLIDER_H_
+
+#include <cstdint>
+#include <memory>
+
+#include "toolkit/control/control.h"
+#include "toolkit/object/delegate.h"
+
+namespace vamo {
+
+// A knob on a horizontal line of whole positions, moved by the user alone. Where on the screen a
+// position lies is the display's matter.
+class Slider : public RectControl {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  // The position, from MinimumValue to MaximumValue.
+  std::int64_t Value() const;
+  std::int64_t MinimumValue() const { return minimum_; }
+  std::int64_t MaximumValue() const { return maximum_; }
+  std::int64_t LineStep() const { return line_step_; }
+  std::int64_t PageStep() const { return page_step_; }
+  // What assistive technology reads a position as: a number of which so many positions make one.
+  void SetPositionsPerUnit(std::int64_t positions) { positions_per_unit_ = positions; }
+  double InUnits(std::int64_t position) const {
+    return static_cast<double>(position) / static_cast<double>(positions_per_unit_);
+  }
+
+  // Raised for each new position that the user has set.
+  Delegate<void(Ref<Slider>)> ValueChanged;
+
+  // The user has moved the knob to a position; one outside of the range is the nearer end.
+  void UserMovedTo(std::int64_t position);
+  // Assistive technology has set a value, in its own unit: the nearest position.
+  void UserSetByAssistiveTechnology(double value);
+  // The user has turned the wheel by so many notches, away from the user counted as positive.
+  void UserTurnedWheel(std::int64_t notches);
+
+  // Arrow keys move by LineStep, Page keys by PageStep, Home and End to the ends.
+  bool TakeKey(const Key& key) override;
+
+ protected:
+  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  bool TakesKeys() const override { return true; }
+
+ private:
+  struct Properties;
+  void MoveBy(std::int64_t times, std::int64_t step);
+
+  std::int64_t value_ = 0;
+  std::int64_t minimum_ = 0;
+  std::int64_t maximum_ = 100;
+  std::int64_t line_step_ = 1;
+  std::int64_t page_step_ = 10;
+  std::int64_t positions_per_unit_ = 1;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_CONTROL_SLIDER_H_

@@ -1,0 +1,110 @@
+// Delegates: a function, with or without a receiver, that is called later; and the events that hold
+// them.
+#ifndef VAMO_TOOLKIT_OBJECT_DELEGATE_H_
+#define VAMO_TOOLKIT_OBJECT_DELEGATE_H_
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+#include "toolkit/object/object.h"
+#include "toolkit/object/ui_trap.h"
+
+namespace vamo {
+
+// The name that a type bears in a delegate's signature: of a reference that of its class.
+template <class T>
+struct TypeText {
+  static std::string_view Get() { return T::Target::kClass.name; }
+};
+template <>
+struct TypeText<bool> {
+  static std::string_view Get() { return "Boolean"; }
+};
+template <>
+struct TypeText<std::int64_t> {
+  static std::string_view Get() { return "Integer"; }
+};
+template <>
+struct TypeText<std::string> {
+  static std::string_view Get() { return "String"; }
+};
+
+// Whether a delegate keeps its receiver alive.
+enum class ReceiverFlag { kStrong = 0, kWeak = 1 };
+
+template <class Signature>
+class Delegate;
+
+// A function that is called later, with its receiver if it has one. It does not say when: an event,
+// a menu or start-up calls it.
+template <class Result, class... Arguments>
+class Delegate<Result(Arguments...)> {
+ public:
+  Delegate() = default;
+
+  // Over a plain function.
+  explicit Delegate(Result (*function)(Arguments...))
+      : function_(std::make_shared<const Function>(function)) {}
+
+  // Over a method of `receiver`, called through its virtual operation. A weakly bound receiver is
+  // not kept alive; a call after it has gone raises NilObjectException.
+  template <class Receiver>
+  Delegate(const Ref<Receiver>& receiver, Result (Receiver::*method)(Arguments...),
+           ReceiverFlag flag) {
+    if (flag == ReceiverFlag::kStrong) {
+      function_ =
+          std::make_shared<const Function>([receiver, method](Arguments... arguments) -> Result {
+            return ((*receiver).*method)(std::move(arguments)...);
+          });
+    } else {
+      std::weak_ptr<Receiver> weak = receiver.Share();
+      function_ =
+          std::make_shared<const Function>([weak, method](Arguments... arguments) -> Result {
+            Ref<Receiver> alive(weak.lock());
+            return ((*alive).*method)(std::move(arguments)...);
+          });
+    }
+  }
+
+  explicit operator bool() const { return function_ != nullptr; }
+
+  // Calls the function, which may give this very delegate another one. Raises NilObjectException
+  // where there is none or its receiver has gone.
+  Result Invoke(Arguments... arguments) const {
+    const std::shared_ptr<const Function> running = function_;
+    if (running == nullptr) throw NilObjectException("A delegate without a function was called.");
+    return (*running)(std::move(arguments)...);
+  }
+
+  // The signature as a text, such as "( TextField, String ) as Boolean"; "(  )" for none of either.
+  static std::string Signature() {
+    std::string text;
+    ((text += (text.empty() ? "" : ", "), text += TypeText<Arguments>::Get()), ...);
+    text = "( " + text + " )";
+    if constexpr (!std::is_void_v<Result>) (text += " as ") += TypeText<Result>::Get();
+    return text;
+  }
+
+ private:
+  using Function = std::function<Result(Arguments...)>;
+
+  std::shared_ptr<const Function> function_;
+};
+
+// Binds a method of a window to one event of one of its controls. The control does not keep the
+// window alive: the window holds the control.
+template <class Receiver, class Result, class... Arguments>
+void AddHandler(Delegate<Result(Arguments...)>& event, Receiver* receiver,
+                Result (Receiver::*method)(Arguments...)) {
+  _UITrap();
+  event = Delegate<Result(Arguments...)>(Self(receiver), method, ReceiverFlag::kWeak);
+}
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_OBJECT_DELEGATE_H_

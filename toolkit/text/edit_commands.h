@@ -1,0 +1,33 @@
+// The Edit commands, as every menu and every key finds them.
+#ifndef VAMO_TOOLKIT_TEXT_EDIT_COMMANDS_H_
+#define VAMO_TOOLKIT_TEXT_EDIT_COMMANDS_H_
+
+#include <array>
+#include <string_view>
+
+#include "toolkit/text/text_edit.h"
+
+namespace vamo {
+
+enum class EditAction { kUndo, kCut, kCopy, kPaste };
+
+struct EditCommand {
+  EditAction action;
+  // The name of the menu item that the toolkit serves for the focused text control.
+  std::string_view item;
+  // What a menu of the display's own calls it.
+  std::string_view title;
+  bool (TextEdit::*can_act)() const;
+  void (TextEdit::*act)();
+};
+
+inline constexpr std::array kEditCommands{
+    EditCommand{EditAction::kUndo, "EditUndo", "Undo", &TextEdit::CanUndo, &TextEdit::Undo},
+    EditCommand{EditAction::kCut, "EditCut", "Cut", &TextEdit::CanCut, &TextEdit::Cut},
+    EditCommand{EditAction::kCopy, "EditCopy", "Copy", &TextEdit::CanCopy, &TextEdit::Copy},
+    EditCommand{EditAction::kPaste, "EditPaste", "Paste", &TextEdit::CanPaste, &TextEdit::Paste},
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_TEXT_EDIT_COMMANDS_H_

@@ -1,0 +1,79 @@
+#include "toolkit/text/text_field.h"
+
+#include <algorithm>
+#include <array>
+
+#include "toolkit/control/properties.h"
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/utf8.h"
+
+namespace vamo {
+
+struct TextField::Properties {
+  static constexpr std::array kRows{
+      Sets<&TextField::password_>(property::kPassword),
+      Sets<&TextField::hint_>(property::kHint),
+      Sets<&TextField::rule_, &TypingRule::maximum_characters>(property::kMaximumCharactersAllowed),
+      Sets<&TextField::rule_, &TypingRule::mask>(property::kValidationMask),
+  };
+};
+
+constinit const ClassInfo TextField::kClass{"TextField", &TextEdit::kClass, Properties::kRows};
+
+namespace {
+
+constexpr char kBlank = ' ';
+
+// Where the word before a place starts; the blanks between are part of it.
+std::size_t WordBefore(std::string_view text, std::size_t at) {
+  const std::string_view before = text.substr(0, at);
+  const std::size_t last = before.find_last_not_of(kBlank);
+  return last == std::string_view::npos ? 0 : before.rfind(kBlank, last) + 1;
+}
+
+// Where the word after a place ends; the blanks between are part of it.
+std::size_t WordAfter(std::string_view text, std::size_t at) {
+  return std::min(text.find(kBlank, text.find_first_not_of(kBlank, at)), text.size());
+}
+
+}  // namespace
+
+bool TextField::TakeKey(const Key& key) {
+  if (key.code != KeyCode::kCharacter || key.text.empty()) return false;
+  if (KeyDown && KeyDown.Invoke(Self(this), key.text)) return true;
+  const auto code = static_cast<unsigned char>(key.text[0]);
+  if (code == kTab) return false;
+  if (ReadOnly()) return true;
+  const std::size_t caret = Selection().caret;
+  if (code == kBackspace) {
+    DeleteTo(key.word ? WordBefore(Text(), caret) : PreviousCharacter(Text(), caret));
+  } else if (code == kForwardDelete) {
+    DeleteTo(key.word ? WordAfter(Text(), caret) : NextCharacter(Text(), caret));
+  } else if (code >= ' ') {
+    Type(key.text);
+  }
+  return true;
+}
+
+void TextField::Type(std::string_view character) {
+  const auto [anchor, caret] = Selection();
+  const std::string_view text = Text();
+  const std::size_t end = std::max(anchor, caret);
+  const auto typed =
+      Typed(text.substr(0, std::min(anchor, caret)), text.substr(end), character, rule_);
+  if (typed.has_value()) {
+    Replace(0, end, *typed);
+  } else {
+    Beep();
+  }
+}
+
+void TextField::RaiseTextChange() {
+  if (TextChange) TextChange.Invoke(Self(this));
+}
+
+std::unique_ptr<ControlView> TextField::MakeView(WindowView& window_view) {
+  return window_view.CreateControl(*this);
+}
+
+}  // namespace vamo

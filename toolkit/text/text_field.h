@@ -1,0 +1,49 @@
+#ifndef VAMO_TOOLKIT_TEXT_TEXT_FIELD_H_
+#define VAMO_TOOLKIT_TEXT_TEXT_FIELD_H_
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "toolkit/object/delegate.h"
+#include "toolkit/text/text_edit.h"
+#include "toolkit/text/typing_rule.h"
+
+namespace vamo {
+
+// A field of one line that the user types into, within the limits of its typing rule.
+class TextField : public TextEdit {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  // Raised when the text has changed, by the user or by a write.
+  Delegate<void(Ref<TextField>)> TextChange;
+  // Raised for each key that carries a character, before it acts. True: the key is swallowed.
+  Delegate<bool(Ref<TextField>, std::string)> KeyDown;
+
+  const TypingRule& Rule() const { return rule_; }
+  // A text shown while the field is empty.
+  const std::string& Hint() const { return hint_; }
+  bool Password() const { return password_; }
+
+  bool TakeKey(const Key& key) override;
+  void EnteredByTab() override { UserSelected(0, Text().size()); }
+
+ protected:
+  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  bool TakesKeys() const override { return true; }
+  void RaiseTextChange() override;
+
+ private:
+  struct Properties;
+  void Type(std::string_view character);
+
+  TypingRule rule_;
+  std::string hint_;
+  bool password_ = false;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_TEXT_TEXT_FIELD_H_

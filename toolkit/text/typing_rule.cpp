@@ -1,0 +1,83 @@
+#include "toolkit/text/typing_rule.h"
+
+#include <cstddef>
+
+#include "toolkit/utf8.h"
+
+namespace vamo {
+namespace {
+
+constexpr std::string_view kDigitPlace = "#";
+
+bool IsDigit(std::string_view character) {
+  return character.size() == 1 && character[0] >= '0' && character[0] <= '9';
+}
+
+// Takes the first character off a text.
+std::string_view TakeCharacter(std::string_view& text) {
+  const std::size_t end = NextCharacter(text, 0);
+  const std::string_view character = text.substr(0, end);
+  text.remove_prefix(end);
+  return character;
+}
+
+bool Fits(std::string_view text, std::string_view mask) {
+  while (!text.empty()) {
+    if (mask.empty()) return false;
+    const std::string_view wanted = TakeCharacter(mask);
+    const std::string_view character = TakeCharacter(text);
+    if (wanted == kDigitPlace ? !IsDigit(character) : character != wanted) return false;
+  }
+  return true;
+}
+
+// The mask's literals between the end of `before` and the place where `digit` can stand.
+std::string Literals(std::string_view before, std::string_view digit, std::string_view mask) {
+  for (std::size_t i = CharacterCount(before); i > 0 && !mask.empty(); --i) TakeCharacter(mask);
+  std::string literals;
+  while (!mask.empty()) {
+    const std::string_view wanted = TakeCharacter(mask);
+    if (wanted == kDigitPlace || wanted == digit) break;
+    literals += wanted;
+  }
+  return literals;
+}
+
+// Whether the user has begun with zeros where the mask wants its `literals` first, which came in by
+// themselves, and now types the literal that he has had in mind all along.
+bool TakesPlaceOfZeros(std::string_view before, std::string_view character,
+                       std::string_view literals) {
+  return !literals.empty() && !IsDigit(character) && literals.ends_with(character) &&
+         before.starts_with(literals) && before.size() > literals.size() &&
+         before.find_first_not_of('0', literals.size()) == std::string_view::npos;
+}
+
+}  // namespace
+
+std::optional<std::string> Typed(std::string_view before, std::string_view after,
+                                 std::string_view character, const TypingRule& rule) {
+  std::string typed(before);
+  const std::string_view literals =
+      std::string_view(rule.mask).substr(0, rule.mask.find(kDigitPlace));
+  if (TakesPlaceOfZeros(before, character, literals)) {
+    typed = literals;
+  } else {
+    if (IsDigit(character)) typed += Literals(before, character, rule.mask);
+    typed += character;
+  }
+  const std::string whole = typed + std::string(after);
+  if (!rule.mask.empty() && !Fits(whole, rule.mask)) return std::nullopt;
+  const auto maximum = static_cast<std::size_t>(rule.maximum_characters);
+  if (rule.maximum_characters > 0 && CharacterCount(whole) > maximum) return std::nullopt;
+  return typed;
+}
+
+KeyboardKind KeyboardFor(const TypingRule& rule) {
+  constexpr std::string_view kNumberPlaces = "#.-";
+  if (rule.mask.empty()) return KeyboardKind::kAll;
+  if (rule.mask.find_first_not_of(kDigitPlace) == std::string::npos) return KeyboardKind::kDigits;
+  const bool number = rule.mask.find_first_not_of(kNumberPlaces) == std::string::npos;
+  return number ? KeyboardKind::kNumber : KeyboardKind::kAll;
+}
+
+}  // namespace vamo

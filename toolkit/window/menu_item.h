@@ -1,0 +1,77 @@
+// The tree of menus and their items.
+#ifndef VAMO_TOOLKIT_WINDOW_MENU_ITEM_H_
+#define VAMO_TOOLKIT_WINDOW_MENU_ITEM_H_
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/object/class_info.h"
+#include "toolkit/object/object.h"
+
+namespace vamo {
+
+// A menu or a menu entry. It holds its state and its children; menu_service.h says when it is
+// enabled and what happens when it is chosen.
+class MenuItem : public Object {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
+  const std::string& Name() const { return name_; }
+  void SetName(std::string_view name);
+  const std::string& Value() const { return value_; }
+  void SetValue(std::string_view value);
+  // The key equivalent, such as "Cmd+Q"; empty for none.
+  const std::string& Shortcut() const { return shortcut_; }
+  void SetShortcut(std::string_view shortcut);
+  bool AutoEnabled() const { return auto_enabled_; }
+  void SetAutoEnabled(bool auto_enabled);
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  bool Visible() const { return visible_; }
+  void SetVisible(bool visible);
+
+  // Appends a child. Raises MenuHasParentException where `item` is already in a menu.
+  void AddMenu(const Ref<MenuItem>& item);
+  const std::vector<Ref<MenuItem>>& Children() const { return children_; }
+  // The direct child of that name, or nil.
+  Ref<MenuItem> Child(std::string_view name) const;
+  // The item of that name anywhere below this one, or nil.
+  Ref<MenuItem> _Lookup(std::string_view name) const;
+
+ private:
+  std::string name_;
+  std::string value_;
+  std::string shortcut_;
+  bool auto_enabled_ = true;
+  bool enabled_ = true;
+  bool visible_ = true;
+  bool has_parent_ = false;
+  std::vector<Ref<MenuItem>> children_;
+};
+
+// The root of a menu tree. It is no entry itself.
+class MenuBar : public MenuItem {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+};
+
+// An entry that goes to the application menu, where a platform has one, and else to the help menu.
+class AppleMenuItem : public MenuItem {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+};
+
+// The quit entry. Chosen, it ends the program with exit code 0.
+class QuitMenuItem : public MenuItem {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_WINDOW_MENU_ITEM_H_

@@ -1,0 +1,119 @@
+#include "toolkit/window/menu_service.h"
+
+#include <string>
+
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/text/edit_commands.h"
+#include "toolkit/window/window.h"
+
+namespace vamo {
+namespace {
+
+constexpr std::string_view kCommandPrefix = "Cmd+";
+
+TextEdit* FocusedTextControl() {
+  const Ref<Window>& window = Runtime::Current().ActiveWindow();
+  if (!window || !window->Focus()) return nullptr;
+  return dynamic_cast<TextEdit*>(&*window->Focus());
+}
+
+void EnableBelow(const MenuItem& menu) {
+  for (const Ref<MenuItem>& item : menu.Children()) {
+    item->SetEnabled(item->AutoEnabled());
+    EnableBelow(*item);
+  }
+}
+
+bool CallHandler(const MenuHandlers& handlers, const std::string& name) {
+  const auto found = handlers.find(name);
+  return found != handlers.end() && found->second.Invoke();
+}
+
+void Choose(const Ref<MenuItem>& item) {
+  if (!item->Enabled()) return;
+  const Ref<Window> window = Runtime::Current().ActiveWindow();
+  if (window && CallHandler(window->MenuHandlers(), item->Name())) return;
+  const Ref<Application> app = Runtime::Current().App();
+  if (app && CallHandler(app->MenuHandlers(), item->Name())) return;
+  if (dynamic_cast<QuitMenuItem*>(&*item) != nullptr) Quit(0);
+  for (const EditCommand& command : kEditCommands) {
+    TextEdit* text = command.item == item->Name() ? FocusedTextControl() : nullptr;
+    if (text != nullptr) (text->*command.act)();
+  }
+}
+
+Ref<MenuItem> FindByShortcut(const MenuItem& menu, std::string_view shortcut) {
+  for (const Ref<MenuItem>& item : menu.Children()) {
+    if (item->Shortcut() == shortcut) return item;
+    if (Ref<MenuItem> found = FindByShortcut(*item, shortcut)) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Ref<MenuBar> ActiveMenuBar() {
+  const Runtime& runtime = Runtime::Current();
+  if (runtime.ActiveWindow() && runtime.ActiveWindow()->MenuBar()) {
+    return runtime.ActiveWindow()->MenuBar();
+  }
+  return runtime.App() ? runtime.App()->MenuBar() : nullptr;
+}
+
+bool IsSeparator(const MenuItem& item) { return item.Value() == "-"; }
+
+std::vector<DrawnMenu> DrawnMenus(const MenuBar& bar) {
+  const auto is_drawn = [](const MenuItem& item) {
+    return item.Visible() && !item.Value().empty();
+  };
+  std::vector<DrawnMenu> menus;
+  DrawnMenu help{"Help", {}};
+  for (const Ref<MenuItem>& menu : bar.Children()) {
+    if (!is_drawn(*menu)) continue;
+    menus.push_back({menu->Value(), {}});
+    for (const Ref<MenuItem>& item : menu->Children()) {
+      const bool is_apple = dynamic_cast<AppleMenuItem*>(&*item) != nullptr;
+      if (is_drawn(*item)) (is_apple ? help : menus.back()).items.push_back(item);
+    }
+  }
+  if (!help.items.empty()) menus.push_back(std::move(help));
+  return menus;
+}
+
+void EnableMenuItems() {
+  const Ref<MenuBar> bar = ActiveMenuBar();
+  if (!bar) return;
+  for (const Ref<MenuItem>& menu : bar->Children()) EnableBelow(*menu);
+  const Ref<Application> app = Runtime::Current().App();
+  if (app) app->Event_EnableMenuItems();
+  const Ref<Window> window = Runtime::Current().ActiveWindow();
+  if (window) window->Event_EnableMenuItems();
+  const TextEdit* text = FocusedTextControl();
+  for (const EditCommand& command : kEditCommands) {
+    const Ref<MenuItem> item = bar->_Lookup(command.item);
+    if (item && text != nullptr && (text->*command.can_act)()) item->SetEnabled(true);
+  }
+}
+
+void UserOpensMenu() { Runtime::Current().Dispatch(EnableMenuItems); }
+
+void UserChose(const Ref<MenuItem>& item) {
+  Runtime::Current().Dispatch([&] { Choose(item); });
+}
+
+bool ChooseByShortcut(const Key& key) {
+  const Ref<MenuBar> bar = ActiveMenuBar();
+  if (!bar || key.shift || key.text.size() != 1) return false;
+  const char letter = key.text[0];
+  std::string shortcut(kCommandPrefix);
+  // A shortcut is written with a capital. The C library's would depend on the locale.
+  shortcut += letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+  const Ref<MenuItem> item = FindByShortcut(*bar, shortcut);
+  if (!item) return false;
+  EnableMenuItems();
+  if (!item->Enabled()) return false;
+  Choose(item);
+  return true;
+}
+
+}  // namespace vamo

@@ -1,0 +1,227 @@
+#ifndef VAMO_TOOLKIT_WINDOW_WINDOW_H_
+#define VAMO_TOOLKIT_WINDOW_WINDOW_H_
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include "toolkit/control/control.h"
+#include "toolkit/object/class_info.h"
+#include "toolkit/object/object.h"
+#include "toolkit/object/ui_trap.h"
+#include "toolkit/runtime/application.h"
+#include "toolkit/runtime/display.h"
+#include "toolkit/runtime/key.h"
+#include "toolkit/window/announcer.h"
+
+namespace vamo {
+
+class MenuBar;
+
+// What one control is to those who do not see it or hold no mouse, beside its text. Empty: nothing
+// of the kind.
+struct AccessibleText {
+  std::string_view control;
+  std::string_view name = {};
+  std::string_view description = {};
+  // The label that is the control's caption.
+  std::string_view labelled_by = {};
+  // Of a label.
+  Announced announced = Announced::kNot;
+  // Of a slider.
+  std::int64_t positions_per_unit = 1;
+  // The key that presses a button, from anywhere in the window.
+  std::optional<KeyCode> pressed_by = std::nullopt;
+};
+
+// A window: its state, its children, its focus, and what becomes of the user's keys and presses. It
+// shows nothing by itself, and it knows nothing of what its subclasses are for.
+class Window : public Object {
+ public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+  ~Window() override { TakeOffDisplay(); }
+
+  // Builds the window: its own state, its controls, its part on the display, its menu handlers;
+  // then it is live, and comes on the screen where its state says Visible.
+  void Constructor();
+
+  // Makes the window visible, brings it to the front and gives it the focus. A window that is
+  // visible already stays where it is, minimised perhaps, when a timer shows it: only the user may
+  // be taken away from what he is typing into.
+  void Show();
+  // Makes the window invisible. It stays live, with its state.
+  void Hide();
+  // Raises Close and ends the window: it is live no longer, and none of its timers fires.
+  void Close();
+  bool IsLive() const { return view_ != nullptr; }
+  // Gives up the window's part on the display, without an event, and stops its timers. The run time
+  // does so at the program's end.
+  void TakeOffDisplay();
+
+  // Makes a control of a class for this window. Its properties and its name come later.
+  template <class ControlClass>
+  Ref<ControlClass> __New() {
+    _UITrap();
+    Ref<ControlClass> control = New<ControlClass>();
+    control->_SetWindow(Self(this));
+    return control;
+  }
+  // Enters a control, or another child, in the window under its name.
+  template <class Child>
+  void _AddControl(std::string_view name, const Ref<Child>& child) {
+    AddChild(name, child, &*child);
+  }
+  // The child of that name, or nil.
+  Ref<Object> _ControlByName(std::string_view name) const;
+  // The same, checked to be of a class.
+  template <class ControlClass>
+  Ref<ControlClass> ControlNamed(std::string_view name) const {
+    return Cast<ControlClass>(_ControlByName(name));
+  }
+
+  // Enters the function for the menu item of that name. The first one entered for a name stands.
+  void _AddMenuHandler(std::string_view name, MenuHandler handler);
+  const vamo::MenuHandlers& MenuHandlers() const { return menu_handlers_; }
+
+  const Ref<class MenuBar>& MenuBar() const;
+  void SetMenuBar(Ref<class MenuBar> menu_bar);
+
+  // The initial state, as the window's stream gives it. Lengths in logical pixels.
+  struct State {
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    std::int64_t minimum_width = 0;
+    std::int64_t minimum_height = 0;
+    std::int64_t maximum_width = 0;
+    std::int64_t maximum_height = 0;
+    std::int64_t type = 0;
+    std::string title;
+    bool has_close_button = true;
+    bool has_maximize_button = false;
+    bool has_minimize_button = true;
+    bool resizeable = false;
+    bool visible = true;
+    bool has_background_colour = false;
+    Colour background_colour;
+  };
+  const State& InitialState() const { return state_; }
+  // What a list of windows shows: the title, or else the program's name.
+  std::string ListedTitle() const;
+  // Type 2: a splash without a frame, in the middle of the screen.
+  bool IsSplash() const { return state_.type == 2; }
+  // Type 7: a window to be read beside the working window; Escape and the command key with W close
+  // it.
+  bool IsReading() const { return state_.type == 7; }
+  // A splash has one size, whatever its state says: a desktop that tiles its windows would make a
+  // poster of it.
+  bool CanBeResized() const { return state_.resizeable && !IsSplash(); }
+  bool Visible() const { return visible_; }
+
+  // Where a display is to put the window that it brings on the screen, as far as it can.
+  struct Placement {
+    enum class Rule {
+      // Where it was, or else where the platform puts a new window.
+      kAnywhere,
+      kMiddleOfScreen,
+      // Its middle where the other window has or, if that is hidden by now, had its own.
+      kOver,
+      // Right of the other window, else left of it, where the screen has the room.
+      kBeside
+    };
+    Rule rule = Rule::kAnywhere;
+    Ref<Window> other = nullptr;
+    // Whether it stays in front of the other one, and goes where that one goes.
+    bool stays_with_other = false;
+  };
+  Placement WhereToShow() const;
+
+  // The controls in the order of their creation; other children are not among them.
+  std::vector<Ref<RectControl>> Controls() const;
+  // The control in which another one lies, or nil where that lies on the window itself.
+  Ref<RectControl> ParentOf(const RectControl& control) const {
+    return ControlNamed<RectControl>(control.InitialParent());
+  }
+  // The control that has the keys while the window is active, or nil.
+  const Ref<RectControl>& Focus() const { return focus_; }
+  void SetFocus(const Ref<RectControl>& control);
+
+  // What a display reports.
+  //
+  // The window has become the one that the user's keys go to, or has ceased to be.
+  void UserActivated();
+  void UserDeactivated();
+  // The close button, or what stands for it.
+  void UserAskedToClose();
+  // A key. True: it has been dealt with. False: the display may do what its platform does with it.
+  bool UserPressedKey(const Key& key);
+  // Text that came as a whole, from an input method say: taken as keys, one by one.
+  void UserTyped(std::string_view text);
+  // The mouse has gone down, on no enabled control that takes it. Window coordinates.
+  void UserPressedMouse(std::int64_t x, std::int64_t y);
+  // The user has brought the focus to a control with the mouse, say.
+  void UserFocused(const Ref<RectControl>& control);
+
+  // The events. A class implements one by overriding it; else the toolkit's default stands, which
+  // is to do nothing. `Layout` and `CreateControls` come while the window is constructed; `KeyDown`
+  // for every key but a bare modifier and an enabled item's shortcut, with the empty text for one
+  // that carries no character; True of `KeyDown` and `MouseDown` ends the event.
+  virtual void Layout() {}
+  virtual void CreateControls() {}
+  // The table that is applied once the controls are there.
+  virtual std::span<const AccessibleText> AccessibleTexts() const { return {}; }
+  virtual void AddMenuHandlers(const Ref<Window>& /*window*/) {}
+  virtual void Event_Activate() {}
+  virtual void Event_Close() {}
+  virtual void Event_EnableMenuItems() {}
+  virtual bool Event_KeyDown(std::string /*key*/) { return false; }
+  virtual bool Event_MouseDown(std::int64_t /*x*/, std::int64_t /*y*/) { return false; }
+
+ private:
+  struct Child {
+    std::string name;
+    Ref<Object> object;
+  };
+
+  struct Properties;
+  void AddChild(std::string_view name, Ref<Object> object, _PaneChild* child);
+  void ApplyAccessibleTexts();
+  void MakeView();
+  bool TakeKey(const Key& key);
+  // Presses the button that the key is for. Whether there is one.
+  bool PressButton(const Key& key);
+  void MoveFocus(bool backwards);
+
+  State state_;
+  bool visible_ = false;
+  bool has_been_shown_ = false;
+  std::vector<Child> children_;
+  Ref<RectControl> focus_;
+  Ref<class MenuBar> menu_bar_;
+  vamo::MenuHandlers menu_handlers_;
+  Announcer announcer_{*this};
+  std::unique_ptr<WindowView> view_;
+};
+
+// The live window whose class bears that name, hidden or not; nil where there is none.
+Ref<Window> _GetImplicitWindow(std::string_view class_name);
+
+// The one live window of a class, which is made when there is none.
+template <class WindowClass>
+Ref<WindowClass> ImplicitInstance() {
+  Ref<Window> window = _GetImplicitWindow(WindowClass::kClass.name);
+  if (!window) {
+    window = New<WindowClass>();
+    window->Constructor();
+  }
+  return Cast<WindowClass>(window);
+}
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLKIT_WINDOW_WINDOW_H_

@@ -1,0 +1,113 @@
+// What a window does with what the user does: activation, keys, presses, focus.
+#include <algorithm>
+
+#include "toolkit/control/push_button.h"
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/utf8.h"
+#include "toolkit/window/menu_service.h"
+#include "toolkit/window/window.h"
+
+namespace vamo {
+namespace {
+
+bool ClosesWindow(const Key& key) {
+  return key.command ? key.text == "w" : key.text == std::string_view(&kEscape, 1);
+}
+
+}  // namespace
+
+void Window::UserActivated() {
+  Runtime& runtime = Runtime::Current();
+  runtime.Dispatch([this, &runtime, self = Self(this)] {
+    if (!visible_ || runtime.ActiveWindow() == self) return;
+    runtime.SetActiveWindow(self);
+    Event_Activate();
+    EnableMenuItems();
+  });
+}
+
+void Window::UserDeactivated() {
+  Runtime& runtime = Runtime::Current();
+  if (runtime.ActiveWindow() == Self(this)) runtime.SetActiveWindow(nullptr);
+}
+
+void Window::UserAskedToClose() {
+  Runtime::Current().Dispatch([this, self = Self(this)] { Close(); });
+}
+
+bool Window::UserPressedKey(const Key& key) {
+  bool dealt_with = false;
+  Runtime::Current().Dispatch([&, self = Self(this)] { dealt_with = TakeKey(key); });
+  return dealt_with;
+}
+
+void Window::UserTyped(std::string_view text) {
+  // A key may close the window; then the rest of the text has nowhere to go.
+  const Ref<Window> self = Self(this);
+  const std::string valid = ValidUtf8(text);
+  for (std::size_t at = 0; at < valid.size() && IsLive();) {
+    const std::size_t next = NextCharacter(valid, at);
+    UserPressedKey(Key::Character(valid.substr(at, next - at)));
+    at = next;
+  }
+}
+
+bool Window::TakeKey(const Key& key) {
+  if (key.command && ChooseByShortcut(key)) return true;
+  // With the command key held, a letter is no character.
+  const bool carries_character = key.code == KeyCode::kCharacter && !key.command;
+  if (Event_KeyDown(carries_character ? key.text : "")) return true;
+  if (PressButton(key)) return true;
+  if (IsReading() && ClosesWindow(key)) {
+    Close();
+    return true;
+  }
+  if (key.command && key.code == KeyCode::kCharacter) return false;
+  if (focus_ && focus_->CanTakeFocus() && focus_->TakeKey(key)) return true;
+  if (key.text != std::string_view(&kTab, 1)) return false;
+  MoveFocus(key.shift);
+  return true;
+}
+
+bool Window::PressButton(const Key& key) {
+  for (const AccessibleText& text : AccessibleTexts()) {
+    if (text.pressed_by != key.code || key.shift || key.command) continue;
+    ControlNamed<PushButton>(text.control)->UserPressedByAssistiveTechnology();
+    return true;
+  }
+  return false;
+}
+
+void Window::MoveFocus(bool backwards) {
+  std::vector<Ref<RectControl>> stops = Controls();
+  std::erase_if(stops, [](const Ref<RectControl>& control) { return !control->CanTakeFocus(); });
+  if (stops.empty()) return;
+  // Without a stop for Tab the keys go to the first control that can have them, and stay there.
+  const Ref<RectControl> first = stops.front();
+  std::erase_if(stops, [](const Ref<RectControl>& control) { return !control->TabStop(); });
+  if (stops.empty()) return SetFocus(focus_ ? focus_ : first);
+  std::stable_sort(stops.begin(), stops.end(), [](const auto& left, const auto& right) {
+    return left->TabIndex() < right->TabIndex();
+  });
+  if (backwards) std::reverse(stops.begin(), stops.end());
+  const auto present = std::find(stops.begin(), stops.end(), focus_);
+  const auto next = present == stops.end() ? present : present + 1;
+  SetFocus(next == stops.end() ? stops.front() : *next);
+  focus_->EnteredByTab();
+}
+
+void Window::SetFocus(const Ref<RectControl>& control) {
+  if (focus_ == control) return;
+  focus_ = control;
+  if (view_ != nullptr) view_->UpdateFocus();
+}
+
+void Window::UserPressedMouse(std::int64_t x, std::int64_t y) {
+  Runtime::Current().Dispatch([&, self = Self(this)] { Event_MouseDown(x, y); });
+}
+
+void Window::UserFocused(const Ref<RectControl>& control) {
+  if (control->CanTakeFocus()) SetFocus(control);
+}
+
+}  // namespace vamo

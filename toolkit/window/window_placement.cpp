@@ -1,0 +1,46 @@
+#include <algorithm>
+
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/window/window.h"
+
+namespace vamo {
+namespace {
+
+// The type of a window that is neither a splash nor to be read.
+constexpr std::int64_t kWorkingWindow = 0;
+
+// The first live window of which that is true, or nil.
+template <class Predicate>
+Ref<Window> FirstLive(Predicate matches) {
+  const std::vector<Ref<Window>>& windows = Runtime::Current().LiveWindows();
+  const auto found = std::find_if(windows.begin(), windows.end(), matches);
+  return found == windows.end() ? nullptr : *found;
+}
+
+Ref<Window> WorkingWindowOnScreen() {
+  return FirstLive([](const Ref<Window>& window) {
+    return window->Visible() && window->InitialState().type == kWorkingWindow;
+  });
+}
+
+}  // namespace
+
+Window::Placement Window::WhereToShow() const {
+  using Rule = Placement::Rule;
+  if (IsSplash()) {
+    const Ref<Window> working = WorkingWindowOnScreen();
+    if (working) return {Rule::kOver, working, /*stays_with_other=*/true};
+    return {Rule::kMiddleOfScreen};
+  }
+  if (has_been_shown_) return {};
+  if (IsReading()) {
+    const Ref<Window> working = WorkingWindowOnScreen();
+    return working ? Placement{Rule::kBeside, working} : Placement{};
+  }
+  // It takes the place of the splash, which is where the user looks.
+  const Ref<Window> splash = FirstLive(
+      [](const Ref<Window>& window) { return window->IsSplash() && window->has_been_shown_; });
+  return splash ? Placement{Rule::kOver, splash} : Placement{};
+}
+
+}  // namespace vamo
