@@ -5,6 +5,7 @@
 #include "stats/interval.h"
 #include "stats/significance.h"
 #include "toolkit/conversions.h"
+#include "toolkit/runtime/key.h"
 #include "toolkit/runtime/runtime.h"
 
 namespace vamo {
@@ -15,12 +16,15 @@ constexpr double kHighestR = 0.99999;
 constexpr std::int64_t kLowestN = 4;
 constexpr std::int64_t kHighestN = 1000;
 
-bool IsDigit(std::int64_t code) { return code > 47 && code < 58; }
+bool IsDigit(std::int64_t code) { return code >= '0' && code <= '9'; }
 
-// Backspace, tab and the control code 16 pass every filter.
-bool IsPassingControlCode(std::int64_t code) { return code == 8 || code == 9 || code == 16; }
+// What passes every filter.
+bool IsControlCode(std::int64_t code) {
+  constexpr std::int64_t kDataLinkEscape = 16;
+  return code == kBackspace || code == kTab || code == kDataLinkEscape;
+}
 
-// What a key filter answers: False lets the key through, True swallows it, with a beep.
+// A key filter's answer: False lets the key through, True swallows it, with a beep.
 bool Refuse(bool passes) {
   if (passes) return false;
   Beep();
@@ -49,8 +53,7 @@ void ControlWnd::DoIt(double rArg, std::int64_t /*nArg*/) {
 
 bool ControlWnd::rEdit_KeyDown(Ref<TextField> /*sender*/, std::string key) {
   const std::int64_t code = Asc(key);
-  constexpr std::int64_t kPoint = 46;
-  return Refuse(IsDigit(code) || code == kPoint || IsPassingControlCode(code));
+  return Refuse(IsDigit(code) || code == '.' || IsControlCode(code));
 }
 
 // A write to rEdit runs this handler again inside the write, so r is read from the property after
@@ -78,7 +81,7 @@ void ControlWnd::rSlider_ValueChanged(Ref<Slider> /*sender*/) {
 
 bool ControlWnd::nEdit_KeyDown(Ref<TextField> /*sender*/, std::string key) {
   const std::int64_t code = Asc(key);
-  return Refuse(IsDigit(code) || IsPassingControlCode(code));
+  return Refuse(IsDigit(code) || IsControlCode(code));
 }
 
 // Above the highest N the warning is hidden here and shown again by DoIt.

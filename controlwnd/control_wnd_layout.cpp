@@ -16,38 +16,22 @@ constexpr Colour kDarkGrey{0x66, 0x66, 0x66};
 constexpr Colour kGrey{0x80, 0x80, 0x80};
 constexpr Colour kLightGrey{0xE6, 0xE6, 0xE6};
 
-constexpr auto kWindow = WindowStream({.width = 500,
-                                       .height = 425,
-                                       .maximum_width = 500,
-                                       .maximum_height = 500,
-                                       .type = 0,
-                                       .title = "Vamo",
-                                       .has_maximize_button = false,
-                                       .resizeable = false,
-                                       .composite = false,
-                                       .has_background_colour = true});
+constexpr auto kWindow = WindowStream(
+    {.width = 500, .height = 425, .maximum_width = 500, .maximum_height = 500, .title = "Vamo"});
 
 constexpr auto kREdit = TextFieldStream({.place = {"rEdit", 55, 192, 60, 20, 0},
                                          .alignment = TextAlignment::kCentre,
                                          .validation_mask = ".###",
-                                         .maximum_characters = 4,
-                                         .spell_checking = false,
-                                         .enabled = true,
-                                         .read_only = false});
+                                         .maximum_characters = 4});
 constexpr auto kNEdit = TextFieldStream({.place = {"nEdit", 55, 257, 60, 20, 1},
-                                         .alignment = TextAlignment::kDefault,
                                          .validation_mask = "####",
                                          .maximum_characters = 4,
-                                         .spell_checking = true,
-                                         .enabled = true,
-                                         .read_only = false});
+                                         .spell_checking = true});
 constexpr auto kRectangle2 = RectangleStream({.place = {"Rectangle2", 5, 5, 100, 80, 3},
-                                              .border_thickness = 1,
                                               .fill = kDarkRed,
                                               .top_left = kWhite,
                                               .bottom_right = kWhite});
-constexpr auto kCanvas3 = CanvasStream(
-    {.place = {"Canvas3", 9, 9, 92, 72, 0, "Rectangle2"}, .tab_stop = true, .enabled = true});
+constexpr auto kCanvas3 = CanvasStream({.place = {"Canvas3", 9, 9, 92, 72, 0, "Rectangle2"}});
 constexpr auto kStaticText4 = LabelStream({.place = {"StaticText4", 115, -5, 371, 73, 4},
                                            .value = "Vamo",
                                            .font_size = 48,
@@ -60,7 +44,6 @@ constexpr auto kStaticText9 = LabelStream({.place = {"StaticText9", 115, 66, 371
                                            .alignment = TextAlignment::kCentre,
                                            .colour = kDarkRed});
 constexpr auto kRectangle1 = RectangleStream({.place = {"Rectangle1", 113, 82, 371, 2, 6},
-                                              .border_thickness = 1,
                                               .fill = kDarkRed,
                                               .top_left = kLightRed,
                                               .bottom_right = kDarkRed});
@@ -68,12 +51,10 @@ constexpr auto kRSlider = SliderStream(
     {.place = {"rSlider", 25, 220, 450, 15, 7}, .value = 0, .minimum = 0, .maximum = 99});
 constexpr auto kNSlider = SliderStream(
     {.place = {"nSlider", 25, 285, 450, 15, 8}, .value = 4, .minimum = 4, .maximum = 1000});
-constexpr auto kStaticText2 = LabelStream(
-    {.place = {"StaticText2", 25, 192, 20, 20, 9}, .value = "r =", .bold = true, .colour = kBlack});
-constexpr auto kStaticText3 = LabelStream({.place = {"StaticText3", 25, 257, 20, 20, 10},
-                                           .value = "N =",
-                                           .bold = true,
-                                           .colour = kBlack});
+constexpr auto kStaticText2 =
+    LabelStream({.place = {"StaticText2", 25, 192, 20, 20, 9}, .value = "r =", .bold = true});
+constexpr auto kStaticText3 =
+    LabelStream({.place = {"StaticText3", 25, 257, 20, 20, 10}, .value = "N =", .bold = true});
 constexpr auto kNText = LabelStream({.place = {"nText", 127, 257, 129, 20, 12},
                                      .value = "(4 - 1,1000)",
                                      .font_size = 11,
@@ -85,33 +66,20 @@ constexpr auto kStaticText8 = LabelStream({.place = {"StaticText8", 325, 192, 70
                                            .colour = kDarkGrey});
 constexpr auto kZFld = TextFieldStream({.place = {"zFld", 400, 192, 70, 20, 14},
                                         .alignment = TextAlignment::kLeft,
-                                        .validation_mask = "",
-                                        .maximum_characters = 0,
-                                        .spell_checking = false,
                                         .enabled = false,
                                         .read_only = true});
-constexpr auto kQbtn = PushButtonStream({.place = {.name = "Qbtn",
-                                                   .left = 439,
-                                                   .top = 349,
-                                                   .width = 40,
-                                                   .height = 40,
-                                                   .tab_index = 15,
-                                                   .locks = {true, true, false, false}},
-                                         .caption = "?",
-                                         .font_size = 16,
-                                         .bold = true,
-                                         .is_default = true});
-constexpr auto kRectangle3 = RectangleStream({.place = {.name = "Rectangle3",
-                                                        .left = 20,
-                                                        .top = 353,
-                                                        .width = 420,
-                                                        .height = 30,
-                                                        .tab_index = 2,
-                                                        .locks = {false, false, false, false}},
-                                              .border_thickness = 2,
-                                              .fill = kLightGrey,
-                                              .top_left = kDarkGrey,
-                                              .bottom_right = kGrey});
+constexpr auto kQbtn =
+    PushButtonStream({.place = {"Qbtn", 439, 349, 40, 40, 15, "", {.left = true, .top = true}},
+                      .caption = "?",
+                      .font_size = 16,
+                      .bold = true,
+                      .is_default = true});
+constexpr auto kRectangle3 =
+    RectangleStream({.place = {"Rectangle3", 20, 353, 420, 30, 2, "", /*locks=*/{}},
+                     .fill = kLightGrey,
+                     .top_left = kDarkGrey,
+                     .bottom_right = kGrey,
+                     .border_thickness = 2});
 constexpr auto kStaticText5 =
     LabelStream({.place = {"StaticText5", 35, 358, 30, 20, 0, "Rectangle3"},
                  .value = "t =",
@@ -124,8 +92,7 @@ constexpr auto kStaticText1 =
                  .colour = kDarkRed});
 constexpr auto kPText = LabelStream({.place = {"pText", 164, 358, 60, 20, 3, "Rectangle3"},
                                      .tab_stop = true,
-                                     .alignment = TextAlignment::kCentre,
-                                     .colour = kBlack});
+                                     .alignment = TextAlignment::kCentre});
 constexpr auto kStaticText7 =
     LabelStream({.place = {"StaticText7", 251, 358, 85, 20, 4, "Rectangle3"},
                  .value = "95% CI of r =",
@@ -133,10 +100,9 @@ constexpr auto kStaticText7 =
                  .colour = kDarkRed});
 constexpr auto kCiText = LabelStream({.place = {"ciText", 334, 358, 95, 20, 5, "Rectangle3"},
                                       .tab_stop = true,
-                                      .alignment = TextAlignment::kCentre,
-                                      .colour = kBlack});
-constexpr auto kTText = LabelStream(
-    {.place = {"tText", 60, 358, 60, 20, 1, "Rectangle3"}, .tab_stop = true, .colour = kBlack});
+                                      .alignment = TextAlignment::kCentre});
+constexpr auto kTText =
+    LabelStream({.place = {"tText", 60, 358, 60, 20, 1, "Rectangle3"}, .tab_stop = true});
 
 static_assert(kWindow.Length() == 371);
 static_assert(kRSlider.Length() == 388);

@@ -1,5 +1,5 @@
-// Readable rows for the property streams: for each class of object a struct of what differs from
-// object to object, and the stream of such a row.
+// The property streams of this program, from rows that name only what differs from object to
+// object.
 #ifndef VAMO_CONTROLWND_STREAM_TABLES_H_
 #define VAMO_CONTROLWND_STREAM_TABLES_H_
 
@@ -9,25 +9,29 @@
 
 #include "toolkit/control/properties.h"
 #include "toolkit/object/property_stream.h"
+#include "toolkit/style.h"
+#include "toolkit/window/timer.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 
 inline constexpr Colour kBlack{0, 0, 0};
 inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
 
-// A window. Lengths in logical pixels.
+// What most objects have alike stands here as the default, so a row names what is its own. Lengths
+// in logical pixels.
+
 struct WindowRow {
   std::int64_t width, height;
-  std::int64_t maximum_width, maximum_height;
-  std::int64_t type;
-  std::string_view title;
-  bool has_maximize_button;
-  bool resizeable;
-  bool composite;
-  bool has_background_colour;
+  std::int64_t maximum_width = 32000, maximum_height = 32000;
+  WindowType type = WindowType::kWorking;
+  std::string_view title = {};
+  bool has_maximize_button = false;
+  bool resizeable = false;
+  bool composite = false;
+  bool has_background_colour = true;
 };
 
-// Which sides keep their distance to the window's.
 inline constexpr Locks kAllLocked{true, true, true, true};
 
 // What every visible control begins with.
@@ -47,18 +51,18 @@ struct LabelRow {
   float font_size = 12;
   bool bold = false;
   TextAlignment alignment = TextAlignment::kDefault;
-  Colour colour = {};
+  Colour colour = kBlack;
   bool visible = true;
 };
 
 struct TextFieldRow {
   PlaceRow place;
-  TextAlignment alignment;
-  std::string_view validation_mask;
-  std::int64_t maximum_characters;
-  bool spell_checking;
-  bool enabled;
-  bool read_only;
+  TextAlignment alignment = TextAlignment::kDefault;
+  std::string_view validation_mask = {};
+  std::int64_t maximum_characters = 0;
+  bool spell_checking = false;
+  bool enabled = true;
+  bool read_only = false;
 };
 
 struct SliderRow {
@@ -68,22 +72,22 @@ struct SliderRow {
 
 struct RectangleRow {
   PlaceRow place;
-  double border_thickness;
   Colour fill, top_left, bottom_right;
+  double border_thickness = 1;
 };
 
 struct CanvasRow {
   PlaceRow place;
-  bool tab_stop;
-  bool enabled;
+  bool tab_stop = true;
+  bool enabled = true;
 };
 
 struct PushButtonRow {
   PlaceRow place;
   std::string_view caption;
-  float font_size;
-  bool bold;
-  bool is_default;
+  float font_size = 12;
+  bool bold = false;
+  bool is_default = false;
 };
 
 struct TextAreaRow {
@@ -92,7 +96,7 @@ struct TextAreaRow {
 };
 
 struct TimerRow {
-  std::int64_t run_mode;
+  RunMode run_mode;
   // In milliseconds.
   std::int64_t period;
 };

@@ -13,14 +13,9 @@ constexpr Colour kDarkRed{0x80, 0, 0};
 
 constexpr auto kWindow = WindowStream({.width = 300,
                                        .height = 200,
-                                       .maximum_width = 32000,
-                                       .maximum_height = 32000,
-                                       .type = 2,
-                                       .title = "",
+                                       .type = WindowType::kSplash,
                                        .has_maximize_button = true,
-                                       .resizeable = true,
-                                       .composite = false,
-                                       .has_background_colour = true});
+                                       .resizeable = true});
 constexpr auto kStaticText5 = LabelStream({.place = {"StaticText5", 0, 181, 298, 15, 0},
                                            .tab_stop = true,
                                            .value = kRightsNotice,
@@ -35,8 +30,7 @@ constexpr auto kStaticText1 = LabelStream({.place = {"StaticText1", 0, 0, 298, 5
                                            .bold = true,
                                            .alignment = TextAlignment::kCentre,
                                            .colour = kDarkRed});
-// Mode 1: once. The period is in milliseconds.
-constexpr auto kTimer1 = TimerStream({.run_mode = 1, .period = 4000});
+constexpr auto kTimer1 = TimerStream({.run_mode = RunMode::kSingle, .period = 4000});
 
 static_assert(kCanvas1.Length() == 322);
 static_assert(kTimer1.Length() == 31);

@@ -45,12 +45,9 @@ constexpr std::array<char, TextSize()> kText = [] {
 
 constexpr auto kWindow = WindowStream({.width = 450,
                                        .height = 360,
-                                       .maximum_width = 32000,
-                                       .maximum_height = 32000,
-                                       .type = 7,
+                                       .type = WindowType::kReading,
                                        .title = "Info",
                                        .has_maximize_button = true,
-                                       .resizeable = false,
                                        .composite = true,
                                        .has_background_colour = false});
 constexpr auto kStaticText1 =

@@ -82,7 +82,7 @@ TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   const Delegate<void(Ref<Timer>)> note(log, &Log::NoteTimer, ReceiverFlag::kStrong);
   const auto window = ImplicitInstance<TestWindow>();
   window->timer()->Action = note;
-  window->timer()->SetRunMode(1);
+  window->timer()->SetRunMode(RunMode::kSingle);
   program.user().LetTimePass(1000ms);
   EXPECT_EQ(log->entries.size(), 0U) << "a period is missing";
   window->timer()->SetPeriod(100);
@@ -90,7 +90,7 @@ TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   EXPECT_EQ(log->entries.size(), 0U);
   program.user().LetTimePass(1000ms);
   EXPECT_EQ(log->entries.size(), 1U);
-  window->timer()->SetRunMode(2);
+  window->timer()->SetRunMode(RunMode::kMultiple);
   program.user().LetTimePass(350ms);
   EXPECT_EQ(log->entries.size(), 4U);
   window->timer()->Reset();

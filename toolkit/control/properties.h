@@ -9,7 +9,13 @@
 #include "toolkit/object/class_info.h"
 #include "toolkit/style.h"
 
-namespace vamo::property {
+namespace vamo {
+
+// A timer's and a window's, whose numbers are theirs to know.
+enum class RunMode : std::int64_t;
+enum class WindowType : std::int64_t;
+
+namespace property {
 
 using Boolean = PropertyName<bool>;
 using Integer = PropertyName<std::int64_t>;
@@ -75,12 +81,10 @@ inline constexpr Integer kMinimumValue{"MinimumValue"};
 inline constexpr Integer kMinimumWidth{"MinimumWidth"};
 inline constexpr Integer kPageStep{"PageStep"};
 inline constexpr Integer kPeriod{"Period"};
-inline constexpr Integer kRunMode{"RunMode"};
 inline constexpr Integer kTabIndex{"TabIndex"};
 inline constexpr Integer kTabPanelIndex{"TabPanelIndex"};
 inline constexpr Integer kTickMarkStyle{"TickMarkStyle"};
 inline constexpr Integer kTop{"Top"};
-inline constexpr Integer kType{"Type"};
 inline constexpr Integer kWidth{"Width"};
 
 inline constexpr Double kBorderThickness{"BorderThickness"};
@@ -107,11 +111,14 @@ inline constexpr Text kTitle{"Title"};
 inline constexpr Text kTooltip{"Tooltip"};
 inline constexpr Text kValidationMask{"ValidationMask"};
 
+inline constexpr PropertyName<RunMode> kRunMode{"RunMode"};
 inline constexpr PropertyName<TextAlignment> kTextAlignment{"TextAlignment"};
+inline constexpr PropertyName<WindowType> kType{"Type"};
 // A text on a control, and the position of a slider.
 inline constexpr Text kValue{"Value"};
 inline constexpr Integer kPosition{"Value"};
 
-}  // namespace vamo::property
+}  // namespace property
+}  // namespace vamo
 
 #endif  // VAMO_TOOLKIT_CONTROL_PROPERTIES_H_

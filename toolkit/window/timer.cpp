@@ -17,8 +17,8 @@ struct Timer::Properties {
 
 constinit const ClassInfo Timer::kClass{"Timer", nullptr, Properties::kRows};
 
-void Timer::SetRunMode(std::int64_t run_mode) {
-  run_mode_ = static_cast<RunMode>(run_mode);
+void Timer::SetRunMode(RunMode run_mode) {
+  run_mode_ = run_mode;
   Reset();
 }
 

@@ -12,18 +12,19 @@
 
 namespace vamo {
 
+// Whether a timer runs, and whether it goes on after the first time. The numbers are those of the
+// property RunMode.
+enum class RunMode : std::int64_t { kOff = 0, kSingle = 1, kMultiple = 2 };
+
 // Raises an event once or again and again after a period. It is no control: it has no window.
 class Timer : public Object {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  // The numbers of the property RunMode.
-  enum class RunMode { kOff = 0, kSingle = 1, kMultiple = 2 };
-
   // A timer runs from the moment that it has both a mode other than off and a period above 0. Each
   // write starts the period anew.
-  void SetRunMode(std::int64_t run_mode);
+  void SetRunMode(RunMode run_mode);
   // In milliseconds.
   void SetPeriod(std::int64_t period);
 
@@ -33,7 +34,7 @@ class Timer : public Object {
   // Begins the period anew.
   virtual void Reset();
   // Stops the timer for good. The window that holds it does so when it is closed.
-  void Stop() { SetRunMode(static_cast<std::int64_t>(RunMode::kOff)); }
+  void Stop() { SetRunMode(RunMode::kOff); }
 
   virtual void _CallAction();
 

@@ -39,6 +39,15 @@ struct AccessibleText {
   std::optional<KeyCode> pressed_by = std::nullopt;
 };
 
+// What a window is for. The numbers are those of the property Type.
+enum class WindowType : std::int64_t {
+  kWorking = 0,
+  // Without a frame, in the middle of the screen.
+  kSplash = 2,
+  // To be read beside the working window; Escape and the command key with W close it.
+  kReading = 7
+};
+
 // A window: its state, its children, its focus, and what becomes of the user's keys and presses. It
 // shows nothing by itself, and it knows nothing of what its subclasses are for.
 class Window : public Object {
@@ -100,7 +109,7 @@ class Window : public Object {
     std::int64_t minimum_height = 0;
     std::int64_t maximum_width = 0;
     std::int64_t maximum_height = 0;
-    std::int64_t type = 0;
+    WindowType type = WindowType::kWorking;
     std::string title;
     bool has_close_button = true;
     bool has_maximize_button = false;
@@ -113,11 +122,8 @@ class Window : public Object {
   const State& InitialState() const { return state_; }
   // What a list of windows shows: the title, or else the program's name.
   std::string ListedTitle() const;
-  // Type 2: a splash without a frame, in the middle of the screen.
-  bool IsSplash() const { return state_.type == 2; }
-  // Type 7: a window to be read beside the working window; Escape and the command key with W close
-  // it.
-  bool IsReading() const { return state_.type == 7; }
+  bool IsSplash() const { return state_.type == WindowType::kSplash; }
+  bool IsReading() const { return state_.type == WindowType::kReading; }
   // A splash has one size, whatever its state says: a desktop that tiles its windows would make a
   // poster of it.
   bool CanBeResized() const { return state_.resizeable && !IsSplash(); }

@@ -6,9 +6,6 @@
 namespace vamo {
 namespace {
 
-// The type of a window that is neither a splash nor to be read.
-constexpr std::int64_t kWorkingWindow = 0;
-
 // The first live window of which that is true, or nil.
 template <class Predicate>
 Ref<Window> FirstLive(Predicate matches) {
@@ -19,7 +16,7 @@ Ref<Window> FirstLive(Predicate matches) {
 
 Ref<Window> WorkingWindowOnScreen() {
   return FirstLive([](const Ref<Window>& window) {
-    return window->Visible() && window->InitialState().type == kWorkingWindow;
+    return window->Visible() && window->InitialState().type == WindowType::kWorking;
   });
 }
 
