@@ -1,4 +1,4 @@
-// The road of the process: from its entry to the event loop and back, in the order of its steps.
+// The process from its entry to the event loop and back, in the order of its steps.
 #include "shell/startup.h"
 
 #include <cstdint>

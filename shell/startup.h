@@ -1,4 +1,4 @@
-// The road of the process: from its entry to the event loop and back.
+// The process from its entry to the event loop and back.
 #ifndef VAMO_SHELL_STARTUP_H_
 #define VAMO_SHELL_STARTUP_H_
 

@@ -90,8 +90,8 @@ std::string_view SignText(bool negative, bool plus_shown) {
 // A decimal number without a sign while it is read, digit by digit.
 class Decimal {
  public:
-  void Append(char digit, bool behind_point) {
-    if (behind_point) {
+  void Append(char digit, bool after_point) {
+    if (after_point) {
       --exponent_;
     }
     if (digit == '0' && digits_.empty()) {

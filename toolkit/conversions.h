@@ -14,7 +14,7 @@ namespace vamo {
 // The text of `value` under `mask`, rounded to the mask's decimals from the exact binary value, a
 // tie to the even digit. The characters of a mask:
 //   0  a digit that is always there; # a digit only where the number has one. So the first 0 before
-//      the point sets the fewest whole digits and the last 0 behind it the fewest decimals.
+//      the point sets the fewest whole digits and the last 0 after it the fewest decimals.
 //   .  the point, always written; the first one counts.
 //   +  a sign in front, "+" as well as "-".
 // Other characters are skipped. Under a mask with a +, the sign follows the value and not its

@@ -20,7 +20,7 @@ class QtPicture : public DisplayPicture {
   QImage image_;
 };
 
-// The image of that file name beside the program or among its installed resources; nil where there
+// The image of that file name beside the program or among its installed resources; null where there
 // is none, or only a damaged one. Says nothing to the user.
 std::shared_ptr<QtPicture> FindPicture(std::string_view file_name);
 

@@ -18,7 +18,7 @@ class VisibleBell {
  public:
   VisibleBell();
 
-  // `widget` may be nil.
+  // `widget` may be null.
   void Flash(QWidget* widget);
 
  private:

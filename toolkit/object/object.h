@@ -22,7 +22,7 @@ class Object : public std::enable_shared_from_this<Object> {
   Object& operator=(const Object&) = delete;
   virtual ~Object() = default;
 
-  // The table of the object's class: its name and its properties. Nil for a class without one.
+  // The table of the object's class: its name and its properties. Null for a class without one.
   virtual const ClassInfo* Class() const { return nullptr; }
 };
 

@@ -79,7 +79,7 @@ class EncodedStream {
     return *this;
   }
   constexpr EncodedStream& Byte(char byte) {
-    // The last byte stays the zero behind the entries.
+    // The last byte stays the zero after the entries.
     if (length_ == kRoom) throw std::out_of_range("no room in the stream");
     bytes_[++length_] = byte;
     bytes_[0] = static_cast<char>(length_ < 255 ? length_ : 255);

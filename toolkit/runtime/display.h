@@ -100,7 +100,7 @@ class Display {
   virtual void Announce(std::string_view sentence) = 0;
 
   // Called by Picture::_OpenFromApp: the image of that file name among the application's resources,
-  // or nil where there is none or it cannot be decoded.
+  // or null where there is none or it cannot be decoded.
   virtual std::shared_ptr<DisplayPicture> OpenPicture(std::string_view file_name) = 0;
 
   // Called by a Timer that is set going: must call `fire` as an event of its own each time `period`

@@ -26,7 +26,7 @@ class FileType;
 // them.
 class Window;
 
-// Calls a function and gives back the RuntimeException that it raised, or nil; anything else that
+// Calls a function and gives back the RuntimeException that it raised, or null; anything else that
 // it raises goes on to the caller.
 using ExceptionHelper = std::function<std::exception_ptr(const std::function<void()>&)>;
 

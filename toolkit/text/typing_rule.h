@@ -19,7 +19,7 @@ struct TypingRule {
 };
 
 // What stands in front of the caret when the user has typed `character` between `before` and
-// `after`: the character behind `before`, with the mask's literals between them where a digit is
+// `after`: the character after `before`, with the mask's literals between them where a digit is
 // typed and the mask wants them there. So "5" into the empty field under ".###" gives ".5". "0.5"
 // gives ".5" too: the zero has become ".0" when the point comes, and a literal that is typed after
 // itself and nothing but zeros takes their place. Nothing where the whole would not fit the rule.
