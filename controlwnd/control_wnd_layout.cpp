@@ -4,7 +4,7 @@
 
 #include "controlwnd/chart_small.h"
 #include "controlwnd/control_wnd.h"
-#include "controlwnd/stream_tables.h"
+#include "controlwnd/streams.h"
 
 namespace vamo {
 namespace {

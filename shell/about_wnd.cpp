@@ -2,7 +2,7 @@
 #include "shell/about_wnd.h"
 
 #include "controlwnd/chart_small.h"
-#include "controlwnd/stream_tables.h"
+#include "controlwnd/streams.h"
 #include "shell/rights.h"
 #include "toolkit/runtime/runtime.h"
 

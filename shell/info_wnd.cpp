@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-#include "controlwnd/stream_tables.h"
+#include "controlwnd/streams.h"
 #include "shell/rights.h"
 #include "toolkit/runtime/runtime.h"
 

@@ -1,105 +1,15 @@
-// The property streams of this program, from rows that name only what differs from object to
-// object.
-#ifndef VAMO_CONTROLWND_STREAM_TABLES_H_
-#define VAMO_CONTROLWND_STREAM_TABLES_H_
+// The property streams of this program, as they are written from rows.
+#ifndef VAMO_CONTROLWND_STREAMS_H_
+#define VAMO_CONTROLWND_STREAMS_H_
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 
+#include "controlwnd/stream_rows.h"
 #include "toolkit/control/properties.h"
 #include "toolkit/object/property_stream.h"
-#include "toolkit/style.h"
-#include "toolkit/window/timer.h"
-#include "toolkit/window/window.h"
 
 namespace vamo {
-
-inline constexpr Colour kBlack{0, 0, 0};
-inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
-
-// What most objects have alike stands here as the default, so a row names what is its own. Lengths
-// in logical pixels.
-
-struct WindowRow {
-  std::int64_t width, height;
-  std::int64_t maximum_width = 32000, maximum_height = 32000;
-  WindowType type = WindowType::kWorking;
-  std::string_view title = {};
-  bool has_maximize_button = false;
-  bool resizeable = false;
-  bool composite = false;
-  bool has_background_colour = true;
-};
-
-inline constexpr Locks kAllLocked{true, true, true, true};
-
-// What every visible control begins with.
-struct PlaceRow {
-  std::string_view name;
-  std::int64_t left, top, width, height;
-  std::int64_t tab_index;
-  // The name of the control that this one lies in; empty for the window itself.
-  std::string_view parent = {};
-  Locks locks = kAllLocked;
-};
-
-struct LabelRow {
-  PlaceRow place;
-  bool tab_stop = false;
-  std::string_view value = {};
-  float font_size = 12;
-  bool bold = false;
-  TextAlignment alignment = TextAlignment::kDefault;
-  Colour colour = kBlack;
-  bool visible = true;
-};
-
-struct TextFieldRow {
-  PlaceRow place;
-  TextAlignment alignment = TextAlignment::kDefault;
-  std::string_view validation_mask = {};
-  std::int64_t maximum_characters = 0;
-  bool spell_checking = false;
-  bool enabled = true;
-  bool read_only = false;
-};
-
-struct SliderRow {
-  PlaceRow place;
-  std::int64_t value, minimum, maximum;
-};
-
-struct RectangleRow {
-  PlaceRow place;
-  Colour fill, top_left, bottom_right;
-  double border_thickness = 1;
-};
-
-struct CanvasRow {
-  PlaceRow place;
-  bool tab_stop = true;
-  bool enabled = true;
-};
-
-struct PushButtonRow {
-  PlaceRow place;
-  std::string_view caption;
-  float font_size = 12;
-  bool bold = false;
-  bool is_default = false;
-};
-
-struct TextAreaRow {
-  PlaceRow place;
-  std::string_view value;
-};
-
-struct TimerRow {
-  RunMode run_mode;
-  // In milliseconds.
-  std::int64_t period;
-};
 
 // Room for the entries of any object of this program, and of one that shows a text of some length.
 inline constexpr std::size_t kRoom = 640;
@@ -330,4 +240,4 @@ constexpr EncodedStream<kRoom> TimerStream(const TimerRow& row) {
 
 }  // namespace vamo
 
-#endif  // VAMO_CONTROLWND_STREAM_TABLES_H_
+#endif  // VAMO_CONTROLWND_STREAMS_H_
