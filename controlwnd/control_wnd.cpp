@@ -35,7 +35,7 @@ bool Refuse(bool passes) {
 
 void ControlWnd::DoIt(double rArg, std::int64_t /*nArg*/) {
   const std::int64_t n = Truncate(Val(nEdit()->Text()));
-  if (kHighestN < n) {
+  if (n > kHighestN) {
     Beep();
     nText()->SetVisible(true);
     tText()->SetText("");
@@ -60,7 +60,7 @@ bool ControlWnd::rEdit_KeyDown(Ref<TextField> /*sender*/, std::string key) {
 // it.
 void ControlWnd::rEdit_TextChange(Ref<TextField> /*sender*/) {
   r = Val(rEdit()->Text());
-  if (kLowestR > r) {
+  if (r < kLowestR) {
     r = kLowestR;
     rEdit()->SetText(".000");
   }

@@ -29,7 +29,7 @@ class ControlWnd : public Window {
   // The slider of r counts in hundredths.
   static constexpr std::int64_t kPositionsPerR = 100;
 
-  // The model. r is the correlation in force; N the sample size that the handlers last took up,
+  // The model. r is the correlation in force; N the sample size that the handlers last set,
   // while the calculation takes the one in `nEdit`; t and p are those of the last calculation; z is
   // Fisher's z of r.
   double r = 0;
@@ -88,7 +88,7 @@ class ControlWnd : public Window {
   virtual bool _AboutKEL_Action();
 
   // Works out t, p and the interval for the correlation `rArg` and the sample size in `nEdit`, and
-  // shows them; `nArg` is not looked at. Above a sample size of 1000 it beeps, shows the warning
+  // shows them; `nArg` is ignored. Above a sample size of 1000 it beeps, shows the warning
   // and empties the results instead.
   virtual void DoIt(double rArg, std::int64_t nArg);
 };

@@ -1,6 +1,8 @@
 // The working window: its state, its 22 controls in the order of their creation, and what is wired
 // to them.
 #include <array>
+#include <span>
+#include <string_view>
 
 #include "controlwnd/chart_small.h"
 #include "controlwnd/control_wnd.h"
@@ -55,6 +57,7 @@ constexpr auto kStaticText2 =
     LabelStream({.place = {"StaticText2", 25, 192, 20, 20, 9}, .value = "r =", .bold = true});
 constexpr auto kStaticText3 =
     LabelStream({.place = {"StaticText3", 25, 257, 20, 20, 10}, .value = "N =", .bold = true});
+// The text is fixed, comma included.
 constexpr auto kNText = LabelStream({.place = {"nText", 127, 257, 129, 20, 12},
                                      .value = "(4 - 1,1000)",
                                      .font_size = 11,
@@ -104,8 +107,8 @@ constexpr auto kCiText = LabelStream({.place = {"ciText", 334, 358, 95, 20, 5, "
 constexpr auto kTText =
     LabelStream({.place = {"tText", 60, 358, 60, 20, 1, "Rectangle3"}, .tab_stop = true});
 
-static_assert(kWindow.Length() == 371);
-static_assert(kRSlider.Length() == 388);
+static_assert(kWindow.Length() == 371, "the streams are fixed to the byte");
+static_assert(kRSlider.Length() == 388, "the streams are fixed to the byte");
 
 constexpr std::array kAccessibleTexts{
     AccessibleText{"rEdit", "r", "", "StaticText2"},

@@ -1,4 +1,7 @@
 // The working window: what it does at the points of its life that are not input of r or N.
+#include <cstdint>
+#include <string_view>
+
 #include "controlwnd/control_wnd.h"
 #include "toolkit/runtime/runtime.h"
 
@@ -10,7 +13,7 @@ constexpr std::int64_t kInitialN = 4;
 }  // namespace
 
 bool ControlWnd::IsEventImplemented(std::string_view event) const {
-  return _RuntimeIsEventHandled(*this, "ControlWnd.ControlWnd", event, /*user=*/true);
+  return _RuntimeIsEventHandled(*this, kClass.name, event, /*user=*/true);
 }
 
 void ControlWnd::Event_Activate() {

@@ -4,7 +4,7 @@
 
 #include "toolkit/window/menu_item.h"
 
-// One for each item, named as the item, which is looked up in the window's bar. Each raises
+// One accessor per item, with the item's name, looked up in the window's bar. Each raises
 // IllegalCastException for an item of another class.
 #define VAMO_MENU_ACCESSOR(Class, Item) \
   virtual Ref<Class> Item() const { return Cast<Class>(MenuBar()->_Lookup(#Item)); }

@@ -1,4 +1,4 @@
-// The property streams of this program, as they are written from rows.
+// Property streams written from rows.
 #ifndef VAMO_CONTROLWND_STREAMS_H_
 #define VAMO_CONTROLWND_STREAMS_H_
 
@@ -11,13 +11,13 @@
 
 namespace vamo {
 
-// Room for the entries of any object of this program, and of one that shows a text of some length.
-inline constexpr std::size_t kRoom = 640;
-inline constexpr std::size_t kLongRoom = 1592;
+// Enough for the entries of any object of this program, and just what the Info text takes.
+inline constexpr std::size_t kCapacity = 640;
+inline constexpr std::size_t kLongCapacity = 1592;
 
 namespace internal {
 
-// An index that says: not a member of a control set.
+// Marks a control that is in no control set.
 inline constexpr std::int64_t kNoIndex = INT32_MIN;
 
 template <std::size_t kSize>
@@ -42,8 +42,8 @@ constexpr EncodedStream<kSize> Head(const PlaceRow& row) {
 // The stream of a row, in the order of its entries. What stands here as a constant is the same for
 // every object of the class in this program.
 
-constexpr EncodedStream<kRoom> WindowStream(const WindowRow& row) {
-  return EncodedStream<kRoom>()
+constexpr EncodedStream<kCapacity> WindowStream(const WindowRow& row) {
+  return EncodedStream<kCapacity>()
       .Set(property::kWidth, row.width)
       .Set(property::kHeight, row.height)
       .Set(property::kMinimumWidth, 64)
@@ -68,8 +68,8 @@ constexpr EncodedStream<kRoom> WindowStream(const WindowRow& row) {
       .Set(property::kLiveResize, false);
 }
 
-constexpr EncodedStream<kRoom> LabelStream(const LabelRow& row) {
-  return internal::Head<kRoom>(row.place)
+constexpr EncodedStream<kCapacity> LabelStream(const LabelRow& row) {
+  return internal::Head<kCapacity>(row.place)
       .Set(property::kTabStop, row.tab_stop)
       .Set(property::kAllowAutoDeactivate, true)
       .Set(property::kEnabled, true)
@@ -92,8 +92,8 @@ constexpr EncodedStream<kRoom> LabelStream(const LabelRow& row) {
       .Set(property::kInitialParent, row.place.parent);
 }
 
-constexpr EncodedStream<kRoom> TextFieldStream(const TextFieldRow& row) {
-  return internal::Head<kRoom>(row.place)
+constexpr EncodedStream<kCapacity> TextFieldStream(const TextFieldRow& row) {
+  return internal::Head<kCapacity>(row.place)
       .Set(property::kTabStop, true)
       .Set(property::kAllowAutoDeactivate, true)
       .Set(property::kBackgroundColor, kWhite)
@@ -125,8 +125,8 @@ constexpr EncodedStream<kRoom> TextFieldStream(const TextFieldRow& row) {
       .Set(property::kInitialParent, row.place.parent);
 }
 
-constexpr EncodedStream<kLongRoom> TextAreaStream(const TextAreaRow& row) {
-  return internal::Head<kLongRoom>(row.place)
+constexpr EncodedStream<kLongCapacity> TextAreaStream(const TextAreaRow& row) {
+  return internal::Head<kLongCapacity>(row.place)
       .Set(property::kTabStop, false)
       .Set(property::kAllowAutoDeactivate, true)
       .Set(property::kBackgroundColor, kWhite)
@@ -163,8 +163,8 @@ constexpr EncodedStream<kLongRoom> TextAreaStream(const TextAreaRow& row) {
       .Set(property::kInitialParent, row.place.parent);
 }
 
-constexpr EncodedStream<kRoom> SliderStream(const SliderRow& row) {
-  return internal::Head<kRoom>(row.place)
+constexpr EncodedStream<kCapacity> SliderStream(const SliderRow& row) {
+  return internal::Head<kCapacity>(row.place)
       .Set(property::kTabStop, true)
       .Set(property::kAllowAutoDeactivate, true)
       .Set(property::kEnabled, true)
@@ -181,8 +181,8 @@ constexpr EncodedStream<kRoom> SliderStream(const SliderRow& row) {
       .Set(property::kInitialParent, row.place.parent);
 }
 
-constexpr EncodedStream<kRoom> RectangleStream(const RectangleRow& row) {
-  return internal::Head<kRoom>(row.place)
+constexpr EncodedStream<kCapacity> RectangleStream(const RectangleRow& row) {
+  return internal::Head<kCapacity>(row.place)
       .Set(property::kAllowAutoDeactivate, true)
       .Set(property::kBorderThickness, row.border_thickness)
       .Set(property::kBottomRightColor, row.bottom_right)
@@ -195,8 +195,8 @@ constexpr EncodedStream<kRoom> RectangleStream(const RectangleRow& row) {
       .Set(property::kInitialParent, row.place.parent);
 }
 
-constexpr EncodedStream<kRoom> CanvasStream(const CanvasRow& row) {
-  return internal::Head<kRoom>(row.place)
+constexpr EncodedStream<kCapacity> CanvasStream(const CanvasRow& row) {
+  return internal::Head<kCapacity>(row.place)
       .Set(property::kTabStop, row.tab_stop)
       .Set(property::kAllowAutoDeactivate, true)
       .Set(property::kEnabled, row.enabled)
@@ -207,12 +207,12 @@ constexpr EncodedStream<kRoom> CanvasStream(const CanvasRow& row) {
       .Set(property::kAllowTabs, false)
       .Set(property::kTransparent, true)
       .Set(property::kDoubleBuffer, false)
-      .Set(property::kTransparent, true)
+      .Set(property::kTransparent, true)  // It comes twice in this stream.
       .Set(property::kInitialParent, row.place.parent);
 }
 
-constexpr EncodedStream<kRoom> PushButtonStream(const PushButtonRow& row) {
-  return internal::Head<kRoom>(row.place)
+constexpr EncodedStream<kCapacity> PushButtonStream(const PushButtonRow& row) {
+  return internal::Head<kCapacity>(row.place)
       .Set(property::kTabStop, false)
       .Set(property::kAllowAutoDeactivate, true)
       .Set(property::kMacButtonStyle, 0)
@@ -232,8 +232,8 @@ constexpr EncodedStream<kRoom> PushButtonStream(const PushButtonRow& row) {
       .Set(property::kInitialParent, row.place.parent);
 }
 
-constexpr EncodedStream<kRoom> TimerStream(const TimerRow& row) {
-  return EncodedStream<kRoom>()
+constexpr EncodedStream<kCapacity> TimerStream(const TimerRow& row) {
+  return EncodedStream<kCapacity>()
       .Set(property::kRunMode, row.run_mode)
       .Set(property::kPeriod, row.period);
 }

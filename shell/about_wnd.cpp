@@ -1,4 +1,3 @@
-// The About window: its state, its controls, the hand-over to the control window.
 #include "shell/about_wnd.h"
 
 #include "controlwnd/chart_small.h"
@@ -32,8 +31,8 @@ constexpr auto kStaticText1 = LabelStream({.place = {"StaticText1", 0, 0, 298, 5
                                            .colour = kDarkRed});
 constexpr auto kTimer1 = TimerStream({.run_mode = RunMode::kSingle, .period = 4000});
 
-static_assert(kCanvas1.Length() == 322);
-static_assert(kTimer1.Length() == 31);
+static_assert(kCanvas1.Length() == 322, "the streams are fixed to the byte");
+static_assert(kTimer1.Length() == 31, "the streams are fixed to the byte");
 
 // Both windows are reached by name, not through the object that an event came to.
 void HandOver() {
@@ -48,7 +47,7 @@ constexpr std::string_view kEvents[] = {"CreateControls", "KeyDown", "Layout", "
 constinit const ClassInfo AboutWnd::kClass{"AboutWnd.AboutWnd", &Window::kClass, {}, kEvents};
 
 bool AboutWnd::IsEventImplemented(std::string_view event) const {
-  return _RuntimeIsEventHandled(*this, "AboutWnd.AboutWnd", event, /*user=*/true);
+  return _RuntimeIsEventHandled(*this, kClass.name, event, /*user=*/true);
 }
 
 void AboutWnd::Layout() { _SetProperties(*this, kWindow); }

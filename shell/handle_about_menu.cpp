@@ -17,7 +17,7 @@ Ref<HandleAboutMenu> App() { return Cast<HandleAboutMenu>(_GetAppObject()); }
 Ref<AppleMenuItem> AboutKEL() { return Cast<AppleMenuItem>(App()->MenuBar()->_Lookup("AboutKEL")); }
 
 bool HandleAboutMenu::IsEventImplemented(std::string_view event) const {
-  return _RuntimeIsEventHandled(*this, "HandleAboutMenu", event, /*user=*/true);
+  return _RuntimeIsEventHandled(*this, kClass.name, event, /*user=*/true);
 }
 
 void HandleAboutMenu::Event_EnableMenuItems() { AboutKEL()->SetEnabled(true); }

@@ -1,4 +1,3 @@
-// The Info window: its state and its text.
 #include "shell/info_wnd.h"
 
 #include <array>
@@ -18,9 +17,8 @@ constexpr std::string_view kPurpose =
 constexpr std::string_view kDisclaimer =
     "Author makes no warranty, expressed or implied, respecting Vamo including, but not limited "
     "to, warranties of merchantability or fitness for any particular purpose. Vamo must be used "
-    "with "
-    "professional care and judgment to determine the appropriateness of its outcome. The author "
-    "assumes no liability to the user or any third party with respect to this software.";
+    "with professional care and judgment to determine the appropriateness of its outcome. The "
+    "author assumes no liability to the user or any third party with respect to this software.";
 constexpr std::string_view kParagraphEnd = "\r\r";
 
 constexpr std::array kParagraphs{kPurpose, kTerms, kCitation, kDisclaimer};
@@ -55,8 +53,8 @@ constexpr auto kStaticText1 =
                     .value = std::string_view(kText.data(), kText.size())});
 constexpr std::array kAccessibleTexts{AccessibleText{"StaticText1", "Info", "", ""}};
 
-static_assert(kText.size() == 911);
-static_assert(kStaticText1.Length() == 1592);
+static_assert(kText.size() == 911, "the text is fixed to the byte");
+static_assert(kStaticText1.Length() == 1592, "the streams are fixed to the byte");
 
 constexpr std::string_view kEvents[] = {"CreateControls", "EnableMenuItems", "Layout"};
 
@@ -65,7 +63,7 @@ constexpr std::string_view kEvents[] = {"CreateControls", "EnableMenuItems", "La
 constinit const ClassInfo InfoWnd::kClass{"InfoWnd.InfoWnd", &Window::kClass, {}, kEvents};
 
 bool InfoWnd::IsEventImplemented(std::string_view event) const {
-  return _RuntimeIsEventHandled(*this, "InfoWnd.InfoWnd", event, /*user=*/true);
+  return _RuntimeIsEventHandled(*this, kClass.name, event, /*user=*/true);
 }
 
 void InfoWnd::Layout() {

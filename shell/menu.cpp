@@ -1,4 +1,3 @@
-// The menu bar of the program, built from its table.
 #include "shell/menu.h"
 
 #include <string_view>
@@ -17,7 +16,7 @@ struct Row {
   Ref<MenuItem> (*make)();
   std::string_view name;
   std::string_view text = {};
-  // Nothing where the shortcut is never written.
+  // Null leaves the shortcut unset.
   const char* shortcut = "";
   bool auto_enabled = false;
 };

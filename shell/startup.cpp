@@ -23,11 +23,10 @@ struct StartupFields {
 
 namespace {
 
-// Announces a step and takes it.
+// Tells the observer of a step, then takes it.
 template <class StepFunction>
 void Step(std::string_view name, StepFunction&& step) {
-  const StepObserver& observer = Runtime::Current().ModuleFields<StartupFields>().observer;
-  if (observer != nullptr) observer(name);
+  Runtime::Current().ModuleFields<StartupFields>().observer(name);
   step();
 }
 

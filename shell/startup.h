@@ -10,7 +10,7 @@
 
 namespace vamo {
 
-// Told the name of each step before the step runs. An exception of it makes the step fail.
+// Told the name of each step before the step runs. An exception that it throws makes the step fail.
 using StepObserver = std::function<void(std::string_view step)>;
 
 // Runs the program on a display, from the start of the run time to its end. The result is the exit

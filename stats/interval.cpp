@@ -40,7 +40,7 @@ Interval ComputeInterval(double r, std::int64_t N) {
   double lo = CorrelationOf(zLow);
   double hi = CorrelationOf(zHigh);
   // Not std::clamp: not-a-number passes, and each limit has the one end that it can reach.
-  if (-1.0 > lo) {
+  if (lo < -1.0) {
     lo = -1.0;
   }
   if (hi > 1.0) {

@@ -10,12 +10,14 @@ namespace {
 
 constexpr std::int64_t kSmallestN = 4;
 
-// The smallest t that is told from 0, and the smallest p that is shown.
-constexpr double kSmallest = 0.00001;
+// The smallest t that is distinguished from 0.
+constexpr double kSmallestT = 0.00001;
+// What p is shown between.
+constexpr double kSmallestP = 0.00001;
 constexpr double kLargestP = 0.99999;
 
-// What 2 / pi, to eight places, lacks to 1: the odd series has 2 / pi in front, the even one 1.
-constexpr double kOddSeriesLack = 0.36338023;
+// 1 - 2 / pi to eight places: the odd series has the factor 2 / pi, the even one 1.
+constexpr double kOddSeriesShortfall = 0.36338023;
 
 // An N below 0 counts as 0, which has no distribution either: N - 2 cannot overflow.
 std::int64_t DegreesOfFreedom(std::int64_t N) { return std::max<std::int64_t>(N, 0) - 2; }
@@ -67,7 +69,7 @@ double CentralProbability(double t, std::int64_t df) {
   const double theta = ATan(t / Sqrt(f));
   const double parity = f - 2.0 * Floor(f / 2.0);
   const double series = parity == 0.0 ? EvenSeries(theta, df) : OddSeries(theta, df);
-  return (1.0 - kOddSeriesLack * parity) * series;
+  return (1.0 - kOddSeriesShortfall * parity) * series;
 }
 
 }  // namespace
@@ -76,7 +78,7 @@ double ComputeT(double r, std::int64_t N) {
   const double den = Sqrt(1.0 - r * r);
   const double num = r * Sqrt(static_cast<double>(DegreesOfFreedom(N)));
   double t = num / den;
-  if (0.0 >= r) {
+  if (r <= 0.0) {
     t = 0.0;
   }
   if (N < kSmallestN) {
@@ -88,11 +90,11 @@ double ComputeT(double r, std::int64_t N) {
 double ComputeP(double t, std::int64_t N) {
   double p = 0.5 * (1.0 + CentralProbability(t, DegreesOfFreedom(N)));
   p = (1.0 - p) * 2.0;
-  if (kSmallest > t) {
+  if (t < kSmallestT) {
     p = kLargestP;
   }
-  if (kSmallest > p) {
-    p = kSmallest;
+  if (p < kSmallestP) {
+    p = kSmallestP;
   }
   return p;
 }

@@ -15,7 +15,7 @@ foreach(room
         toolkit toolkit/object toolkit/runtime toolkit/control toolkit/text toolkit/window
         stats controlwnd shell displays displays/headless displays/qt)
   file(GLOB sources RELATIVE ${ROOT} ${ROOT}/${room}/*.h ${ROOT}/${room}/*.cpp)
-  # It stands above all rooms and chooses the display.
+  # The program, which stands above all rooms.
   list(REMOVE_ITEM sources shell/main.cpp)
   if(NOT sources)
     message(SEND_ERROR "${room}: no sources")

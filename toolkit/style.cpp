@@ -5,7 +5,7 @@
 namespace vamo {
 namespace {
 
-// One dimension of it.
+// The same in one dimension.
 void Stretch(std::int64_t& begin, std::int64_t& length, std::int64_t growth, bool begin_locked,
              bool end_locked) {
   if (!end_locked) return;
@@ -19,10 +19,10 @@ void Stretch(std::int64_t& begin, std::int64_t& length, std::int64_t growth, boo
 }  // namespace
 
 Bounds Stretched(const Bounds& bounds, const Locks& locks, std::int64_t wider,
-                 std::int64_t higher) {
+                 std::int64_t taller) {
   Bounds stretched = bounds;
   Stretch(stretched.left, stretched.width, wider, locks.left, locks.right);
-  Stretch(stretched.top, stretched.height, higher, locks.top, locks.bottom);
+  Stretch(stretched.top, stretched.height, taller, locks.top, locks.bottom);
   return stretched;
 }
 

@@ -43,9 +43,10 @@ struct Locks {
   bool bottom = false;
 };
 
-// Where a control comes that was designed for `bounds`, on a window that has become wider and
-// higher by so much: a side that is not locked goes with the opposite one. No length is below 0.
-Bounds Stretched(const Bounds& bounds, const Locks& locks, std::int64_t wider, std::int64_t higher);
+// Where a control designed for `bounds` lies once its window has grown by `wider` and `taller`:
+// locked on both sides it stretches, to no length below 0; locked at the right or the bottom alone
+// it moves; else it stays.
+Bounds Stretched(const Bounds& bounds, const Locks& locks, std::int64_t wider, std::int64_t taller);
 
 }  // namespace vamo
 

@@ -18,12 +18,12 @@ class HeadlessTimer;
 class HeadlessUser;
 class HeadlessWindow;
 
-// A whole display in memory, without pixels, for checks and for machines without a screen. What its
-// user does while the program runs is a function that is given it. Positions on the screen mean
+// A whole display in memory, without pixels, for tests and measurements. What its user does
+// while the program runs is a function passed to it. Positions on the screen mean
 // nothing to it, and its clock stands still unless it is told to go on.
 class HeadlessDisplay : public Display {
  public:
-  // When `act` is through, the loop ends.
+  // The loop ends when `act` returns.
   explicit HeadlessDisplay(std::function<void(HeadlessUser&)> act = nullptr);
   ~HeadlessDisplay() override;
 
@@ -40,7 +40,8 @@ class HeadlessDisplay : public Display {
   void SetClipboardText(std::string_view text) override { clipboard_ = text; }
   bool MenuBarsLiveInWindows() const override { return false; }
 
-  // Does something as the user, and then what it has set off, unless the program has ended.
+  // Does something as the user, and then runs the events that it has caused, unless the program has
+  // ended.
   void Do(const std::function<void()>& act);
   // Brings a window to the front and gives it the keys.
   void Activate(HeadlessWindow& window);
@@ -67,7 +68,7 @@ class HeadlessDisplay : public Display {
   friend class HeadlessWindow;
 
   void Post(std::function<void()> event) { events_.push_back(std::move(event)); }
-  // Runs what the last act has set off.
+  // Runs the events that the last act has caused.
   void RunEvents();
   // As a desktop does when the window that had the keys has gone. Whether there was one to give to.
   bool GiveKeysToFrontWindow();

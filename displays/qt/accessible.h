@@ -6,7 +6,7 @@
 
 namespace vamo {
 
-// A factory for Qt to ask. Gives windows and sliders their part for assistive technology; nothing
+// A factory for Qt. Gives windows, sliders and labels their part for assistive technology; nothing
 // to any other object.
 QAccessibleInterface* MakeAccessible(const QString& class_name, QObject* object);
 

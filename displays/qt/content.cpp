@@ -2,7 +2,6 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <algorithm>
 
 #include "displays/qt/convert.h"
 #include "displays/qt/window.h"
@@ -13,8 +12,8 @@ namespace {
 
 // Both ends go to whole pixels, so that what touches as designed does so at every factor.
 Bounds ScaledBounds(const Bounds& bounds, double factor) {
-  const int left = Scaled(bounds.left, factor);
-  const int top = Scaled(bounds.top, factor);
+  const std::int64_t left = Scaled(bounds.left, factor);
+  const std::int64_t top = Scaled(bounds.top, factor);
   return {left, top, Scaled(bounds.left + bounds.width, factor) - left,
           Scaled(bounds.top + bounds.height, factor) - top};
 }

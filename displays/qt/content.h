@@ -8,7 +8,6 @@
 
 namespace vamo {
 
-class Window;
 class WindowWidget;
 
 // The area of a window that holds its controls: places them, draws the background, and reports the
@@ -17,7 +16,7 @@ class ContentWidget : public QWidget {
  public:
   explicit ContentWidget(WindowWidget& parent);
 
-  // Takes in a new widget of a control, whose parent is this one.
+  // Adds a control's new widget, whose parent is this one.
   void Add(ControlWidget& widget);
   // Makes all controls as large as the window's factor says.
   void Rescale();

@@ -23,7 +23,7 @@ class ControlWidget {
   RectControl* Control() const { return control_; }
   void Detach() { control_ = nullptr; }
 
-  // Makes everything so many times larger than the control says. The place is the parent's matter.
+  // Scales everything by `factor`. The place is up to the parent.
   void Rescale(double factor);
   // Puts the widget where the control's box is.
   virtual void SetBox(const QRect& box) { AsWidget().setGeometry(box); }
@@ -60,7 +60,8 @@ class WidgetFor : public QtWidget, public ControlWidget {
   ControlClass& TheControl() const { return static_cast<ControlClass&>(*Control()); }
 };
 
-// The control's end of its widget. It does not own the widget: the window's widget does.
+// The view through which a control reaches its widget. It does not own the widget: the window's
+// widget does.
 class QtControlView : public ControlView {
  public:
   explicit QtControlView(ControlWidget& widget) : alive_(&widget.AsWidget()), widget_(widget) {}

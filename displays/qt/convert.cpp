@@ -58,11 +58,11 @@ int Scaled(std::int64_t length, double factor) {
       std::lround(std::clamp(static_cast<double>(length) * factor, -kLargest, kLargest)));
 }
 
-int Utf16Position(std::string_view utf8, std::size_t byte_offset) {
+int ToQtPosition(std::string_view utf8, std::size_t byte_offset) {
   return static_cast<int>(Utf16Offset(utf8, byte_offset));
 }
 
-std::size_t ByteOffsetOf(std::string_view utf8, int position) {
+std::size_t ToByteOffset(std::string_view utf8, int position) {
   return ByteOffset(utf8, static_cast<std::size_t>(position));
 }
 

@@ -25,12 +25,12 @@ QFont ToQFont(const Font& font, double factor);
 Qt::Alignment ToQtAlignment(TextAlignment alignment);
 // The nearest number that an int can hold.
 int ToInt(std::int64_t number);
-// So many times a length, as a whole number.
+// Length times factor, rounded.
 int Scaled(std::int64_t length, double factor);
 
 // A byte offset into valid UTF-8 as Qt counts, and the other way round.
-int Utf16Position(std::string_view utf8, std::size_t byte_offset);
-std::size_t ByteOffsetOf(std::string_view utf8, int position);
+int ToQtPosition(std::string_view utf8, std::size_t byte_offset);
+std::size_t ToByteOffset(std::string_view utf8, int position);
 
 }  // namespace vamo
 

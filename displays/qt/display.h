@@ -1,7 +1,11 @@
 #ifndef VAMO_DISPLAYS_QT_DISPLAY_H_
 #define VAMO_DISPLAYS_QT_DISPLAY_H_
 
+#include <chrono>
+#include <functional>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "toolkit/runtime/display.h"
 

@@ -9,7 +9,6 @@
 
 namespace vamo {
 
-class ControlWidget;
 class WindowWidget;
 
 // The key that an event carries; nothing for a bare modifier and for a key that only begins a

@@ -12,8 +12,12 @@ namespace {
 
 QString Escaped(const QString& title) { return QString(title).replace(u'&', QStringLiteral("&&")); }
 
-// Where to look for the letter of an entry. On every desktop C is Copy, and T is Cut.
-qsizetype FirstCandidate(const QString& title) { return title == QStringLiteral("Cut") ? 2 : 0; }
+// Where to look for the letter of an entry. On every desktop T is Cut, since C is Copy, and A is
+// Select All.
+qsizetype FirstCandidate(const QString& title) {
+  if (title == QStringLiteral("Cut")) return 2;
+  return title == QStringLiteral("Select All") ? 7 : 0;
+}
 
 QAction::MenuRole Role(const MenuItem& item) {
   if (dynamic_cast<const QuitMenuItem*>(&item) != nullptr) return QAction::QuitRole;

@@ -15,7 +15,7 @@ inline constexpr bool kOneMenuBarOnScreen = true;
 inline constexpr bool kOneMenuBarOnScreen = false;
 #endif
 
-// The text of a menu or of an entry, with the first letter that none before it has as its mnemonic.
+// The text of a menu or of an entry, with its first free letter as the mnemonic.
 QString WithMnemonic(const QString& title, QString& letters_in_use);
 
 // Fills an empty bar with the menus to be drawn of a tree. The items' state is fetched each time

@@ -16,7 +16,7 @@ constexpr std::array kFolders{".", VAMO_RESOURCES_FROM_PROGRAM, "../Resources"};
 bool complained = false;
 QtMessageHandler usual_handler = nullptr;
 
-// Keeps the decoders' warnings to itself; whatever else is said meanwhile goes its usual way.
+// Keeps the decoders' warnings to itself; whatever else is said meanwhile is passed on.
 void NoteComplaint(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   constexpr std::string_view kDecoders = "qt.gui.imageio";
   const std::string_view category = context.category == nullptr ? "" : context.category;

@@ -1,4 +1,4 @@
-// The voice of the program.
+// Announcements to screen readers.
 #ifndef VAMO_DISPLAYS_QT_SPEAKER_H_
 #define VAMO_DISPLAYS_QT_SPEAKER_H_
 

@@ -6,13 +6,13 @@
 
 namespace vamo {
 
-// Fusion, but for what it outlines too faintly to be told from a white window: text fields, sliders
-// and buttons. What has the keys is outlined in the colour of a selection.
+// Fusion, but for what it outlines too faintly to be distinguished from a white window: text
+// fields, sliders and buttons. What has the keys is outlined in the colour of a selection.
 class OutlinedStyle : public QProxyStyle {
  public:
   OutlinedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
-  // Draws everything so many times larger.
+  // Scales everything that is drawn.
   void SetFactor(double factor) { factor_ = factor; }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option,

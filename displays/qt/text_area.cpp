@@ -2,7 +2,6 @@
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QTextBlock>
 #include <QTextCursor>
 
 #include "displays/qt/convert.h"
@@ -82,8 +81,8 @@ void AreaWidget::ShowColours() {
 void AreaWidget::ShowSelection() {
   const auto [anchor, caret] = TheControl().Selection();
   QTextCursor cursor = textCursor();
-  const int from = Utf16Position(TheControl().Text(), anchor);
-  const int to = Utf16Position(TheControl().Text(), caret);
+  const int from = ToQtPosition(TheControl().Text(), anchor);
+  const int to = ToQtPosition(TheControl().Text(), caret);
   if (cursor.anchor() == from && cursor.position() == to) return;
   cursor.setPosition(from);
   cursor.setPosition(to, QTextCursor::KeepAnchor);
@@ -93,8 +92,8 @@ void AreaWidget::ShowSelection() {
 void AreaWidget::ReportSelection() {
   const QTextCursor cursor = textCursor();
   TextArea& area = TheControl();
-  area.UserSelected(ByteOffsetOf(area.Text(), cursor.anchor()),
-                    ByteOffsetOf(area.Text(), cursor.position()));
+  area.UserSelected(ToByteOffset(area.Text(), cursor.anchor()),
+                    ToByteOffset(area.Text(), cursor.position()));
 }
 
 bool AreaWidget::event(QEvent* event) {

@@ -1,4 +1,4 @@
-// What the text field and the text area do alike with keys and menus.
+// What the text field and the text area share in handling keys and menus.
 #ifndef VAMO_DISPLAYS_QT_TEXT_COMMANDS_H_
 #define VAMO_DISPLAYS_QT_TEXT_COMMANDS_H_
 
@@ -15,7 +15,7 @@ namespace vamo {
 // Whether a key, as the platform understands it, moves the caret or selects, and changes no text.
 bool IsCaretKey(const QKeyEvent& event);
 
-// Does what a key asks for where the platform has it for Undo, Cut, Copy or Paste. Whether it has.
+// Runs the Edit command whose key on this platform the event is. Returns whether there is one.
 bool DoEditKey(TextEdit& text, const QKeyEvent& event);
 
 // Opens the menu of a text control at a place on the screen. `select_all` selects the widget's

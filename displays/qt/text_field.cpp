@@ -9,7 +9,9 @@
 #include <QLabel>
 #include <QMimeData>
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
+#include <string>
 
 #include "displays/qt/convert.h"
 #include "displays/qt/text_commands.h"
@@ -88,7 +90,7 @@ void FieldWidget::Edit(const QString& after) {
   const QString before = text();
   const qsizetype shorter = std::min(before.size(), after.size());
   // An edit leaves what comes after the caret as it was.
-  const int caret = Utf16Position(TheControl().Text(), TheControl().Selection().caret);
+  const int caret = ToQtPosition(TheControl().Text(), TheControl().Selection().caret);
   const qsizetype after_caret = std::min(shorter, after.size() - caret);
   qsizetype tail = 0;
   while (tail < after_caret && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
@@ -129,8 +131,8 @@ void FieldWidget::ShowCaption() {
 
 void FieldWidget::ShowSelection() {
   const auto [anchor, caret] = TheControl().Selection();
-  const int from = Utf16Position(TheControl().Text(), anchor);
-  const int to = Utf16Position(TheControl().Text(), caret);
+  const int from = ToQtPosition(TheControl().Text(), anchor);
+  const int to = ToQtPosition(TheControl().Text(), caret);
   const bool shown = cursorPosition() == to && selectionLength() == std::abs(to - from);
   if (shown) return;
   if (from == to) {
@@ -145,7 +147,7 @@ void FieldWidget::ReportSelection() {
   int anchor = caret;
   if (hasSelectedText()) anchor = selectionStart() == caret ? selectionEnd() : selectionStart();
   TextField& field = TheControl();
-  field.UserSelected(ByteOffsetOf(field.Text(), anchor), ByteOffsetOf(field.Text(), caret));
+  field.UserSelected(ToByteOffset(field.Text(), anchor), ToByteOffset(field.Text(), caret));
 }
 
 void FieldWidget::ReportPaste(const QString& pasted) {

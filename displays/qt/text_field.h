@@ -2,7 +2,6 @@
 #define VAMO_DISPLAYS_QT_TEXT_FIELD_H_
 
 #include <QLineEdit>
-#include <string_view>
 
 #include "displays/qt/control.h"
 #include "toolkit/text/text_field.h"

@@ -9,7 +9,7 @@
 
 namespace vamo {
 
-// Whether QApplication::beep is heard: under Wayland, say, it does nothing.
+// Whether QApplication::beep is heard: under Wayland, for example, it does nothing.
 bool PlatformSoundsAlerts();
 
 // Lets one widget at a time light up for a moment. One that is alerted again while it is lit stays

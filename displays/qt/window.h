@@ -30,7 +30,7 @@ class WindowWidget : public QWidget {
 
   // How many times larger than designed the window is.
   double Factor() const { return zoom_.Factor(); }
-  // Takes on a factor that has changed.
+  // Applies a changed factor.
   void Rescale();
   // How large the window would be with another factor.
   QSize SizeAt(double factor) const;
@@ -38,7 +38,7 @@ class WindowWidget : public QWidget {
   bool TakeZoomKey(const QKeyEvent& event) { return zoom_.TakeKey(event); }
 
   ContentWidget& Content() { return *content_; }
-  // Takes in a new widget of a control, whose parent is the content.
+  // Adds a control's new widget, whose parent is the content.
   void Add(ControlWidget& widget);
   void BringToFront();
   void TakeAway();
@@ -69,7 +69,7 @@ class WindowWidget : public QWidget {
 // The program's windows, hidden ones and those that go at the end of an event among them.
 std::vector<WindowWidget*> AllWindows();
 
-// A window's end of its widget, which it owns.
+// The view through which a window reaches its widget, which it owns.
 class QtWindowView : public WindowView {
  public:
   QtWindowView(Window& window, Activation& activation, Zoom& zoom);

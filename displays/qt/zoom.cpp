@@ -65,9 +65,9 @@ bool Zoom::TakeKey(const QKeyEvent& event) {
 }
 
 void Zoom::Step(bool up) {
-  const auto* present = std::find(kFactors.begin(), kFactors.end(), factor_);
+  const auto present = std::find(kFactors.begin(), kFactors.end(), factor_);
   if (!up && present != kFactors.begin()) Set(*(present - 1));
-  const auto* larger = present + 1;
+  const auto larger = present + 1;
   if (up && larger != kFactors.end() && FitsTheScreen(*larger)) Set(*larger);
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "toolkit/object/class_info.h"
 #include "toolkit/object/object.h"
@@ -55,7 +56,7 @@ class Control : public Object, public _PaneChild {
 };
 
 // A control with a rectangle on the window. It holds what all visible controls have in common; what
-// a key or the mouse does to it is its subclasses' matter.
+// a key or the mouse does to it is up to its subclasses.
 class RectControl : public Control {
  public:
   static const ClassInfo kClass;
@@ -97,7 +98,7 @@ class RectControl : public Control {
   // Called once by the window: makes the control's part on the display, by the one call of
   // `window_view` that is for controls of this class.
   void Open(WindowView& window_view) { view_ = MakeView(window_view); }
-  // Has `changed` called, too, after each change of something that is shown.
+  // Calls `changed`, too, after each change of something that is shown. One observer at most.
   void SetObserver(std::function<void()> changed) { observer_ = std::move(changed); }
   // Gives up the part on the display and the observer.
   void TakeOffDisplay();

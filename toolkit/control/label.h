@@ -9,8 +9,8 @@
 
 namespace vamo {
 
-// A text that the user can read and not change. A text that is wider than the label is the
-// display's matter: it draws it narrower, never cut off.
+// A text that the user can read and not change. A text that is wider than the label is left to
+// the display, which draws it narrower, never cut off.
 class Label : public TextControl {
  public:
   static const ClassInfo kClass;

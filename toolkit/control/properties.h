@@ -11,7 +11,7 @@
 
 namespace vamo {
 
-// A timer's and a window's, whose numbers are theirs to know.
+// Defined with the timer and the window.
 enum class RunMode : std::int64_t;
 enum class WindowType : std::int64_t;
 

@@ -24,7 +24,7 @@ class PushButton : public TextControl {
   // True: the handler has dealt with the press. False: the button goes on as buttons do.
   Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)> MouseDown;
 
-  // The mouse has gone down at that place of the button. Tells what MouseDown said. A disabled
+  // The mouse has gone down at that place of the button. Returns MouseDown's answer. A disabled
   // button raises nothing.
   bool UserPressed(std::int64_t x, std::int64_t y);
   // Assistive technology has pressed the button: as the mouse at its centre.

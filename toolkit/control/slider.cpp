@@ -78,7 +78,7 @@ bool Slider::TakeKey(const Key& key) {
   }
 }
 
-// A stream may set any step, so this is reckoned where nothing overflows.
+// A stream may set any step, so this is computed in doubles, which do not overflow.
 void Slider::MoveBy(std::int64_t times, std::int64_t step) {
   const double way = static_cast<double>(times) * static_cast<double>(step);
   UserMovedTo(Truncate(static_cast<double>(Value()) + way));

@@ -22,7 +22,7 @@ class Slider : public RectControl {
   std::int64_t MaximumValue() const { return maximum_; }
   std::int64_t LineStep() const { return line_step_; }
   std::int64_t PageStep() const { return page_step_; }
-  // What assistive technology reads a position as: a number of which so many positions make one.
+  // What assistive technology reads for a position: position / positions.
   void SetPositionsPerUnit(std::int64_t positions) { positions_per_unit_ = positions; }
   double InUnits(std::int64_t position) const {
     return static_cast<double>(position) / static_cast<double>(positions_per_unit_);
@@ -35,7 +35,7 @@ class Slider : public RectControl {
   void UserMovedTo(std::int64_t position);
   // Assistive technology has set a value, in its own unit: the nearest position.
   void UserSetByAssistiveTechnology(double value);
-  // The user has turned the wheel by so many notches, away from the user counted as positive.
+  // The user has turned the wheel by `notches`, positive away from the user.
   void UserTurnedWheel(std::int64_t notches);
 
   // Arrow keys move by LineStep, Page keys by PageStep, Home and End to the ends.

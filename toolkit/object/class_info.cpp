@@ -1,4 +1,3 @@
-// The look-up of a property in the table of a class.
 #include "toolkit/object/class_info.h"
 
 #include <algorithm>

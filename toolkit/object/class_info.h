@@ -2,6 +2,7 @@
 #ifndef VAMO_TOOLKIT_OBJECT_CLASS_INFO_H_
 #define VAMO_TOOLKIT_OBJECT_CLASS_INFO_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -99,7 +100,7 @@ constexpr Property Sets(const PropertyName<T>& name) {
   });
 }
 
-// One that is written to a member of the struct that a member is.
+// A property kept in a field of a struct member.
 template <auto kStruct, auto kMember, class T>
 constexpr Property Sets(const PropertyName<T>& name) {
   static_assert(std::is_same_v<T, internal::TypeOf<kMember>>);

@@ -16,7 +16,7 @@
 
 namespace vamo {
 
-// The name that a type bears in a delegate's signature: of a reference that of its class.
+// A type's name in a delegate's signature; for a reference, the name of its class.
 template <class T>
 struct TypeText {
   static std::string_view Get() { return T::Target::kClass.name; }
@@ -40,8 +40,8 @@ enum class ReceiverFlag { kStrong = 0, kWeak = 1 };
 template <class Signature>
 class Delegate;
 
-// A function that is called later, with its receiver if it has one. It does not say when: an event,
-// a menu or start-up calls it.
+// A function that is called later, with its receiver if it has one. Its owner decides when: an
+// event, a menu or start-up.
 template <class Result, class... Arguments>
 class Delegate<Result(Arguments...)> {
  public:

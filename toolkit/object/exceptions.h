@@ -11,8 +11,8 @@
 
 namespace vamo {
 
-// The root of all exceptions of the toolkit. It carries what went wrong; it does not say it to
-// anybody.
+// The root of all exceptions of the toolkit. It carries what went wrong; it reports
+// nothing.
 class RuntimeException : public std::exception {
  public:
   RuntimeException() = default;
@@ -43,7 +43,7 @@ struct ExceptionName {
   char text[kSize];
 };
 
-// One class of exception, told apart by its name. It adds nothing to its base.
+// One class of exception, distinguished by its name. It adds nothing to its base.
 template <ExceptionName kName>
 class NamedException : public RuntimeException {
  public:

@@ -1,4 +1,3 @@
-// The name of an object's class, for messages.
 #include "toolkit/object/object.h"
 
 #include "toolkit/object/class_info.h"

@@ -1,6 +1,7 @@
 // The reader of property streams.
 #include "toolkit/object/property_stream.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 

@@ -33,15 +33,14 @@ struct PropertyStream {
 // past the end; what was set before stays set.
 void _SetProperties(Object& object, PropertyStream stream);
 
-// The same bytes as another type of the same size. The compilers have it where a standard library
-// has not yet.
+// std::bit_cast, which libc++ 13 does not have yet. The compilers have what it is made of.
 template <class To, class From>
 constexpr To BitCast(const From& from) {
   return __builtin_bit_cast(To, from);
 }
 
 // A stream that is written when the program is compiled, entry by entry, with room for `kRoom`
-// bytes of entries. What has no room does not compile, or raises std::out_of_range at run time.
+// bytes of entries. What does not fit does not compile, or raises std::out_of_range at run time.
 template <std::size_t kRoom>
 class EncodedStream {
  public:

@@ -3,6 +3,7 @@
 #define VAMO_TOOLKIT_RUNTIME_KEY_H_
 
 #include <string>
+#include <utility>
 
 namespace vamo {
 

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string_view>
 #include <thread>
+#include <typeindex>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -27,15 +28,15 @@ class FileType;
 class Window;
 
 // Calls a function and gives back the RuntimeException that it raised, or null; anything else that
-// it raises goes on to the caller.
+// it raises propagates to the caller.
 using ExceptionHelper = std::function<std::exception_ptr(const std::function<void()>&)>;
 
 // The helper that the run time has from the start, and that start-up hands to it.
 std::exception_ptr _CallFunctionWithExceptionHandling(const std::function<void()>& function);
 
 // All process-wide state: the display, the application object, the live windows, the module-level
-// fields, the exit code. One object with one owner; while it lives, `Current` finds it, or a later
-// one that lives within its life. It knows nothing of what the program does.
+// fields, the exit code. One object with one owner; while it lives, `Current` finds it, or the
+// innermost of nested ones. It knows nothing of what the program does.
 class Runtime {
  public:
   explicit Runtime(std::unique_ptr<vamo::Display> display);
@@ -68,12 +69,11 @@ class Runtime {
   void SetActiveWindow(Ref<Window> window) { active_window_ = std::move(window); }
 
   // The module-level fields that the struct `Fields` declares, default-constructed at their first
-  // use and gone with the run time. The struct's name must be the only one of its kind in the
-  // program, and not of a single file: compilers have taken templates over types of one name that
-  // are local to different files for one.
+  // use and gone with the run time. They are told apart by the struct's name, which must be the
+  // only one of its kind in the program, and so not local to a file.
   template <class Fields>
   Fields& ModuleFields() {
-    std::any& fields = module_fields_[&module_key_<Fields>];
+    std::any& fields = module_fields_[typeid(Fields)];
     if (!fields.has_value()) fields.emplace<Fields>();
     return *std::any_cast<Fields>(&fields);
   }
@@ -110,16 +110,12 @@ class Runtime {
  private:
   void TakeException(const std::exception_ptr& exception);
 
-  // Its address tells the structs apart.
-  template <class Fields>
-  inline static char module_key_ = 0;
-
   static Runtime* current_;
 
   Runtime* const outer_ = std::exchange(current_, this);
   const std::unique_ptr<vamo::Display> display_;
   const std::thread::id main_thread_ = std::this_thread::get_id();
-  std::unordered_map<const void*, std::any> module_fields_;
+  std::unordered_map<std::type_index, std::any> module_fields_;
   Ref<Application> app_;
   std::vector<Ref<Window>> live_windows_;
   Ref<Window> active_window_;
@@ -132,10 +128,10 @@ class Runtime {
   std::int32_t exit_code_ = 0;
 };
 
-// Gives up a window's part on the display. It is defined where windows are.
+// Destroys a window's view. It is defined where windows are.
 void TakeOffDisplay(Window& window);
 
-// The one application object: enters it, for the rest of the process, and gives it; nil before.
+// The one application object: registers it for the rest of the process, and returns it; nil before.
 void _RuntimeRegisterAppObject(Ref<Application> app);
 Ref<Application> _GetAppObject();
 

@@ -1,4 +1,4 @@
-// The Edit commands, as every menu and every key finds them.
+// The Edit commands, shared by menus and keys.
 #ifndef VAMO_TOOLKIT_TEXT_EDIT_COMMANDS_H_
 #define VAMO_TOOLKIT_TEXT_EDIT_COMMANDS_H_
 
@@ -15,7 +15,7 @@ struct EditCommand {
   EditAction action;
   // The name of the menu item that the toolkit serves for the focused text control.
   std::string_view item;
-  // What a menu of the display's own calls it.
+  // Its title in a menu of the display's own.
   std::string_view title;
   bool (TextEdit::*can_act)() const;
   void (TextEdit::*act)();

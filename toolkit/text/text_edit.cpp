@@ -27,7 +27,7 @@ class ScopedFlag {
   const bool before_;
 };
 
-// The text with each line break, of whatever kind, in the same form.
+// The text with every line break, of whatever kind, replaced by `line_break`.
 std::string WithLineBreaksAs(char line_break, std::string_view text) {
   std::string result;
   result.reserve(text.size());

@@ -2,7 +2,6 @@
 #define VAMO_TOOLKIT_TEXT_TEXT_EDIT_H_
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,7 +78,7 @@ class TextEdit : public TextControl {
   };
 
   struct Properties;
-  // Adds the present state to the undo history, within a bound on steps and memory.
+  // Adds the present state to the undo history, which is bounded in steps and memory.
   void Remember();
   void Restore(State state);
 

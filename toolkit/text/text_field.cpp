@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "toolkit/control/properties.h"
 #include "toolkit/runtime/runtime.h"

@@ -10,8 +10,8 @@ namespace vamo {
 
 class Window;
 
-// Whether and when a change of a label is announced: together with others once they have come to
-// rest, or alone in the same moment.
+// Whether and when a change of a label is announced: together with others once changes have
+// ceased, or at once.
 enum class Announced { kNot, kAfterPause, kAtOnce };
 
 // Tells a screen reader which of a window's labels have changed, which it would pass over, since

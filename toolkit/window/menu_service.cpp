@@ -1,6 +1,8 @@
 #include "toolkit/window/menu_service.h"
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "toolkit/runtime/runtime.h"
 #include "toolkit/text/edit_commands.h"

@@ -7,7 +7,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <vector>
 
 #include "toolkit/control/control.h"
@@ -151,7 +150,8 @@ class Window : public Object {
   std::vector<Ref<RectControl>> Controls() const;
   // The control in which another one lies, or nil where that lies on the window itself.
   Ref<RectControl> ParentOf(const RectControl& control) const {
-    return ControlNamed<RectControl>(control.InitialParent());
+    const std::string& name = control.InitialParent();
+    return name.empty() ? nullptr : ControlNamed<RectControl>(name);
   }
   // The control that has the keys while the window is active, or nil.
   const Ref<RectControl>& Focus() const { return focus_; }
@@ -166,11 +166,11 @@ class Window : public Object {
   void UserAskedToClose();
   // A key. True: it has been dealt with. False: the display may do what its platform does with it.
   bool UserPressedKey(const Key& key);
-  // Text that came as a whole, from an input method say: taken as keys, one by one.
+  // Text that came as a whole, for example from an input method: taken as keys, one by one.
   void UserTyped(std::string_view text);
   // The mouse has gone down, on no enabled control that takes it. Window coordinates.
   void UserPressedMouse(std::int64_t x, std::int64_t y);
-  // The user has brought the focus to a control with the mouse, say.
+  // The user has brought the focus to a control, for example with the mouse.
   void UserFocused(const Ref<RectControl>& control);
 
   // The events. A class implements one by overriding it; else the toolkit's default stands, which
@@ -214,7 +214,7 @@ class Window : public Object {
   std::unique_ptr<WindowView> view_;
 };
 
-// The live window whose class bears that name, hidden or not; nil where there is none.
+// The live window whose class has that name, hidden or not; nil where there is none.
 Ref<Window> _GetImplicitWindow(std::string_view class_name);
 
 // The one live window of a class, which is made when there is none.

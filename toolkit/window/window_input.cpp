@@ -1,5 +1,10 @@
 // What a window does with what the user does: activation, keys, presses, focus.
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "toolkit/control/push_button.h"
 #include "toolkit/runtime/runtime.h"

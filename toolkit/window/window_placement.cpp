@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <vector>
 
 #include "toolkit/runtime/runtime.h"
 #include "toolkit/window/window.h"
@@ -6,7 +7,7 @@
 namespace vamo {
 namespace {
 
-// The first live window of which that is true, or nil.
+// The first live window that matches, or nil.
 template <class Predicate>
 Ref<Window> FirstLive(Predicate matches) {
   const std::vector<Ref<Window>>& windows = Runtime::Current().LiveWindows();
