@@ -4,10 +4,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <memory>
 #include <stdexcept>
 #include <thread>
-
-#include "x_tools.h"
 
 namespace vamo {
 namespace {
@@ -19,10 +18,10 @@ void MoveMouse(int x, int y) { Xdotool({"mousemove", std::to_string(x), std::to_
 
 }  // namespace
 
-OutsideUser::OutsideUser(Child& program, XScreen& screen, Ears& ears)
-    : program_(program), screen_(screen), ears_(ears) {
+OutsideUser::OutsideUser(Child& program, Desktop& desktop, Ears& ears)
+    : program_(program), desktop_(desktop), ears_(ears) {
   const bool shown =
-      Await([&] { return !screen_.WindowsOf(program_.id()).empty() || !program_.Running(); }, 30s);
+      Await([&] { return !desktop_.WindowsOf(program_.id()).empty() || !program_.Running(); }, 30s);
   now_ = std::chrono::steady_clock::now();
   if (!shown || !program_.Running()) throw std::runtime_error("the program shows no window");
   AwaitRest();
@@ -34,11 +33,14 @@ void OutsideUser::TypePrintable(std::string_view text) {
   Xdotool({"type", "--delay", "1", "--", std::string(text)});
 }
 
-// A logical pixel of the program may be several of the screen.
+// A logical pixel of the program may be several of the screen, and on Wayland no program knows
+// where its windows are.
 void OutsideUser::MoveTo(int x, int y) {
-  const double width = Frame().Extents().width;
-  const double scale = std::round(WindowTitled(ActiveTitle()).width / width);
-  MoveMouse(static_cast<int>(scale * x), static_cast<int>(scale * y));
+  const Element::Place content = Frame().Extents();
+  const WindowOnScreen window = WindowTitled(ActiveTitle());
+  const double scale = std::round(window.width / static_cast<double>(content.width));
+  MoveMouse(window.x + static_cast<int>(scale * (x - content.x)),
+            window.y + static_cast<int>(scale * (y - content.y)));
 }
 
 void OutsideUser::PressMouse() { Xdotool({"mousedown", "1"}); }
@@ -49,13 +51,13 @@ void OutsideUser::Scroll(int notches) {
   Xdotool({"click", "--repeat", std::to_string(std::abs(notches)), notches > 0 ? "4" : "5"});
 }
 
-void OutsideUser::SetClipboard(std::string_view text) { Offer("clipboard", text); }
+void OutsideUser::SetClipboard(std::string_view text) { desktop_.Offer("clipboard", text); }
 
-std::string OutsideUser::Clipboard() { return Offered("clipboard"); }
+std::string OutsideUser::Clipboard() { return desktop_.Offered("clipboard"); }
 
 void OutsideUser::PasteSelection(Role role, std::string_view name, std::string_view text) {
   Click(role, name);
-  Offer("primary", text);
+  desktop_.Offer("primary", text);
   Act([] { Xdotool({"click", "2"}); });
 }
 
@@ -73,14 +75,14 @@ void OutsideUser::ClickCloseButton(std::string_view title) {
 }
 
 void OutsideUser::MoveWindow(std::string_view title, int x, int y) {
-  const std::string id = std::to_string(WindowTitled(title).id);
-  Act([&] { Xdotool({"windowmove", "--sync", id, std::to_string(x), std::to_string(y)}); });
+  const unsigned long id = WindowTitled(title).id;
+  Act([&] { desktop_.Move(id, x, y); });
 }
 
 void OutsideUser::ActivateWindow(std::string_view title) {
   if (ActiveTitle() == title) return;
-  const std::string id = std::to_string(WindowTitled(title).id);
-  Act([&] { Xdotool({"windowactivate", id}); });
+  const unsigned long id = WindowTitled(title).id;
+  Act([&] { desktop_.Activate(id); });
   if (!Await([&] { return IsSettled() && ActiveTitle() == title; })) {
     throw std::runtime_error("not to be activated: " + std::string(title));
   }
@@ -95,7 +97,7 @@ void OutsideUser::LetTimePass(std::chrono::milliseconds time) {
 }
 
 WindowOnScreen OutsideUser::WindowTitled(std::string_view title) {
-  for (const WindowOnScreen& window : screen_.WindowsOf(program_.id())) {
+  for (const WindowOnScreen& window : desktop_.WindowsOf(program_.id())) {
     if (window.title == title) return window;
   }
   FailToFind(title);
@@ -118,9 +120,9 @@ std::vector<Element> OutsideUser::Elements() {
 
 // Whether the window manager and assistive technology agree on what is open and active.
 bool OutsideUser::IsSettled() {
-  const std::vector<WindowOnScreen> before = screen_.WindowsOf(program_.id());
+  const std::vector<WindowOnScreen> before = desktop_.WindowsOf(program_.id());
   const auto runs = [this] { return program_.Running(); };
-  if (before.empty() || !screen_.RoundTrip(before.front().id, runs)) return false;
+  if (before.empty() || !desktop_.RoundTrip(before.front().id, runs)) return false;
   try {
     frames_ = ReadFrames();
   } catch (const std::runtime_error&) {
@@ -128,7 +130,7 @@ bool OutsideUser::IsSettled() {
   }
   std::vector<std::string> titles;
   std::optional<std::string> active;
-  for (const WindowOnScreen& window : screen_.WindowsOf(program_.id())) {
+  for (const WindowOnScreen& window : desktop_.WindowsOf(program_.id())) {
     titles.push_back(window.title);
     if (window.active) active = window.title;
   }
@@ -155,7 +157,7 @@ std::string OutsideUser::TellWindows() {
   std::string told = "read out:";
   for (const std::string& title : frames_.titles) told += " '" + title + "'";
   told += ", active '" + frames_.active_title + "'; on the screen:";
-  for (const WindowOnScreen& window : screen_.WindowsOf(program_.id())) {
+  for (const WindowOnScreen& window : desktop_.WindowsOf(program_.id())) {
     told += (window.active ? " active '" : " '") + window.title + "'";
   }
   return told;
@@ -165,10 +167,10 @@ int RunProgramWith(const Environment& settings, const std::function<void(Outside
                    const std::vector<std::string>& command) {
   static const int initialised = atspi_init();
   if (initialised > 1) throw std::runtime_error("there is no accessibility bus");
-  XScreen screen;
+  const std::unique_ptr<Desktop> desktop = OpenDesktop();
   Ears ears;
   Child child(command, settings);
-  OutsideUser user(child, screen, ears);
+  OutsideUser user(child, *desktop, ears);
   journey(user);
   return child.ExitStatus().value_or(kStillRunning);
 }

@@ -11,18 +11,18 @@
 
 #include "at_spi.h"
 #include "child.h"
+#include "desktop.h"
 #include "ears.h"
 #include "screen_user.h"
-#include "x_screen.h"
 
 namespace vamo {
 
-// Works a program by keys and mouse through the X server and reads it as assistive technology does.
+// Works a program by keys and mouse and reads it as assistive technology does.
 // It knows nothing of how the program is made, and does not judge what it sees.
 class OutsideUser final : public ScreenUser<Element> {
  public:
   // Waits until the program shows its first window.
-  OutsideUser(Child& program, XScreen& screen, Ears& ears);
+  OutsideUser(Child& program, Desktop& desktop, Ears& ears);
 
   void SetClipboard(std::string_view text) override;
   void Close(std::string_view title) override;
@@ -30,7 +30,7 @@ class OutsideUser final : public ScreenUser<Element> {
   // Time goes on while the user looks: waits with no act between them count from the last act.
   void LetTimePass(std::chrono::milliseconds time) override;
   std::string Clipboard() override;
-  int Beeps() override { return screen_.Bells(); }
+  int Beeps() override { return desktop_.Bells(); }
   std::vector<std::string> Hears() override { return ears_.Notices(); }
   std::vector<Element> Elements() override;
   bool Running() override { return program_.Running(); }
@@ -44,8 +44,8 @@ class OutsideUser final : public ScreenUser<Element> {
   void MoveWindow(std::string_view title, int x, int y);
   void PasteSelection(Role role, std::string_view name, std::string_view text);
   WindowOnScreen WindowTitled(std::string_view title);
-  int ScreenWidth() const { return screen_.Width(); }
-  int ScreenHeight() const { return screen_.Height(); }
+  int ScreenWidth() const { return desktop_.Width(); }
+  int ScreenHeight() const { return desktop_.Height(); }
   pid_t Process() const { return program_.id(); }
 
  private:
@@ -64,7 +64,7 @@ class OutsideUser final : public ScreenUser<Element> {
   std::string TellWindows();
 
   Child& program_;
-  XScreen& screen_;
+  Desktop& desktop_;
   Ears& ears_;
   std::optional<Element> application_;
   // As they were when the program had come to rest.

@@ -8,8 +8,8 @@
 #include <iterator>
 #include <string>
 
+#include "desktop.h"
 #include "steps.h"
-#include "x_tools.h"
 
 namespace vamo {
 namespace {
@@ -114,7 +114,7 @@ TEST(Faults, ADisplayThatGoesEndsTheProgram) {
 
 TEST(Faults, AClipboardWhoseOwnerHangsDisturbsNobody) {
   Child owner({"xclip", "-quiet", "-selection", "clipboard", "-i", VAMO_CHART}, {});
-  ASSERT_TRUE(Await([] { return !Offered("clipboard").empty(); }));
+  ASSERT_TRUE(Await([] { return !OpenDesktop()->Offered("clipboard").empty(); }));
   kill(owner.id(), SIGSTOP);
   InControlWindow({}, [](OutsideUser& user) {
     ExpectResultsAfterTyping(user);

@@ -5,8 +5,8 @@
 
 #include <cstdlib>
 
+#include "desktop.h"
 #include "steps.h"
-#include "x_tools.h"
 
 namespace vamo {
 namespace {

@@ -1,4 +1,4 @@
-#include "x_screen.h"
+#include "x_desktop.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
@@ -17,9 +17,13 @@ namespace {
 // A window may go at any time between two questions about it.
 int IgnoreError(Display* /*display*/, XErrorEvent* /*error*/) { return 0; }
 
+std::vector<std::string> Xclip(const std::string& selection, const std::string& direction) {
+  return {"xclip", "-selection", selection, "-t", "UTF8_STRING", direction};
+}
+
 }  // namespace
 
-struct XScreen::Parts {
+struct XDesktop::Parts {
   Display* display = nullptr;
   Window root = 0;
   // A window that is never shown, for the window manager's answers.
@@ -103,7 +107,7 @@ struct XScreen::Parts {
   }
 };
 
-XScreen::XScreen() : parts_(std::make_unique<Parts>()) {
+XDesktop::XDesktop() : parts_(std::make_unique<Parts>()) {
   XSetErrorHandler(IgnoreError);
   parts_->display = XOpenDisplay(nullptr);
   if (parts_->display == nullptr) throw std::runtime_error("there is no X server");
@@ -123,9 +127,9 @@ XScreen::XScreen() : parts_(std::make_unique<Parts>()) {
   XSync(parts_->display, False);
 }
 
-XScreen::~XScreen() { XCloseDisplay(parts_->display); }
+XDesktop::~XDesktop() { XCloseDisplay(parts_->display); }
 
-std::vector<WindowOnScreen> XScreen::WindowsOf(pid_t process) {
+std::vector<WindowOnScreen> XDesktop::WindowsOf(pid_t process) {
   std::vector<WindowOnScreen> windows;
   for (const unsigned long window : parts_->Numbers(parts_->root, "_NET_CLIENT_LIST")) {
     const std::vector<unsigned long> owner = parts_->Numbers(window, "_NET_WM_PID");
@@ -135,7 +139,7 @@ std::vector<WindowOnScreen> XScreen::WindowsOf(pid_t process) {
   return windows;
 }
 
-bool XScreen::RoundTrip(unsigned long window, const std::function<bool()>& runs) {
+bool XDesktop::RoundTrip(unsigned long window, const std::function<bool()>& runs) {
   Parts& x = *parts_;
   const auto answered = [&](const auto& has_come) {
     // A window that has gone meanwhile never answers; the caller then asks another.
@@ -162,14 +166,36 @@ bool XScreen::RoundTrip(unsigned long window, const std::function<bool()>& runs)
   return ping_program() && ask_manager() && ping_program();
 }
 
-int XScreen::Bells() {
+void XDesktop::Activate(unsigned long window) {
+  Xdotool({"windowactivate", std::to_string(window)});
+}
+
+void XDesktop::Move(unsigned long window, int x, int y) {
+  Xdotool({"windowmove", "--sync", std::to_string(window), std::to_string(x), std::to_string(y)});
+}
+
+void XDesktop::Offer(const std::string& selection, std::string_view text) {
+  Output(Xclip(selection, "-i"), text);
+  // It goes to the background before the server knows of it.
+  if (!Await([&] { return Offered(selection) == text; })) {
+    throw std::runtime_error("nobody takes the text that is offered");
+  }
+}
+
+std::string XDesktop::Offered(const std::string& selection) {
+  return Output(Xclip(selection, "-o"));
+}
+
+int XDesktop::Bells() {
   parts_->ReadEvents();
   return parts_->bells;
 }
 
-int XScreen::Width() const { return DisplayWidth(parts_->display, DefaultScreen(parts_->display)); }
+int XDesktop::Width() const {
+  return DisplayWidth(parts_->display, DefaultScreen(parts_->display));
+}
 
-int XScreen::Height() const {
+int XDesktop::Height() const {
   return DisplayHeight(parts_->display, DefaultScreen(parts_->display));
 }
 
