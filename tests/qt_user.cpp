@@ -29,7 +29,7 @@ class QtElement {
   std::string RoleName() const {
     static const std::map<QAccessible::Role, std::string> kNames{
         {QAccessible::EditableText, "text"},  {QAccessible::Slider, "slider"},
-        {QAccessible::Button, "push button"}, {QAccessible::StaticText, "label"},
+        {QAccessible::Button, "button"},      {QAccessible::StaticText, "label"},
         {QAccessible::Window, "frame"},       {QAccessible::MenuBar, "menu bar"},
         {QAccessible::MenuItem, "menu item"},
     };

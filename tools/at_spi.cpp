@@ -57,7 +57,11 @@ double Number(AtspiAccessible* accessible, Function function) {
 
 }  // namespace
 
-std::string Element::RoleName() const { return CallForText(atspi_accessible_get_role_name, Get()); }
+// What is a button by now was a push button before at-spi2 2.53.
+std::string Element::RoleName() const {
+  const std::string name = CallForText(atspi_accessible_get_role_name, Get());
+  return name == "push button" ? "button" : name;
+}
 std::string Element::Name() const { return CallForText(atspi_accessible_get_name, Get()); }
 std::string Element::Description() const {
   return CallForText(atspi_accessible_get_description, Get());

@@ -41,7 +41,7 @@ int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int
 std::optional<Role> RoleNamed(std::string_view role_name) {
   static const std::map<std::string_view, Role> kRoles{{"text", Role::kText},
                                                        {"slider", Role::kSlider},
-                                                       {"push button", Role::kButton},
+                                                       {"button", Role::kButton},
                                                        {"label", Role::kLabel}};
   const auto found = kRoles.find(role_name);
   return found == kRoles.end() ? std::nullopt : std::optional(found->second);

@@ -20,7 +20,7 @@ namespace vamo {
 std::string NameOf(const Key& key);
 // Where the middle of a slider's knob is at a position, from the left of its box.
 int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int width);
-// What is read out as text, slider, push button or label, and no other role.
+// What is read out as text, slider, button or label, and no other role.
 std::optional<Role> RoleNamed(std::string_view role_name);
 [[noreturn]] void FailToFind(std::string_view what);
 

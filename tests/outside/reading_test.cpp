@@ -58,7 +58,7 @@ TEST(Reading, TheControlWindow) {
       {"text", "Fisher's z", "", "Fisher's z =", false},
       {"slider", "r", "", "r ="},
       {"slider", "N", "", "N ="},
-      {"push button", "Info", "", ""},
+      {"button", "Info", "", ""},
   };
   std::sort(expected.begin(), expected.end());
   InControlWindow({}, [&](OutsideUser& user) {
