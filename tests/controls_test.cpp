@@ -79,29 +79,25 @@ TEST(PushButtonTest, OnlyAnEnabledButtonAsksItsHandler) {
 TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   TestProgram program;
   const auto log = New<Log>();
-  const Delegate<void(Ref<Timer>)> note(log, &Log::NoteTimer, ReceiverFlag::kStrong);
   const auto window = ImplicitInstance<TestWindow>();
-  window->timer()->Action = note;
-  window->timer()->SetRunMode(RunMode::kSingle);
-  program.user().LetTimePass(1000ms);
-  EXPECT_EQ(log->entries.size(), 0U) << "a period is missing";
-  window->timer()->SetPeriod(100);
-  program.user().LetTimePass(99ms);
-  EXPECT_EQ(log->entries.size(), 0U);
-  program.user().LetTimePass(1000ms);
-  EXPECT_EQ(log->entries.size(), 1U);
-  window->timer()->SetRunMode(RunMode::kMultiple);
-  program.user().LetTimePass(350ms);
-  EXPECT_EQ(log->entries.size(), 4U);
-  window->timer()->Reset();
-  program.user().LetTimePass(99ms);
-  EXPECT_EQ(log->entries.size(), 4U) << "the period has begun anew";
-  program.user().LetTimePass(1ms);
-  EXPECT_EQ(log->entries.size(), 5U);
   const auto timer = window->timer();
+  timer->Action = Delegate<void(Ref<Timer>)>(log, &Log::NoteTimer, ReceiverFlag::kStrong);
+  const auto fired_after = [&](std::chrono::milliseconds time) {
+    program.user().LetTimePass(time);
+    return std::exchange(log->entries, {}).size();
+  };
+  timer->SetRunMode(RunMode::kSingle);
+  EXPECT_EQ(fired_after(1000ms), 0U) << "a period is missing";
+  timer->SetPeriod(100);
+  EXPECT_EQ(fired_after(99ms), 0U);
+  EXPECT_EQ(fired_after(1000ms), 1U);
+  timer->SetRunMode(RunMode::kMultiple);
+  EXPECT_EQ(fired_after(350ms), 3U);
+  timer->Reset();
+  EXPECT_EQ(fired_after(99ms), 0U) << "the period has begun anew";
+  EXPECT_EQ(fired_after(1ms), 1U);
   window->Close();
-  program.user().LetTimePass(1000ms);
-  EXPECT_EQ(log->entries.size(), 5U);
+  EXPECT_EQ(fired_after(1000ms), 0U);
 }
 
 TEST(TimerTest, TheWrapperDoesNotKeepItsWindow) {

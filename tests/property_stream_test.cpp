@@ -8,14 +8,9 @@
 #include <string_view>
 
 #include "test_program.h"
-#include "toolkit/control/canvas.h"
 #include "toolkit/control/label.h"
 #include "toolkit/control/properties.h"
-#include "toolkit/control/rectangle.h"
 #include "toolkit/control/slider.h"
-#include "toolkit/text/text_field.h"
-#include "toolkit/window/timer.h"
-#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -24,36 +19,25 @@ using std::string_literals::operator""s;
 
 std::string Stored(PropertyStream stream) { return {stream.bytes, stream.length + 2}; }
 
-// A stream that holds the entries; it must live as long as what is read from it.
-PropertyStream AsStream(const std::string& bytes) { return {bytes.data(), bytes.size() - 2}; }
-
-std::string EncodedEntries(PropertyStream stream) {
-  const std::string stored = Stored(stream);
-  return stored.substr(1, stored.size() - 2);
-}
-
 TEST(StreamWriterTest, WritesEachTypeAsItIsStored) {
-  EXPECT_EQ(EncodedEntries(EncodedStream<640>()
-                               .Set(property::kLeft, 55)
-                               .Set(property::kTop, -5)
-                               .Set(property::kIndex, INT32_MIN)),
+  const std::string stored = Stored(EncodedStream<640>()
+                                        .Set(property::kLeft, 55)
+                                        .Set(property::kTop, -5)
+                                        .Set(property::kFontSize, 12.0F)
+                                        .Set(property::kBorderThickness, 1.0)
+                                        .Set(property::kFillColor, Colour{0x80, 0x01, 0x02})
+                                        .Set(property::kVisible, true)
+                                        .Set(property::kName, "rEdit")
+                                        .Set(property::kTooltip, ""));
+  EXPECT_EQ(stored.substr(1),
             "Left \x37\0\0\0\0\0\0\0"
             "Top \xFB\xFF\xFF\xFF\xFF\xFF\xFF\xFF"
-            "Index \0\0\0\x80\xFF\xFF\xFF\xFF"s);
-  EXPECT_EQ(EncodedEntries(EncodedStream<640>()
-                               .Set(property::kFontSize, 12.0F)
-                               .Set(property::kBorderThickness, 1.0)
-                               .Set(property::kFillColor, Colour{0x80, 0x01, 0x02})),
             "FontSize \0\0\x40\x41"
             "BorderThickness \0\0\0\0\0\0\xF0\x3F"
-            "FillColor \x80\x01\x02\0"s);
-  EXPECT_EQ(EncodedEntries(EncodedStream<640>()
-                               .Set(property::kVisible, true)
-                               .Set(property::kName, "rEdit")
-                               .Set(property::kTooltip, "")),
+            "FillColor \x80\x01\x02\0"
             "Visible \x01"
             "Name \x05\0\0\0rEdit"
-            "Tooltip \0\0\0\0"s);
+            "Tooltip \0\0\0\0\0"s);
 }
 
 TEST(StreamWriterTest, TheLengthByteHoldsShortLengthsOnly) {
@@ -81,20 +65,15 @@ TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
   _SetProperties(*label, EncodedStream<640>()
                              .Set(property::kIndex, INT32_MIN)
                              .Set(property::kValue, "t =")
+                             .Set(property::kFontSize, 8.0F)
                              .Set(property::kFontSize, 9.0F)
                              .Set(property::kTextColor, Colour{0xFF, 0x80, 0})
                              .Set(property::kVisible, false));
   EXPECT_EQ(label->_Index(), INT32_MIN);
   EXPECT_EQ(label->Text(), "t =");
-  EXPECT_EQ(label->Font().size, 9.0F);
+  EXPECT_EQ(label->Font().size, 9.0F) << "the later one stands";
   EXPECT_EQ(label->TextColour(), (Colour{0xFF, 0x80, 0}));
   EXPECT_FALSE(label->Visible());
-
-  const auto rectangle = New<Rectangle>();
-  _SetProperties(*rectangle, EncodedStream<640>()
-                                 .Set(property::kBorderThickness, 2.5)
-                                 .Set(property::kBorderThickness, 2.0));
-  EXPECT_EQ(rectangle->BorderThickness(), 2.0) << "the later one stands";
 }
 
 TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {
@@ -105,7 +84,6 @@ TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {
   const Case kCases[] = {
       {top + "Nonsense \x01"s, "\"Nonsense\"", "offset 12"},
       {top + "Left \x01\0\0"s, "\"Left\"", "offset 12"},
-      {top + "Tooltip \x05\0\0\0ab"s, "\"Tooltip\"", "offset 12"},
       {top + "Tooltip \xFF\xFF\xFF\xFF"s, "\"Tooltip\"", "offset 12"},
       {top + "Visib"s, "\"Visib\"", "offset 12"},
       {"Visible ", "\"Visible\"", "offset 0"},
@@ -116,7 +94,7 @@ TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {
     std::string stream(1, '\xFF');
     (stream += test.entries) += '\0';
     try {
-      _SetProperties(*label, AsStream(stream));
+      _SetProperties(*label, {stream.data(), stream.size() - 2});
       ADD_FAILURE() << test.named;
     } catch (const InvalidArgumentException& exception) {
       EXPECT_NE(exception.Message().find(test.named), std::string::npos) << exception.Message();
