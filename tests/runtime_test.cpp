@@ -1,7 +1,6 @@
-// The run time: its guard against threads, and the exceptions that leave an event.
+// The guard against threads, and who is asked about an exception that leaves an event.
 #include <gtest/gtest.h>
 
-#include <stdexcept>
 #include <string>
 #include <thread>
 
@@ -86,42 +85,20 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   EXPECT_EQ(program.runtime().LiveWindows().size(), 1U);
 }
 
-class EventTest : public testing::Test {
- protected:
-  EventTest() {
-    program_.runtime().RegisterApp(app_);
-    slider_->ValueChanged =
-        Delegate<void(Ref<Slider>)>(New<Log>(), &Log::Fail, ReceiverFlag::kStrong);
-  }
-  TestProgram program_;
-  Ref<TestApplication> app_ = New<TestApplication>();
-  Ref<Slider> slider_ = New<Slider>();
-};
-
-TEST_F(EventTest, AnUnhandledExceptionEndsTheProgramWithOneLineAndStatusOne) {
-  slider_->UserMovedTo(1);
-  slider_->UserMovedTo(2);
-  EXPECT_TRUE(program_.display().Running()) << "the end exceptions end the event alone";
-  EXPECT_EQ(app_->taken, "");
-  testing::internal::CaptureStderr();
-  slider_->UserMovedTo(3);
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "vamo: KeyNotFoundException: the third\n");
-  EXPECT_EQ(app_->taken, "the third");
-  EXPECT_FALSE(program_.display().Running());
-  Quit(0);
-  EXPECT_EQ(program_.runtime().ExitCode(), 1) << "the first exit code stands";
-}
-
-TEST_F(EventTest, TheApplicationCanTakeAnException) {
-  app_->takes = true;
-  slider_->UserMovedTo(3);
-  EXPECT_TRUE(program_.display().Running());
-}
-
-TEST_F(EventTest, WhatIsNoneOfOursIsRaisedAgainOutOfTheLoop) {
-  slider_->UserMovedTo(4);
-  EXPECT_FALSE(program_.display().Running());
-  EXPECT_THROW(program_.runtime().Run(), std::logic_error);
+TEST(EventTest, AnEndExceptionEndsTheEventAloneAndTheApplicationCanTakeTheOthers) {
+  TestProgram program;
+  const auto app = New<TestApplication>();
+  app->takes = true;
+  program.runtime().RegisterApp(app);
+  const auto raise = [&](const auto& exception) {
+    program.runtime().Dispatch([&] { throw exception; });
+  };
+  raise(EndException());
+  raise(ThreadEndException());
+  EXPECT_EQ(app->taken, "");
+  raise(KeyNotFoundException("the third"));
+  EXPECT_EQ(app->taken, "the third");
+  EXPECT_TRUE(program.display().Running());
 }
 
 }  // namespace

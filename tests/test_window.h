@@ -2,6 +2,7 @@
 #ifndef VAMO_TESTS_TEST_WINDOW_H_
 #define VAMO_TESTS_TEST_WINDOW_H_
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,15 +29,13 @@ struct Log : Object {
   }
   void Note(Ref<Slider> slider) { entries.push_back(std::to_string(slider->Value())); }
   void NoteTimer(Ref<Timer> /*timer*/) { entries.push_back("timer"); }
-  // Raises what the slider's position stands for.
-  void Fail(Ref<Slider> slider);
   std::vector<std::string> entries;
 };
 
 // With a control of each kind that takes input, each named as its class.
 class TestWindow : public Window {
  public:
-  static const ClassInfo kClass;
+  static inline const ClassInfo kClass{"TestWindow.TestWindow", &Window::kClass, {}};
   const ClassInfo* Class() const override { return &kClass; }
 
   void CreateControls() override {
@@ -47,6 +46,11 @@ class TestWindow : public Window {
   }
   void Event_Activate() override { ++activations; }
   void Event_EnableMenuItems() override { ++enablings; }
+  void Event_Close() override { ++ends; }
+  bool Event_KeyDown(std::string /*key*/) override {
+    if (at_key != nullptr) at_key();
+    return false;
+  }
 
   Ref<Slider> slider() { return ControlNamed<Slider>("slider"); }
   Ref<TextField> field() { return ControlNamed<TextField>("field"); }
@@ -56,6 +60,8 @@ class TestWindow : public Window {
 
   int activations = 0;
   int enablings = 0;
+  int ends = 0;
+  std::function<void()> at_key;
 
  private:
   template <class C>
@@ -64,6 +70,7 @@ class TestWindow : public Window {
     control->SetAccessibleName(name);
   }
 };
+
 class TestApplication : public Application {
  public:
   bool Event_UnhandledException(const RuntimeException& exception) override {

@@ -6,12 +6,10 @@
 namespace vamo {
 namespace {
 
-class OtherWindow : public Window {
- public:
-  static const ClassInfo kClass;
-  const ClassInfo* Class() const override { return &TestWindow::kClass; }
+// Bears a name that another class has.
+struct OtherWindow : Window {
+  static constexpr const ClassInfo& kClass = TestWindow::kClass;
 };
-const ClassInfo OtherWindow::kClass{"TestWindow.TestWindow", &Window::kClass, {}};
 
 TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   TestProgram program;
@@ -25,6 +23,9 @@ TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   window->Close();
   EXPECT_FALSE(program.runtime().ActiveWindow());
   window->Show();
+  window->Close();
+  EXPECT_EQ(window->ends, 1);
+  EXPECT_FALSE(window->Visible());
   EXPECT_TRUE(program.user().Windows().empty()) << "a closed window does not come back";
   EXPECT_FALSE(ImplicitInstance<TestWindow>() == window);
 }
@@ -40,6 +41,21 @@ TEST(WindowTest, AWindowThatIsHeldPastTheEndHasNothingOnTheDisplay) {
   held->Hide();
   held->field()->SetText("nobody shows it");
   EXPECT_EQ(&Runtime::Current(), &outer.runtime()) << "the former run time is the current one";
+}
+
+TEST(WindowTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
+  TestProgram program;
+  for (const char* text : {"x", "several"}) {
+    int keys = 0;
+    // Nobody else holds it.
+    ImplicitInstance<TestWindow>()->at_key = [&] {
+      ++keys;
+      program.runtime().ActiveWindow()->Close();
+    };
+    program.user().Type(text);
+    EXPECT_EQ(keys, 1) << "the rest has no window to go to";
+  }
+  EXPECT_TRUE(program.runtime().LiveWindows().empty());
 }
 
 TEST(WindowTest, ActivationIsRaisedWhenTheWindowBecomesTheActiveOne) {

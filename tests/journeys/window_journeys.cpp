@@ -62,12 +62,25 @@ TEST(WindowJourney, InfoIsOneWindowThatCanBeReopened) {
     user.PressByAssistiveTechnology("Info");
     EXPECT_EQ(user.Windows(), (std::vector<std::string>{"Info", "Vamo"}));
     EXPECT_EQ(user.ActiveTitle(), "Info");
-    EXPECT_TRUE(user.CanChoose("Edit/Copy"));
     user.Close("Info");
     EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
     user.ActivateWindow("Vamo");
     user.Click(Role::kButton, "Info");
     EXPECT_EQ(user.Windows(), (std::vector<std::string>{"Info", "Vamo"}));
+  });
+}
+
+TEST(WindowJourney, TheMenusOfferWhatTheWindowInFrontAllows) {
+  InControlWindow([](User& user) {
+    for (const char* item : {"File/Quit", "Window/About Vamo", "Help/About Vamo"}) {
+      EXPECT_TRUE(user.CanChoose(item)) << item;
+    }
+    EXPECT_FALSE(user.CanChoose("Window/Control"));
+    EXPECT_FALSE(user.CanChoose("Edit/Copy")) << "nothing is selected";
+    user.Click(Role::kButton, "Info");
+    EXPECT_TRUE(user.CanChoose("Edit/Copy"));
+    EXPECT_FALSE(user.CanChoose("Edit/Paste"));
+    EXPECT_FALSE(user.CanChoose("Window/About Vamo"));
   });
 }
 
