@@ -72,6 +72,9 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
     EXPECT_EQ(slider->valueInterface()->currentValue(), .57);
     slider->valueInterface()->setCurrentValue(1000);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".990");
+    auto* other = QAccessible::queryAccessibleInterface(&Named<QSlider>("N"));
+    other->valueInterface()->setCurrentValue(30);
+    EXPECT_EQ(user.Sees(Role::kText, "N").text, "30");
     // Whatever way a position gets into the widget, the program hears of it.
     Named<QSlider>("r").setValue(7);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".070");
@@ -82,10 +85,8 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
 class FleetingWindow : public Window {
  public:
   void Layout() override {
-    _SetProperties(*this, EncodedStream<640>()
-                              .Set(property::kWidth, 200)
-                              .Set(property::kHeight, 100)
-                              .Set(property::kTitle, "Fleeting"));
+    _SetProperties(*this,
+                   EncodedStream<640>().Set(property::kWidth, 200).Set(property::kHeight, 100));
   }
   void CreateControls() override { _AddControl("field", __New<TextField>()); }
   bool Event_KeyDown(std::string /*key*/) override {

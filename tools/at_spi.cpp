@@ -137,15 +137,6 @@ void Element::Do(std::string_view wanted) const {
   throw std::runtime_error("it has no such action");
 }
 
-void Element::Set(const std::string& content) const {
-  if (const Held<AtspiEditableText> text{atspi_accessible_get_editable_text_iface(Get())}) {
-    if (Call(atspi_editable_text_set_text_contents, text.get(), content.c_str())) return;
-  } else if (const Held<AtspiValue> value{atspi_accessible_get_value_iface(Get())}) {
-    if (Call(atspi_value_set_current_value, value.get(), std::stod(content))) return;
-  }
-  throw std::runtime_error("it takes no content");
-}
-
 unsigned Element::Process() const { return Call(atspi_accessible_get_process_id, Get()); }
 
 std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted) {

@@ -51,8 +51,6 @@ class Element {
   std::int64_t InSteps(double value) const;
   Place Extents() const;
   void Do(std::string_view action) const;
-  // Sets a field's text or a slider's value.
-  void Set(const std::string& content) const;
 
   // The process of the program that it belongs to.
   unsigned Process() const;
