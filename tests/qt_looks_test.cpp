@@ -47,28 +47,29 @@ QImage Drawn(QWidget& widget) {
   return image;
 }
 
+template <class Act>
+void ForEachPixel(const QImage& image, const QRect& part, const Act& act) {
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    for (int x = part.left(); x <= part.right(); ++x) act(QPoint(x, y), image.pixelColor(x, y));
+  }
+}
+
 // The smallest rectangle that holds all that a label has drawn.
 QRect Ink(QLabel& label) {
-  const QImage image = Drawn(label);
   QRect ink;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixelColor(x, y) != Qt::white) ink |= QRect(x, y, 1, 1);
-    }
-  }
+  ForEachPixel(Drawn(label), label.rect(), [&](const QPoint& place, const QColor& colour) {
+    if (colour != Qt::white) ink |= QRect(place, QSize(1, 1));
+  });
   return ink;
 }
 
 // Whether the highlight of a selection is among what a widget shows.
 bool ShowsHighlight(QWidget& widget) {
-  const QImage image = widget.grab().toImage();
   const QColor highlight = widget.palette().color(QPalette::Active, QPalette::Highlight);
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixelColor(x, y) == highlight) return true;
-    }
-  }
-  return false;
+  bool shows = false;
+  ForEachPixel(widget.grab().toImage(), widget.rect(),
+               [&](const QPoint&, const QColor& colour) { shows |= colour == highlight; });
+  return shows;
 }
 
 TEST(QtLooksTest, TheInfoTextsSelectionShowsOnlyWhileItsWindowIsActive) {
@@ -90,7 +91,7 @@ TEST(QtLooksTest, TheInfoTextsSelectionShowsOnlyWhileItsWindowIsActive) {
   });
 }
 
-double Luminance(QColor colour) {
+double Luminance(const QColor& colour) {
   const auto linear = [](double share) {
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
   };
@@ -101,11 +102,9 @@ double Luminance(QColor colour) {
 // The greatest contrast to white among the pixels of a part.
 double Contrast(const QImage& image, const QRect& part) {
   double contrast = 0;
-  for (int y = part.top(); y <= part.bottom(); ++y) {
-    for (int x = part.left(); x <= part.right(); ++x) {
-      contrast = std::max(contrast, 1.05 / (Luminance(image.pixelColor(x, y)) + 0.05));
-    }
-  }
+  ForEachPixel(image, part, [&](const QPoint&, const QColor& colour) {
+    contrast = std::max(contrast, 1.05 / (Luminance(colour) + 0.05));
+  });
   return contrast;
 }
 
