@@ -10,17 +10,14 @@
 namespace vamo {
 namespace {
 
-std::string FieldText(User& user, std::string_view name) {
-  return user.Sees(Role::kText, name).text;
-}
-
 void Show(User& user, std::string_view deed) {
+  const auto field = [&](std::string_view name) { return user.Sees(Role::kText, name).text; };
   const std::string t = user.SeesDescribed("Student's t").text;
   const std::string p = user.SeesDescribed("two-tailed p").text;
   const std::string interval = user.SeesDescribed("95% confidence interval of r").text;
-  std::cout << deed << ":\n  r = " << FieldText(user, "r") << "   N = " << FieldText(user, "N")
-            << "   t = " << t << "   p = " << p << "   95% CI of r = " << interval
-            << "   Fisher's z = " << FieldText(user, "Fisher's z") << '\n';
+  std::cout << deed << ":\n  r = " << field("r") << "   N = " << field("N") << "   t = " << t
+            << "   p = " << p << "   95% CI of r = " << interval
+            << "   Fisher's z = " << field("Fisher's z") << '\n';
   if (t.empty() || p.empty() || interval.empty()) throw std::runtime_error("there is no result");
 }
 
