@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,13 +26,8 @@ class Gestures {
  public:
   Gestures(Input& input, HeadlessUser& user) : input_(input), user_(user) {}
 
-  // What a gesture is meant to be.
-  struct Meaning {
-    bool ends_program = false;
-    // Typing of visible characters, and nothing else.
-    bool types = false;
-  };
-  Meaning MakeNext();
+  // Whether the gesture is meant to end the program.
+  bool MakeNext();
 
  private:
   // A kind of gesture has the bytes from the end of the one before it to its own.
@@ -50,30 +44,30 @@ class Gestures {
     const Ref<MenuItem> item = input_.Pick(menu.items);
     const bool quits = item->Value() == "Quit";
     if (IsSeparator(*item) || (quits && !input_.OneIn(10))) return;
-    meaning_.ends_program = quits;
+    ends_program_ = quits;
     user_.Choose(menu.text + "/" + item->Value());
   }
   void Activate() {
-    if (const auto title = PickTitle()) user_.ActivateWindow(*title);
+    WithWindow([&](const std::string& title) { user_.ActivateWindow(title); });
   }
   void Wait() { user_.LetTimePass(std::chrono::milliseconds(input_.Below(5000))); }
   void Close() {
-    const auto title = PickTitle();
-    if (!title || (*title == "Vamo" && !input_.OneIn(10))) return;
-    const bool last = Runtime::Current().LiveWindows().size() == 1;
-    meaning_.ends_program = *title == "Vamo" || (last && user_.Display().MenuBarsLiveInWindows());
-    user_.Close(*title);
+    WithWindow([&](const std::string& title) {
+      if (title == "Vamo" && !input_.OneIn(10)) return;
+      const bool last = Runtime::Current().LiveWindows().size() == 1;
+      ends_program_ = title == "Vamo" || (last && user_.Display().MenuBarsLiveInWindows());
+      user_.Close(title);
+    });
   }
   void SwitchAway() { user_.SwitchAway(); }
   void Quit() {
     if (!input_.OneIn(5)) return;
-    meaning_.ends_program = true;
+    ends_program_ = true;
     user_.PressKey(Key::Command("q"));
   }
 
   void PressDigit() {
     static constexpr std::string_view kDigits[] = {"0", "1", "2", "3", "5", "9", "."};
-    meaning_.types = true;
     user_.PressKey(Key::Character(std::string(input_.Pick(kDigits))));
   }
   void PressCharacter() {
@@ -101,41 +95,41 @@ class Gestures {
   void Type() { user_.Type(input_.OddText()); }
   void Paste() { PasteText(input_.OddText()); }
   void Overwrite() {
-    if (!PickShown(Role::kText) || !PickShown(Role::kSlider)) return;
-    user_.Click(Role::kText, input_.OneIn(2) ? "r" : "N");
-    user_.PressKey(Key::Command("a"));
-    PasteText(input_.WrittenNumber());
+    WithShown(Role::kSlider, [&](const ShownControl& slider) {
+      user_.Click(Role::kText, slider.name);
+      user_.PressKey(Key::Command("a"));
+      PasteText(input_.WrittenNumber());
+    });
   }
   void Drop() {
-    if (const auto field = PickShown(Role::kText)) {
-      user_.Drop(Role::kText, field->name, input_.OddText());
-    }
+    WithShown(Role::kText, [&](const ShownControl& field) {
+      user_.Drop(Role::kText, field.name, input_.OddText());
+    });
   }
   void Select() {
-    const auto field = PickShown(Role::kText);
-    if (!field) return;
-    const std::size_t bound = std::min<std::size_t>(field->text.size() + 3, 256);
-    const std::size_t anchor = input_.Below(bound);
-    user_.Select(field->name, anchor, input_.Below(bound));
+    WithShown(Role::kText, [&](const ShownControl& field) {
+      const std::size_t bound = std::min<std::size_t>(field.text.size() + 3, 256);
+      const std::size_t anchor = input_.Below(bound);
+      user_.Select(field.name, anchor, input_.Below(bound));
+    });
   }
 
   void Click() {
-    const auto control = PickShown(static_cast<Role>(input_.Below(4)));
-    if (!control) return;
-    if (control->description.empty()) return user_.Click(control->role, control->name);
-    user_.ClickDescribed(control->description);
+    WithShown(static_cast<Role>(input_.Below(4)), [&](const ShownControl& control) {
+      if (control.description.empty()) return user_.Click(control.role, control.name);
+      user_.ClickDescribed(control.description);
+    });
   }
   void PressButton() {
-    if (const auto button = PickShown(Role::kButton)) {
-      user_.PressByAssistiveTechnology(button->name);
-    }
+    WithShown(Role::kButton,
+              [&](const ShownControl& button) { user_.PressByAssistiveTechnology(button.name); });
   }
   void Drag() {
-    const auto slider = PickShown(Role::kSlider);
-    if (!slider) return;
-    std::vector<std::int64_t> positions(input_.Below(4) + 1);
-    for (std::int64_t& position : positions) position = PickPosition(slider->name);
-    user_.DragSlider(slider->name, positions);
+    WithShown(Role::kSlider, [&](const ShownControl& slider) {
+      std::vector<std::int64_t> positions(input_.Below(4) + 1);
+      for (std::int64_t& position : positions) position = PickPosition(slider.name);
+      user_.DragSlider(slider.name, positions);
+    });
   }
   // Now and then where the text has been already, which the knob then leaves as it is.
   std::int64_t PickPosition(std::string_view slider) {
@@ -146,9 +140,9 @@ class Gestures {
     return Truncate(slider == "r" ? 100 * number : number);
   }
   void TurnWheel() {
-    if (const auto slider = PickShown(Role::kSlider)) {
-      user_.TurnWheel(slider->name, input_.Between(-12, 12));
-    }
+    WithShown(Role::kSlider, [&](const ShownControl& slider) {
+      user_.TurnWheel(slider.name, input_.Between(-12, 12));
+    });
   }
 
   void PasteText(std::string_view text) {
@@ -156,25 +150,25 @@ class Gestures {
     user_.PressKey(Key::Command("v"));
   }
 
-  // A control of the window that has the keys; nothing where the user sees none of the kind.
-  std::optional<ShownControl> PickShown(Role role) {
+  // With a control of the window that has the keys, unless the user sees none of the kind.
+  template <class Act>
+  void WithShown(Role role, const Act& act) {
     std::vector<ShownControl> shown;
     for (const HeadlessControl* control : user_.Display().ActiveWindow().Controls()) {
       const ShownControl& candidate = control->Shown();
       if (candidate.visible && candidate.role == role) shown.push_back(candidate);
     }
-    if (shown.empty()) return std::nullopt;
-    return input_.Pick(shown);
+    if (!shown.empty()) act(input_.Pick(shown));
   }
-  std::optional<std::string> PickTitle() {
+  template <class Act>
+  void WithWindow(const Act& act) {
     const std::vector<std::string> titles = user_.Windows();
-    if (titles.empty()) return std::nullopt;
-    return input_.Pick(titles);
+    if (!titles.empty()) act(input_.Pick(titles));
   }
 
   Input& input_;
   HeadlessUser& user_;
-  Meaning meaning_;
+  bool ends_program_ = false;
 };
 
 inline constexpr Gestures::Kind Gestures::kKinds[] = {
@@ -189,14 +183,14 @@ inline constexpr Gestures::Kind Gestures::kKinds[] = {
     {225, &Gestures::PressButton},   {245, &Gestures::Drag},
     {256, &Gestures::TurnWheel}};
 
-inline Gestures::Meaning Gestures::MakeNext() {
-  meaning_ = {};
+inline bool Gestures::MakeNext() {
+  ends_program_ = false;
   std::size_t number = input_.Byte();
   if (!Runtime::Current().ActiveWindow()) number %= kWithoutKeys;
   const Kind* const kind = std::find_if(std::begin(kKinds), std::end(kKinds),
                                         [&](const Kind& k) { return number < k.end; });
   (this->*kind->make)();
-  return meaning_;
+  return ends_program_;
 }
 
 }  // namespace vamo
