@@ -130,6 +130,7 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
   const std::vector<std::string> results{
       "Student's t 3.06, two-tailed p .00490, 95% confidence interval of r +.170 to +.729"};
   EXPECT_EQ(heard_after(300ms), results);
+  EXPECT_EQ(program_.display().RunningTimers(), 1U) << "only that of the splash";
   window_->rEdit()->SetText(".6");
   window_->rEdit()->SetText(".5");
   EXPECT_EQ(heard_after(1000ms), nothing) << "it has been said";

@@ -84,10 +84,18 @@ TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {
   EXPECT_EQ(program_.display().Clipboard(), "te");
   EXPECT_TRUE(window_->field()->CanPaste());
   EXPECT_EQ(program_.display().ClipboardReads(), 0) << "enabling the items reads no clipboard";
+  window_->field()->Paste();
+  EXPECT_EQ(program_.display().ClipboardReads(), 1);
   app_->_AddMenuHandler("EditCopy", Handler(&Log::Take));
   program_.user().Select("field", 0, 3);
   program_.user().PressKey(Key::Command("c"));
   EXPECT_EQ(program_.display().Clipboard(), "te");
+}
+
+TEST_F(MenuTest, WhatIsInvisibleIsNotDrawn) {
+  EXPECT_FALSE(program_.user().CanChoose("Edit/Own"));
+  bar_->_Lookup("Own")->SetVisible(false);
+  EXPECT_THROW(program_.user().CanChoose("Edit/Own"), InvalidArgumentException);
 }
 
 }  // namespace

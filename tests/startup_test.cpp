@@ -158,6 +158,7 @@ TEST_F(ProgramTest, TheApplicationCarriesItsVersionAndTheBar) {
               "3.03.0VamoVamo");
     EXPECT_EQ(app->LongVersion(), Cast<class AboutWnd>(AboutWnd())->StaticText5()->Text());
     EXPECT_FALSE(AboutWnd()->MenuBar());
+    EXPECT_EQ(AboutWnd()->ListedTitle(), "Vamo") << "it has no title of its own";
     for (const auto& bar : {app->MenuBar(), ControlWnd()->MenuBar(), InfoWnd()->MenuBar()}) {
       EXPECT_TRUE(bar == Menu());
     }

@@ -76,6 +76,8 @@ TEST(WindowTest, ActivationIsRaisedWhenTheWindowBecomesTheActiveOne) {
 TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
   TestProgram program;
   const auto window = ImplicitInstance<TestWindow>();
+  EXPECT_THROW(program.user().Click(Role::kText, "slider"), InvalidArgumentException);
+  EXPECT_THROW(program.user().Close("Nobody"), InvalidArgumentException);
   const Key tab = Key::Character("\t");
   EXPECT_TRUE(window->Focus() == window->slider());
   window->UserPressedKey(tab);

@@ -9,7 +9,8 @@
 namespace vamo {
 namespace {
 
-constexpr std::array kNews{"object:state-changed:showing", "object:text-changed"};
+constexpr std::array kNews{"object:state-changed:showing", "object:announcement",
+                           "object:text-changed"};
 
 }  // namespace
 
@@ -60,6 +61,8 @@ void Ears::Note(const AtspiEvent& event) {
     if (type.rfind("object:text-changed", 0) == 0) {
       const std::string sign = type.find("delete") == std::string_view::npos ? "+" : "-";
       edits_.emplace_back(source.Name(), sign + g_value_get_string(&event.any_data));
+    } else if (type.rfind("object:announcement", 0) == 0) {
+      notices_.emplace_back(g_value_get_string(&event.any_data));
     } else if (event.detail1 != 0 && source.RoleName() == "notification") {
       notices_.push_back(source.Name());
     }

@@ -20,7 +20,7 @@ class Ears {
   Ears(const Ears&) = delete;
   Ears& operator=(const Ears&) = delete;
 
-  // The notices that have come up since the last call.
+  // The notices that have come up, and what has been announced, since the last call.
   std::vector<std::string> Notices();
   // What has gone from and come into the text that bears a name since the last call: "-5", "+5".
   std::vector<std::string> Edits(std::string_view text);

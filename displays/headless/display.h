@@ -2,6 +2,7 @@
 #define VAMO_DISPLAYS_HEADLESS_DISPLAY_H_
 
 #include <chrono>
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -59,6 +60,7 @@ class HeadlessDisplay : public Display {
   const std::string& Clipboard() const { return clipboard_; }
   // How often the clipboard has been read.
   int ClipboardReads() const { return clipboard_reads_; }
+  std::size_t RunningTimers() const { return timers_.size(); }
   int Beeps() const { return beeps_; }
   // What has been announced since the last call.
   std::vector<std::string> TakeAnnouncements() { return std::exchange(announcements_, {}); }

@@ -19,8 +19,7 @@ bool Warned(User& user) { return user.SeesDescribed("range of N").visible; }
 
 void Retype(User& user, std::string_view field, std::string_view text) {
   user.Click(Role::kText, field);
-  user.PressKey(Arrow(KeyCode::kHome));
-  user.PressKey(Arrow(KeyCode::kEnd, /*shift=*/true));
+  user.PressKey(Key::Command("a"));
   user.PressKey(Key::Character(std::string(1, kBackspace)));
   user.Type(text);
 }
