@@ -28,6 +28,15 @@ if(VAMO_WARNINGS_AS_ERRORS)
   target_compile_options(vamo_options INTERFACE $<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
 endif()
 
+# vamo_precompile(target header...): has the target's sources begin with headers that most of them include, where that
+# is wanted. A build without it sees that each source includes what it needs.
+option(VAMO_PRECOMPILED "Compile faster, by precompiled headers" OFF)
+function(vamo_precompile target)
+  if(VAMO_PRECOMPILED)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 # vamo_library(name SOURCES cpp... [LINKS library...])
 #
 # A static library of the current folder. Headers are included by their path from the project's root
