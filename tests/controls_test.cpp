@@ -73,6 +73,9 @@ TEST(PushButtonTest, OnlyAnEnabledButtonAsksItsHandler) {
   button->MouseDown = Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)>(
       +[](Ref<PushButton>, std::int64_t x, std::int64_t y) { return x == 3 && y == 4; });
   EXPECT_TRUE(button->UserPressed(3, 4));
+  EXPECT_FALSE(button->UserPressedByAssistiveTechnology());
+  _SetProperties(*button, EncodedStream<640>().Set(property::kWidth, 6).Set(property::kHeight, 8));
+  EXPECT_TRUE(button->UserPressedByAssistiveTechnology()) << "its middle";
   button->SetEnabled(false);
   EXPECT_FALSE(button->UserPressed(3, 4));
 }

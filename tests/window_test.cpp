@@ -77,6 +77,7 @@ TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
   TestProgram program;
   const auto window = ImplicitInstance<TestWindow>();
   EXPECT_THROW(program.user().Click(Role::kText, "slider"), InvalidArgumentException);
+  EXPECT_THROW(program.user().SeesDescribed("nobody"), InvalidArgumentException);
   EXPECT_THROW(program.user().Close("Nobody"), InvalidArgumentException);
   const Key tab = Key::Character("\t");
   EXPECT_TRUE(window->Focus() == window->slider());
