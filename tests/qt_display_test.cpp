@@ -25,7 +25,7 @@
 namespace vamo {
 namespace {
 
-TEST(QtDisplayTest, AnInputMethodsTextGoesTheRoadOfTheKeys) {
+TEST(QtDisplayTest, AnInputMethodsTextIsTakenAsKeys) {
   InControlWindow([](User& user) {
     EXPECT_EQ(Named<QLineEdit>("r").inputMethodHints(), Qt::ImhFormattedNumbersOnly);
     EXPECT_EQ(Named<QLineEdit>("N").inputMethodHints(), Qt::ImhDigitsOnly);

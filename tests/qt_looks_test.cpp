@@ -231,18 +231,6 @@ TEST(QtLooksTest, OutlinesStandOutAndShowWhereTheKeysGo) {
   });
 }
 
-// Its text area ends a little before the window does, and begins a little outside of it.
-TEST(QtLooksTest, InfoIsOfOneColourUpToItsEdges) {
-  InControlWindow([](User& user) {
-    user.Click(Role::kButton, "Info");
-    QWidget& window = *QApplication::activeWindow();
-    const int bar = window.findChild<QMenuBar*>()->height();
-    const QImage drawn = Drawn(window);
-    EXPECT_EQ(Contrast(drawn, QRect(440, bar + 1, 10, 359)), 1);
-    EXPECT_EQ(Contrast(drawn, QRect(0, bar + 340, 450, 20)), 1);
-  });
-}
-
 // A window that its user can resize, with one control locked to all of its sides.
 class ElasticWindow : public Window {
  public:
