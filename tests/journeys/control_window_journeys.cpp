@@ -1,4 +1,5 @@
-// The journeys of a user through the control window. They run on every display.
+// The journeys of a user through the control window: how r and N are set, and what then shows. They
+// run on every display.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -12,8 +13,6 @@ namespace {
 
 const Key kTabKey = Key::Character(std::string(1, kTab));
 const Key kBackTabKey{KeyCode::kCharacter, std::string(1, kTab), true, false};
-const Key kBackspaceKey = Key::Character(std::string(1, kBackspace));
-const Key kDeleteKey = Key::Character(std::string(1, kForwardDelete));
 constexpr char kNoResults[] = " |  | ";
 
 TEST(ControlWindowJourney, OpensEmptyWithTheKeysInR) {
@@ -140,46 +139,6 @@ TEST(ControlWindowJourney, SlidersFollowTheKeysAndTheWheel) {
   });
 }
 
-// Every key that types a character other than those, and three that do more in other programs.
-std::string KeysBut(std::string_view those) {
-  std::string all = "\r\x1b\x7f";
-  for (char character = ' '; character <= '~'; ++character) {
-    if (those.find(character) == std::string_view::npos) all += character;
-  }
-  return all;
-}
-
-TEST(ControlWindowJourney, KeyFiltersBeepAndSwallow) {
-  struct Case {
-    const char* field;
-    std::string refused;
-    std::vector<std::pair<const char*, const char*>> typed_and_shown;
-  };
-  const Case kCases[] = {
-      {"r",
-       KeysBut("0123456789."),
-       {{"987", ".987"}, {"654", ".654"}, {"321", ".321"}, {".5", ".5"}}},
-      {"N", KeysBut("0123456789"), {{"9876", "9876"}, {"5432", "5432"}, {"10", "10"}}},
-  };
-  InControlWindow([&](User& user) {
-    for (const auto& [field, refused, typed_and_shown] : kCases) {
-      for (const auto& [typed, shown] : typed_and_shown) {
-        Retype(user, field, typed);
-        EXPECT_EQ(FieldText(user, field), shown);
-      }
-      const int beeps = user.Beeps();
-      user.Type(refused);
-      EXPECT_EQ(FieldText(user, field), typed_and_shown.back().second);
-      EXPECT_EQ(user.Beeps(), beeps + static_cast<int>(refused.size())) << field;
-    }
-    Retype(user, "r", ".5");
-    const int beeps = user.Beeps();
-    user.Type(".");
-    EXPECT_EQ(FieldText(user, "r"), ".5") << "a second point";
-    EXPECT_EQ(user.Beeps(), beeps + 1);
-  });
-}
-
 TEST(ControlWindowJourney, TheWarningFollowsN) {
   InControlWindow([](User& user) {
     user.DragSlider("r", {50});
@@ -212,103 +171,6 @@ TEST(ControlWindowJourney, TheWarningFollowsN) {
     user.TurnWheel("N", 1);
     EXPECT_FALSE(Warned(user));
     EXPECT_EQ(FieldText(user, "N"), "5");
-  });
-}
-
-TEST(ControlWindowJourney, PastesGoInAsTheyAre) {
-  struct Case {
-    std::string paste, field, z;
-  };
-  const Case kCases[] = {
-      {"1.5", ".99999", "6.103"},    {"-.2", ".000", "0.000"},    {".99999", ".99999", "6.103"},
-      {"abc", "abc", "0.000"},       {"1e5", ".99999", "6.103"},  {".5\n5\r\n", ".5 5 ", "0.549"},
-      {"  .25x", "  .25x", "0.255"}, {"0.5.5", "0.5.5", "0.549"}, {"½ é 漢", "½ é 漢", "0.000"},
-  };
-  InControlWindow([&](User& user) {
-    Retype(user, "N", "30");
-    for (const Case& test : kCases) {
-      Retype(user, "r", "");
-      const int beeps = user.Beeps();
-      user.Paste(test.paste);
-      EXPECT_EQ(FieldText(user, "r"), test.field);
-      EXPECT_EQ(FieldText(user, "Fisher's z"), test.z) << test.paste;
-      EXPECT_EQ(user.Beeps(), beeps) << test.paste;
-    }
-    Retype(user, "N", "");
-    user.Paste("30.9");
-    EXPECT_EQ(ResultLine(user), ".00 | .99999 | -.360 to +.360");
-    Retype(user, "N", "");
-    user.Paste("-7");
-    EXPECT_TRUE(Warned(user));
-    Retype(user, "N", "");
-    user.Paste(std::string(20, '9'));
-    EXPECT_TRUE(Warned(user));
-    EXPECT_EQ(ResultLine(user), kNoResults);
-  });
-}
-
-TEST(ControlWindowJourney, StandsAHugePaste) {
-  InControlWindow([](User& user) {
-    Retype(user, "N", "30");
-    Retype(user, "r", "");
-    user.Paste("." + std::string(1'000'000, '3'));
-    EXPECT_EQ(FieldText(user, "r").size(), 1'000'001U);
-    EXPECT_EQ(FieldText(user, "Fisher's z"), "0.347");
-    user.PressKey(kBackspaceKey);
-    EXPECT_EQ(FieldText(user, "r").size(), 1'000'000U);
-    Retype(user, "r", "5");
-    EXPECT_EQ(FieldText(user, "r"), ".5");
-  });
-}
-
-TEST(ControlWindowJourney, TheCaretAndTheSelectionAreTheUsers) {
-  InControlWindow([](User& user) {
-    Retype(user, "r", ".1");
-    user.Type("3");
-    user.PressKey(Arrow(KeyCode::kLeft));
-    user.Type("2");
-    EXPECT_EQ(FieldText(user, "r"), ".123");
-    user.PressKey(Arrow(KeyCode::kHome));
-    user.PressKey(kBackspaceKey);
-    EXPECT_EQ(FieldText(user, "r"), ".123");
-    user.PressKey(Arrow(KeyCode::kEnd, /*shift=*/true));
-    EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, ".123");
-    user.PressKey(Key::Command("c"));
-    EXPECT_EQ(user.Clipboard(), ".123");
-    user.Type("7");
-    EXPECT_EQ(FieldText(user, "r"), ".7");
-    EXPECT_EQ(FieldText(user, "Fisher's z"), "0.867");
-    user.PressKey(Key::Command("z"));
-    EXPECT_EQ(FieldText(user, "r"), ".123");
-    EXPECT_EQ(FieldText(user, "Fisher's z"), "0.124");
-    user.PressKey(Arrow(KeyCode::kEnd));
-    EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, "");
-    user.Click(Role::kText, "N");
-    user.Paste("40");
-    user.PressKey(kBackTabKey);
-    EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, ".123") << "entered by Tab";
-    user.PressKey(Key::Command("x"));
-    EXPECT_EQ(FieldText(user, "r"), "");
-    EXPECT_EQ(user.Clipboard(), ".123");
-    EXPECT_EQ(ResultLine(user), ".00 | .99999 | -.312 to +.312");
-  });
-}
-
-TEST(ControlWindowJourney, AWordIsDeletedOrLeftAsItWas) {
-  InControlWindow([](User& user) {
-    Key word = kDeleteKey;
-    word.word = true;
-    Retype(user, "N", "500");
-    user.PressKey(Arrow(KeyCode::kHome));
-    const int beeps = user.Beeps();
-    user.PressKey(word);
-    EXPECT_EQ(user.Beeps(), beeps + 1) << "the filter of N refuses it";
-    user.Type("1");
-    EXPECT_EQ(FieldText(user, "N"), "1500");
-    user.PressKey(Arrow(KeyCode::kEnd));
-    word.text = kBackspace;
-    user.PressKey(word);
-    EXPECT_EQ(FieldText(user, "N"), "");
   });
 }
 
