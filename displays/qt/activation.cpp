@@ -32,7 +32,7 @@ void Activation::Await(WindowWidget& window) {
   patience_.start(kPatience);
 }
 
-void Activation::Activated(WindowWidget& window) {
+void Activation::Activated(const WindowWidget& window) {
   if (awaited_ != nullptr && awaited_ != &window && awaited_->isVisible()) return;
   awaited_ = nullptr;
   patience_.stop();
@@ -45,7 +45,8 @@ void Activation::Deactivated(const WindowWidget& window) {
 
 void Activation::GiveUp() {
   awaited_ = nullptr;
-  if (auto* active = dynamic_cast<WindowWidget*>(QApplication::activeWindow())) Report(*active);
+  if (const auto* active = dynamic_cast<WindowWidget*>(QApplication::activeWindow()))
+    Report(*active);
 }
 
 }  // namespace vamo

@@ -19,7 +19,7 @@ class Activation {
   // The window has been brought up and is to have the keys.
   void Await(WindowWidget& window);
   // What the platform says.
-  void Activated(WindowWidget& window);
+  void Activated(const WindowWidget& window);
   void Deactivated(const WindowWidget& window);
 
  private:
