@@ -1,5 +1,5 @@
-// The rows of the tables that windows and controls are made from. Defaults hold what
-// most objects share; a row names only what differs. Lengths in logical pixels.
+// The rows of the tables that windows and controls are made from. Defaults hold what most
+// objects share; a row names only what differs. Lengths in logical pixels.
 #ifndef VAMO_CONTROLWND_STREAM_ROWS_H_
 #define VAMO_CONTROLWND_STREAM_ROWS_H_
 

@@ -93,12 +93,12 @@ class Gestures {
     user_.PressKey(key);
   }
   void Type() { user_.Type(input_.OddText()); }
-  void Paste() { PasteText(input_.OddText()); }
+  void Paste() { user_.Paste(input_.OddText()); }
   void Overwrite() {
     WithShown(Role::kSlider, [&](const ShownControl& slider) {
       user_.Click(Role::kText, slider.name);
       user_.PressKey(Key::Command("a"));
-      PasteText(input_.WrittenNumber());
+      user_.Paste(input_.WrittenNumber());
     });
   }
   void Drop() {
@@ -143,11 +143,6 @@ class Gestures {
     WithShown(Role::kSlider, [&](const ShownControl& slider) {
       user_.TurnWheel(slider.name, input_.Between(-12, 12));
     });
-  }
-
-  void PasteText(std::string_view text) {
-    user_.SetClipboard(text);
-    user_.PressKey(Key::Command("v"));
   }
 
   // With a control of the window that has the keys, unless the user sees none of the kind.

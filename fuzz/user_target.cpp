@@ -29,7 +29,7 @@ class UserDisplay : public HeadlessDisplay {
 
   bool MenuBarsLiveInWindows() const override { return bars_live_in_windows_; }
   std::unique_ptr<WindowView> OpenWindow(Window& window) override {
-    opened_.emplace_back(Ref<Object>(Self(&window)));
+    opened_.emplace_back(Self(&window));
     return HeadlessDisplay::OpenWindow(window);
   }
 
@@ -110,8 +110,8 @@ class Program {
   void Use(HeadlessUser& user) {
     Gestures gestures(input_, user);
     while (user.Display().Running() && !input_.AtEnd()) Watch(gestures, user);
-    objects_.emplace_back(Ref<Object>(Runtime::Current().App()));
-    objects_.emplace_back(Ref<Object>(Menu()));
+    objects_.emplace_back(Runtime::Current().App());
+    objects_.emplace_back(Menu());
   }
 
   void Watch(Gestures& gestures, HeadlessUser& user) {

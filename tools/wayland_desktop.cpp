@@ -18,6 +18,12 @@ void Command(unsigned long window, const std::string& command) {
   Output({"swaymsg", "-q", "[con_id=" + std::to_string(window) + "] " + command});
 }
 
+std::vector<std::string> WithSelection(std::vector<std::string> command,
+                                       const std::string& selection) {
+  if (selection == "primary") command.emplace_back("--primary");
+  return command;
+}
+
 int OutputSize(const std::string& side) {
   return std::stoi(Ask("get_outputs", ".[0].rect." + side));
 }
@@ -55,15 +61,11 @@ void WaylandDesktop::Move(unsigned long window, int x, int y) {
 }
 
 void WaylandDesktop::Offer(const std::string& selection, std::string_view text) {
-  std::vector<std::string> command{"wl-copy"};
-  if (selection == "primary") command.emplace_back("--primary");
-  Output(command, text);
+  Output(WithSelection({"wl-copy"}, selection), text);
 }
 
 std::string WaylandDesktop::Offered(const std::string& selection) {
-  std::vector<std::string> command{"wl-paste", "--no-newline"};
-  if (selection == "primary") command.emplace_back("--primary");
-  return Output(command);
+  return Output(WithSelection({"wl-paste", "--no-newline"}, selection));
 }
 
 int WaylandDesktop::Width() const { return OutputSize("width"); }

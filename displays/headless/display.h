@@ -19,9 +19,9 @@ class HeadlessTimer;
 class HeadlessUser;
 class HeadlessWindow;
 
-// A whole display in memory, without pixels, for tests and measurements. What its user does
-// while the program runs is a function passed to it. Positions on the screen mean
-// nothing to it, and its clock stands still unless it is told to go on.
+// A whole display in memory, without pixels, for tests and measurements. What its user does while
+// the program runs is a function passed to it. Positions on the screen mean nothing to it, and its
+// clock stands still unless it is told to go on.
 class HeadlessDisplay : public Display {
  public:
   // The loop ends when `act` returns.

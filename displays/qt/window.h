@@ -11,7 +11,6 @@
 #include "displays/qt/keys.h"
 #include "displays/qt/zoom.h"
 #include "toolkit/runtime/display.h"
-#include "toolkit/window/window.h"
 
 class QMenuBar;
 

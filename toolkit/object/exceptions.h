@@ -11,8 +11,7 @@
 
 namespace vamo {
 
-// The root of all exceptions of the toolkit. It carries what went wrong; it reports
-// nothing.
+// The root of all exceptions of the toolkit. It carries what went wrong; it reports nothing.
 class RuntimeException : public std::exception {
  public:
   RuntimeException() = default;
