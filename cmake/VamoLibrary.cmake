@@ -19,6 +19,7 @@ else()
               -Wpedantic
               -Wconversion
               -Wshadow
+              -Wzero-as-null-pointer-constant
               # g++ 12 sees overlapping copies in a plain concatenation of strings.
               $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
               # Neither the program nor its debug information carries the path of the build machine.
