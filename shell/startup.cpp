@@ -81,17 +81,25 @@ void _RunFrameworkInitialization(const Delegate<void()>& late_startup) { late_st
 
 void _RuntimeRun() { Runtime::Current().Run(); }
 
-void _Main() {
+// Takes what leaves the steps for an unhandled exception.
+template <class Steps>
+void Guarded(Steps&& steps) {
   try {
+    steps();
+  } catch (...) {
+    Step("_UnhandledException", [] { _UnhandledException(std::current_exception()); });
+  }
+}
+
+void _Main() {
+  Guarded([] {
     Step("_RuntimeSetExceptionHelper",
          [] { Runtime::Current().SetExceptionHelper(_CallFunctionWithExceptionHandling); });
     Step("_EarlyStartup", _EarlyStartup);
     Step("_RunFrameworkInitialization",
          [] { _RunFrameworkInitialization(Delegate<void()>(_LateStartup)); });
     Step("_RuntimeRun", _RuntimeRun);
-  } catch (...) {
-    Step("_UnhandledException", [] { _UnhandledException(std::current_exception()); });
-  }
+  });
 }
 
 void RuntimePerformFinalizers() { Runtime::Current().PerformFinalizers(); }
@@ -100,22 +108,35 @@ std::int32_t RuntimeExit() { return Runtime::Current().ExitCode(); }
 
 }  // namespace
 
-// The observer is held here, since the finalisers take the module-level fields.
-int Main(std::unique_ptr<Display> display, StepObserver observer) {
-  if (observer == nullptr) observer = [](std::string_view) {};
-  observer("RuntimeInit");
-  const std::unique_ptr<Runtime> runtime = RuntimeInit(std::move(display));
-  runtime->ModuleFields<StartupFields>().observer = observer;
+// The observer is held here too, since the finalisers take the module-level fields.
+Process::Process(std::unique_ptr<Display> display, StepObserver observer)
+    : observer_(observer != nullptr ? std::move(observer) : [](std::string_view) {}),
+      runtime_((observer_("RuntimeInit"), RuntimeInit(std::move(display)))) {
+  runtime_->ModuleFields<StartupFields>().observer = observer_;
   try {
     Step("RuntimePerformInitializers", RuntimePerformInitializers);
     Step("_Main", _Main);
   } catch (...) {
     _UnhandledException(std::current_exception());
   }
-  observer("RuntimePerformFinalizers");
+}
+
+Process::~Process() = default;
+
+int Process::Finish() {
+  try {
+    Guarded([] { Runtime::Current().RaiseAgain(); });
+  } catch (...) {
+    _UnhandledException(std::current_exception());
+  }
+  observer_("RuntimePerformFinalizers");
   RuntimePerformFinalizers();
-  observer("RuntimeExit");
+  observer_("RuntimeExit");
   return RuntimeExit();
+}
+
+int Main(std::unique_ptr<Display> display, StepObserver observer) {
+  return Process(std::move(display), std::move(observer)).Finish();
 }
 
 }  // namespace vamo

@@ -135,6 +135,43 @@ TEST(StartupTest, AHandlerThatFailsInTheMiddleOfADragEndsTheProgramInOrder) {
   }
 }
 
+// A display whose events come after Run, as a browser has it.
+struct LaterDisplay : HeadlessDisplay {
+  explicit LaterDisplay(int& counter) : stops(counter) {}
+  void Run() override {}
+  void Stop() override {
+    ++stops;
+    HeadlessDisplay::Stop();
+  }
+  int& stops;
+};
+
+TEST(StartupTest, AProcessGoesOnWhereThePlatformHasTheLoop) {
+  for (const bool fails : {false, true}) {
+    int stops = 0;
+    Steps steps;
+    auto display = std::make_unique<LaterDisplay>(stops);
+    HeadlessUser user(*display);
+    Process process(std::move(display), [&](std::string_view step) { steps.emplace_back(step); });
+    user.PressKey(Key::Character("x"));
+    EXPECT_EQ(user.Windows(), Steps{"Vamo"});
+    EXPECT_EQ(stops, 0);
+    if (fails) {
+      testing::internal::CaptureStderr();
+      Runtime::Current().Dispatch([] { throw std::runtime_error("damaged"); });
+      EXPECT_EQ(process.Finish(), 1);
+      EXPECT_EQ(testing::internal::GetCapturedStderr(), "vamo: damaged\n");
+      EXPECT_EQ(steps, StepsUpTo("_RuntimeRun", {"_UnhandledException", "RuntimePerformFinalizers",
+                                                 "RuntimeExit"}));
+    } else {
+      user.PressKey(Key::Command("q"));
+      EXPECT_EQ(process.Finish(), 0);
+      EXPECT_EQ(steps, StepsUpTo("_RuntimeRun", {"RuntimePerformFinalizers", "RuntimeExit"}));
+    }
+    EXPECT_EQ(stops, 1);
+  }
+}
+
 // What follows runs inside the started program.
 class ProgramTest : public testing::Test {
  protected:

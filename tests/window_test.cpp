@@ -96,5 +96,21 @@ TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
   EXPECT_TRUE(window->Focus() == window->field());
 }
 
+// On a page there is more to come to than the program.
+TEST(WindowTest, TabLeavesAtBothEndsWhereTheDisplayWantsIt) {
+  TestProgram program;
+  program.display().LetTabLeave();
+  const auto window = ImplicitInstance<TestWindow>();
+  Key tab = Key::Character("\t");
+  EXPECT_TRUE(window->UserPressedKey(tab));
+  EXPECT_FALSE(window->UserPressedKey(tab)) << "the field is the last stop";
+  EXPECT_TRUE(window->Focus() == window->field())
+      << "who comes back finds the keys where they were";
+  tab.shift = true;
+  EXPECT_TRUE(window->UserPressedKey(tab));
+  EXPECT_FALSE(window->UserPressedKey(tab));
+  EXPECT_TRUE(window->Focus() == window->slider());
+}
+
 }  // namespace
 }  // namespace vamo

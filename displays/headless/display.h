@@ -40,6 +40,7 @@ class HeadlessDisplay : public Display {
   bool ClipboardMayHoldText() const override { return !clipboard_.empty(); }
   void SetClipboardText(std::string_view text) override { clipboard_ = text; }
   bool MenuBarsLiveInWindows() const override { return false; }
+  bool TabLeavesWindows() const override { return tab_leaves_; }
 
   // Does something as the user, and then runs the events that it has caused, unless the program has
   // ended.
@@ -51,6 +52,8 @@ class HeadlessDisplay : public Display {
   void LetTimePass(std::chrono::milliseconds time);
   // The images that can be opened; by default every one can.
   void RemovePictures() { has_pictures_ = false; }
+  // By default Tab stays in the window.
+  void LetTabLeave() { tab_leaves_ = true; }
 
   bool Running() const { return !stopped_; }
   // The windows in the order of the screen, the front one last; hidden ones are among them.
@@ -83,6 +86,7 @@ class HeadlessDisplay : public Display {
   std::string clipboard_;
   int clipboard_reads_ = 0;
   bool has_pictures_ = true;
+  bool tab_leaves_ = false;
   bool stopped_ = false;
   // The keys go to another program.
   bool away_ = false;

@@ -34,6 +34,7 @@ class QtDisplay : public Display {
   bool ClipboardMayHoldText() const override;
   void SetClipboardText(std::string_view text) override;
   bool MenuBarsLiveInWindows() const override;
+  bool TabLeavesWindows() const override { return false; }
 
  private:
   struct Parts;

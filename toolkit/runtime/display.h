@@ -82,10 +82,12 @@ class Display {
  public:
   virtual ~Display() = default;
 
-  // Called once by the start-up's last step: takes the user's events until Stop is called.
+  // Called once by the start-up's last step: takes the user's events until Stop is called. Where
+  // the platform owns the event loop, lets the events come and returns at once.
   virtual void Run() = 0;
 
-  // Called when the program is to end: must make Run return once the running event has ended.
+  // Called when the program is to end: must take no more events once the running one has ended, and
+  // then make Run return or, where it has returned long ago, have the program finished.
   virtual void Stop() = 0;
 
   // Called while a window is constructed, after it has got its state and its controls. The window
@@ -122,6 +124,9 @@ class Display {
 
   // Whether a menu bar lives in its window, so that a program without any window is out of reach.
   virtual bool MenuBarsLiveInWindows() const = 0;
+
+  // Whether Tab goes on, past the last control of a window, to what lies around the program.
+  virtual bool TabLeavesWindows() const = 0;
 };
 
 }  // namespace vamo

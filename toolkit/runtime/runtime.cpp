@@ -82,6 +82,9 @@ void Runtime::TakeException(const std::exception_ptr& exception) {
 
 void Runtime::Run() {
   if (!ending_) display_->Run();
+}
+
+void Runtime::RaiseAgain() {
   if (raised_again_ != nullptr) std::rethrow_exception(std::exchange(raised_again_, nullptr));
 }
 

@@ -93,14 +93,16 @@ class Runtime {
 
   // Runs one event. A RuntimeException that leaves it ends here: EndException and
   // ThreadEndException silently, any other in the application's UnhandledException event or else in
-  // the default action. What is no RuntimeException ends the event loop and is raised again out of
-  // Run.
+  // the default action. What is no RuntimeException ends the event loop and is kept for RaiseAgain.
   void Dispatch(const std::function<void()>& event, Cause cause = Cause::kUser);
   // The cause of the event that runs; the user where none does.
   Cause EventCause() const { return event_cause_; }
 
-  // Takes the user's events until End; returns at once where End has been called already.
+  // Takes the user's events until End, as the display has it; returns at once where End has been
+  // called already.
   void Run();
+  // Raises again what has ended the event loop, if an exception has. To be called after the loop.
+  void RaiseAgain();
 
   // Ends the event loop. The first exit code stands.
   void End(std::int32_t exit_code);

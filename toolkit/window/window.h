@@ -201,7 +201,8 @@ class Window : public Object {
   bool TakeKey(const Key& key);
   // Presses the button that the key is for. Whether there is one.
   bool PressButton(const Key& key);
-  void MoveFocus(bool backwards);
+  // Takes the keys to the next control. False: there is none, and they go on from here.
+  bool MoveFocus(bool backwards);
 
   State state_;
   bool visible_ = false;

@@ -70,8 +70,7 @@ bool Window::TakeKey(const Key& key) {
   if (key.command && key.code == KeyCode::kCharacter) return false;
   if (focus_ && focus_->CanTakeFocus() && focus_->TakeKey(key)) return true;
   if (key.text != std::string_view(&kTab, 1)) return false;
-  MoveFocus(key.shift);
-  return true;
+  return MoveFocus(key.shift);
 }
 
 bool Window::PressButton(const Key& key) {
@@ -83,22 +82,28 @@ bool Window::PressButton(const Key& key) {
   return false;
 }
 
-void Window::MoveFocus(bool backwards) {
+bool Window::MoveFocus(bool backwards) {
   std::vector<Ref<RectControl>> stops = Controls();
   std::erase_if(stops, [](const Ref<RectControl>& control) { return !control->CanTakeFocus(); });
-  if (stops.empty()) return;
+  const bool leaves = focus_ && Runtime::Current().Display().TabLeavesWindows();
+  if (stops.empty()) return !leaves;
   // Without a stop for Tab the keys go to the first control that can have them, and stay there.
   const Ref<RectControl> first = stops.front();
   std::erase_if(stops, [](const Ref<RectControl>& control) { return !control->TabStop(); });
-  if (stops.empty()) return SetFocus(focus_ ? focus_ : first);
+  if (stops.empty()) {
+    SetFocus(focus_ ? focus_ : first);
+    return !leaves;
+  }
   std::stable_sort(stops.begin(), stops.end(), [](const auto& left, const auto& right) {
     return left->TabIndex() < right->TabIndex();
   });
   if (backwards) std::reverse(stops.begin(), stops.end());
   const auto present = std::find(stops.begin(), stops.end(), focus_);
   const auto next = present == stops.end() ? present : present + 1;
+  if (leaves && present != stops.end() && next == stops.end()) return false;
   SetFocus(next == stops.end() ? stops.front() : *next);
   focus_->EnteredByTab();
+  return true;
 }
 
 void Window::SetFocus(const Ref<RectControl>& control) {
