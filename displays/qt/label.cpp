@@ -5,10 +5,9 @@
 #include <QTextOption>
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 
 #include "displays/qt/convert.h"
-#include "toolkit/window/window.h"
+#include "toolkit/window/text_room.h"
 
 namespace vamo {
 namespace {
@@ -20,33 +19,6 @@ double BaseLine(const QTextLine& line, const QRectF& extent, double height) {
   const double lowest = height - extent.bottom();
   if (lowest < highest) return (lowest + highest) / 2;
   return std::clamp(middle, highest, lowest);
-}
-
-// What a label's text may cover across the window: up to a gap from what stands beside it.
-struct Reach {
-  double left;
-  double right;
-};
-
-Reach ReachOf(const RectControl& label) {
-  constexpr double kGap = 5;
-  const Bounds& box = label.Bounds();
-  const Ref<Window> window = label.Window();
-  const Ref<RectControl> parent = window->ParentOf(label);
-  const Bounds whole = parent ? parent->Bounds() : Bounds{0, 0, window->InitialState().width, 0};
-  std::int64_t left = whole.left;
-  std::int64_t right = whole.left + whole.width;
-  for (const Ref<RectControl>& other : window->Controls()) {
-    const Bounds& beside = other->Bounds();
-    const bool in_line = beside.top < box.top + box.height && box.top < beside.top + beside.height;
-    if (!in_line || other == parent) continue;
-    const std::int64_t end = beside.left + beside.width;
-    if (2 * end <= 2 * box.left + box.width) left = std::max(left, end);
-    if (2 * beside.left >= 2 * box.left + box.width) right = std::min(right, beside.left);
-  }
-  // Where the boxes of two texts touch, the gap is at the end of the first.
-  return {std::min(static_cast<double>(box.left), static_cast<double>(left) + kGap),
-          static_cast<double>(right) - kGap};
 }
 
 // Where a text of that width begins that is aligned in a box.
@@ -74,10 +46,9 @@ void LabelWidget::SetBox(const QRect& box) {
 void LabelWidget::ShowLook() {
   const Label& label = TheControl();
   setFont(ToQFont(label.Font(), Factor()));
-  const Reach reach = ReachOf(label);
-  const Bounds& box = label.Bounds();
-  room_left_ = (static_cast<double>(box.left) - reach.left) * Factor();
-  room_right_ = (reach.right - static_cast<double>(box.left + box.width)) * Factor();
+  const TextRoom room = RoomOfText(label);
+  room_left_ = room.left * Factor();
+  room_right_ = room.right * Factor();
   Fit();
 }
 

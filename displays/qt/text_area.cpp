@@ -9,20 +9,6 @@
 #include "toolkit/window/window.h"
 
 namespace vamo {
-namespace {
-
-// The text as the document takes it, character by character: a carriage return ends a paragraph,
-// and one before a line feed has no width, since the two are one line end.
-QString DocumentText(const std::string& utf8) {
-  constexpr char16_t kNoWidth = 0x200B;
-  QString text = ToQString(utf8);
-  text.replace(QStringLiteral("\r\n"), QString(QChar(kNoWidth)) + u'\n');
-  text.replace(u'\r', u'\n');
-  return text;
-}
-
-}  // namespace
-
 AreaWidget::AreaWidget(TextArea& area, QWidget& parent) : WidgetFor(area, parent) {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -45,7 +31,7 @@ void AreaWidget::ShowLook() {
 }
 
 void AreaWidget::ShowState() {
-  const QString shown = DocumentText(TheControl().Text());
+  const QString shown = ToQString(TheControl().TextInLines());
   if (toPlainText() != shown) setPlainText(shown);
   ShowSelection();
 }

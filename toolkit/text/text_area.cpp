@@ -26,6 +26,23 @@ std::string_view TextArea::TextToCopy() const {
   return SelectedText().empty() ? std::string_view(Text()) : SelectedText();
 }
 
+std::string TextArea::TextInLines() const {
+  constexpr std::string_view kNoWidth = "\u200B";
+  const std::string& text = Text();
+  std::string lines;
+  lines.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '\r') {
+      lines += text[i];
+    } else if (text.compare(i + 1, 1, "\n") == 0) {
+      lines += kNoWidth;
+    } else {
+      lines += '\n';
+    }
+  }
+  return lines;
+}
+
 std::unique_ptr<ControlView> TextArea::MakeView(WindowView& window_view) {
   return window_view.CreateControl(*this);
 }

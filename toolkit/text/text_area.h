@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "toolkit/text/text_edit.h"
@@ -16,6 +17,9 @@ class TextArea : public TextEdit {
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
+  // The text as paragraphs that end with a line feed each, with as many characters as Text has: a
+  // carriage return is a line end, and before a line feed it becomes a space without width.
+  std::string TextInLines() const;
   // Whether the selection shows only while the window is the active one.
   bool HideSelection() const { return hide_selection_; }
 
