@@ -11,12 +11,13 @@ set(shell "shell/|controlwnd/|toolkit/")
 set(displays "toolkit/")
 set(displays/headless "displays/(headless/|user\\.h)|toolkit/")
 set(displays/qt "displays/qt/|toolkit/")
+set(displays/web "displays/web/|toolkit/")
 foreach(room
         toolkit toolkit/object toolkit/runtime toolkit/control toolkit/text toolkit/window
-        stats controlwnd shell displays displays/headless displays/qt)
+        stats controlwnd shell displays displays/headless displays/qt displays/web)
   file(GLOB sources RELATIVE ${ROOT} ${ROOT}/${room}/*.h ${ROOT}/${room}/*.cpp)
-  # The program, which stands above all rooms.
-  list(REMOVE_ITEM sources shell/main.cpp)
+  # The programs, which stand above all rooms.
+  list(REMOVE_ITEM sources shell/main.cpp shell/web_main.cpp)
   if(NOT sources)
     message(SEND_ERROR "${room}: no sources")
   endif()

@@ -1,7 +1,7 @@
 #include "toolkit/runtime/runtime.h"
 
 #include <algorithm>
-#include <iostream>
+#include <cstdio>
 #include <string>
 #include <utility>
 
@@ -125,7 +125,7 @@ void _UnhandledException(const std::exception_ptr& exception) {
     what = raised.what();
   } catch (...) {
   }
-  std::cerr << "vamo: " << what << std::endl;
+  std::fprintf(stderr, "vamo: %s\n", what.c_str());
   Quit(1);
 }
 

@@ -1,0 +1,84 @@
+#include "displays/web/control.h"
+
+#include "displays/web/window.h"
+#include "toolkit/control/label.h"
+#include "toolkit/window/window.h"
+
+namespace vamo {
+
+std::string Units(double length) { return "calc(var(--unit) * " + std::to_string(length) + ")"; }
+
+std::string ToCss(Colour colour) {
+  const auto part = [](std::uint8_t number) { return std::to_string(number); };
+  return "rgb(" + part(colour.red) + "," + part(colour.green) + "," + part(colour.blue) + ")";
+}
+
+std::string ToCss(const Font& font) {
+  const std::string family = font.name == "System" ? "" : "\"" + font.name + "\",";
+  return std::string(font.italic ? "italic " : "") + (font.bold ? "bold " : "") +
+         std::to_string(font.size) + "px " + family + "system-ui,sans-serif";
+}
+
+std::string_view ToCss(TextAlignment alignment) {
+  switch (alignment) {
+    case TextAlignment::kCentre:
+      return "centre";
+    case TextAlignment::kRight:
+      return "right";
+    case TextAlignment::kDefault:
+    case TextAlignment::kLeft:
+      break;
+  }
+  return "left";
+}
+
+WebControl::WebControl(WebWindow& window, RectControl& control, std::string_view tag)
+    : window_(window), control_(control), element_(window.Content(), tag, this) {
+  window_.Add(*this);
+  element_.SetAttribute("class", "control");
+  const Bounds& box = control.Bounds();
+  element_.SetStyle("--left", std::to_string(box.left));
+  element_.SetStyle("--top", std::to_string(box.top));
+  element_.SetStyle("--width", std::to_string(box.width));
+  element_.SetStyle("--height", std::to_string(box.height));
+}
+
+WebControl::~WebControl() { window_.Remove(*this); }
+
+void WebControl::SetFont(const Font& font) {
+  element_.SetStyle("font", ToCss(font));
+  element_.SetStyle("font-size", Units(font.size));
+  if (font.underline) element_.SetStyle("text-decoration", "underline");
+}
+
+std::string_view WebControl::TabIndex() const {
+  return window_.IsInFront() && control_.CanTakeFocus() && control_.TabStop() ? "0" : "-1";
+}
+
+void WebControl::ShowFocus() {
+  if (!element_.HasFocus()) element_.Focus();
+}
+
+void WebControl::Update() {
+  const auto show = [this](std::string_view attribute, const std::string& text) {
+    if (!text.empty()) element_.SetAttribute(attribute, text);
+  };
+  show("aria-label", control_.AccessibleName());
+  show("aria-description", control_.AccessibleDescription());
+  show("title", control_.Tooltip());
+  element_.SetFlag("hidden", !control_.Visible());
+  ShowState();
+}
+
+// A press on a control brings its window in front, and so does the browser's own way into it.
+PageAnswer WebControl::Take(const PageReport& report) {
+  if (report.event != PageEvent::kPress && report.event != PageEvent::kFocus) {
+    return PageAnswer::kPassed;
+  }
+  window_.BringToFront();
+  if (report.event == PageEvent::kPress) return PageAnswer::kPassed;
+  if (!window_.IsShowingFocus()) window_.Shown().UserFocused(Self(&control_));
+  return PageAnswer::kTaken;
+}
+
+}  // namespace vamo

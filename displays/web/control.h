@@ -1,0 +1,54 @@
+#ifndef VAMO_DISPLAYS_WEB_CONTROL_H_
+#define VAMO_DISPLAYS_WEB_CONTROL_H_
+
+#include <string>
+#include <string_view>
+
+#include "displays/web/page.h"
+#include "toolkit/control/control.h"
+#include "toolkit/runtime/display.h"
+
+namespace vamo {
+
+class WebWindow;
+
+// A length of the design as CSS has it. The style sheet says how long a unit is on this page.
+std::string Units(double length);
+std::string ToCss(Colour colour);
+// The font for `font`, its size in CSS pixels as it is in logical ones.
+std::string ToCss(const Font& font);
+std::string_view ToCss(TextAlignment alignment);
+
+// The element of a control: shows the control's state, and reports what the user does to it.
+class WebControl : public ControlView, public PageListener {
+ public:
+  WebControl(WebWindow& window, RectControl& control, std::string_view tag);
+  ~WebControl() override;
+
+  void Update() override;
+  PageAnswer Take(const PageReport& report) override;
+
+  PageElement& Element() { return element_; }
+  RectControl& Control() { return control_; }
+  // Makes the toolkit know what the user has selected since it was told last.
+  virtual void ReportSelection() {}
+  // Shows where the keys go, or that they no longer go here.
+  virtual void ShowFocus();
+
+ protected:
+  // Shows the control's own state; the common one is shown already.
+  virtual void ShowState() {}
+  WebWindow& Window() { return window_; }
+  // Whether Tab comes here: in the window in front alone, since it is the toolkit's Tab.
+  std::string_view TabIndex() const;
+  void SetFont(const Font& font);
+
+ private:
+  WebWindow& window_;
+  RectControl& control_;
+  PageElement element_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_WEB_CONTROL_H_

@@ -1,0 +1,165 @@
+#include "displays/web/controls.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "displays/web/window.h"
+#include "toolkit/window/text_room.h"
+#include "toolkit/window/window.h"
+
+namespace vamo {
+namespace {
+
+// A caption belongs to what it stands beside, and a result is an output; else it is just a text.
+std::string_view TagOf(const Label& label) {
+  for (const Ref<RectControl>& control : label.Window()->Controls()) {
+    const Ref<Label> caption = control->LabelledBy();
+    if (caption && &*caption == &label) return "label";
+  }
+  return label.AccessibleDescription().empty() ? "span" : "output";
+}
+
+}  // namespace
+
+WebCanvas::WebCanvas(WebWindow& window, Canvas& canvas)
+    : WebControl(window, canvas, "img"), canvas_(canvas) {
+  // It says nothing that the texts do not.
+  Element().SetAttribute("alt", "");
+  Update();
+}
+
+void WebCanvas::ShowState() {
+  const Ref<Picture>& backdrop = canvas_.Backdrop();
+  const auto* picture = backdrop ? dynamic_cast<WebPicture*>(backdrop->Image().get()) : nullptr;
+  if (picture == nullptr) return Element().SetFlag("hidden", true);
+  Element().ShowPicture(picture->Name());
+}
+
+WebRectangle::WebRectangle(WebWindow& window, Rectangle& rectangle)
+    : WebControl(window, rectangle, "div") {
+  const std::string width = Units(std::max(0.0, rectangle.BorderThickness())) + " solid ";
+  const std::string light = width + ToCss(rectangle.TopLeftColour());
+  const std::string dark = width + ToCss(rectangle.BottomRightColour());
+  Element().SetStyle("border-top", light);
+  Element().SetStyle("border-left", light);
+  Element().SetStyle("border-bottom", dark);
+  Element().SetStyle("border-right", dark);
+  Element().SetStyle("background-color", ToCss(rectangle.FillColour()));
+  Update();
+}
+
+WebLabel::WebLabel(WebWindow& window, Label& label)
+    : WebControl(window, label, TagOf(label)), label_(label) {
+  // An output would speak at every step of a drag; the toolkit says what is to be announced.
+  if (TagOf(label) == "output") Element().SetAttribute("aria-live", "off");
+  Element().SetAttribute("class", "control text " + std::string(ToCss(label.Alignment())));
+  Element().SetStyle("color", ToCss(label.TextColour()));
+  SetFont(label.Font());
+  Update();
+}
+
+void WebLabel::ShowState() {
+  Element().SetText(label_.Text());
+  Fit();
+}
+
+// The style sheet lets the text stand out of its box to the side, or to both where it is centred.
+void WebLabel::Fit() {
+  const double width = page::TextWidth(label_.Text(), ToCss(label_.Font()));
+  const auto box = static_cast<double>(label_.Bounds().width);
+  if (width <= box) return Element().SetStyle("transform", "none");
+  const TextRoom room = RoomOfText(label_);
+  const double narrowed = std::min(width, room.left + box + room.right);
+  const double free = box - narrowed;
+  double left = 0;
+  if (label_.Alignment() == TextAlignment::kCentre) left = free / 2;
+  if (label_.Alignment() == TextAlignment::kRight) left = free;
+  left = std::max(-room.left, std::min(left, box + room.right - narrowed));
+  Element().SetAttribute("class", "control text left");
+  Element().SetStyle("transform", "translateX(" + Units(left) + ") scaleX(" +
+                                      std::to_string(narrowed / width) + ")");
+}
+
+WebButton::WebButton(WebWindow& window, PushButton& button)
+    : WebControl(window, button, "button"), button_(button) {
+  Element().SetAttribute("type", "button");
+  Element().SetAttribute("tabindex", "-1");
+  SetFont(button.Font());
+  Update();
+}
+
+void WebButton::ShowState() {
+  Element().SetText(button_.Caption());
+  Element().SetFlag("disabled", !button_.Enabled());
+}
+
+PageAnswer WebButton::Take(const PageReport& report) {
+  const PageAnswer answer = WebControl::Take(report);
+  const Bounds& box = button_.Bounds();
+  if (report.event == PageEvent::kPress && button_.Enabled()) {
+    button_.UserPressed(std::llround(report.x * static_cast<double>(box.width)),
+                        std::llround(report.y * static_cast<double>(box.height)));
+    // It never has the keys.
+    return PageAnswer::kTakenWhole;
+  }
+  // The click of a mouse is the end of a press.
+  if (report.event == PageEvent::kClick && report.x == 0) {
+    button_.UserPressedByAssistiveTechnology();
+  }
+  return answer;
+}
+
+WebSlider::WebSlider(WebWindow& window, Slider& slider)
+    : WebControl(window, slider, "input"), slider_(slider) {
+  Element().SetAttribute("type", "range");
+  const auto set = [&](std::string_view name, std::int64_t position) {
+    Element().SetAttribute(name, std::to_string(slider.InUnits(position)));
+  };
+  set("min", slider.MinimumValue());
+  set("max", slider.MaximumValue());
+  set("step", 1);
+  Update();
+}
+
+void WebSlider::ShowState() {
+  Element().SetFlag("disabled", !slider_.Enabled());
+  Element().SetAttribute("tabindex", TabIndex());
+  if (shown_ == slider_.Value()) return;
+  shown_ = slider_.Value();
+  const std::string value = std::to_string(slider_.InUnits(*shown_));
+  Element().SetValue(value);
+  const double least = static_cast<double>(slider_.MinimumValue());
+  const double share = (static_cast<double>(*shown_) - least) /
+                       (static_cast<double>(slider_.MaximumValue()) - least);
+  Element().SetStyle("--passed", std::to_string(share));
+}
+
+PageAnswer WebSlider::Take(const PageReport& report) {
+  const PageAnswer answer = WebControl::Take(report);
+  switch (report.event) {
+    case PageEvent::kPress:
+      return slider_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
+    case PageEvent::kInput:
+      // The page shows already what may not stand.
+      shown_ = std::nullopt;
+      slider_.UserSetByAssistiveTechnology(std::strtod(report.text.c_str(), nullptr));
+      Update();
+      return PageAnswer::kTaken;
+    case PageEvent::kWheel:
+      TakeWheel(report.y != 0 ? report.y : report.x);
+      return PageAnswer::kTakenWhole;
+    default:
+      return answer;
+  }
+}
+
+// A wheel that is turned to the right takes the knob to the right.
+void WebSlider::TakeWheel(double turned) {
+  turned_ += turned;
+  const double notches = std::trunc(turned_);
+  turned_ -= notches;
+  if (notches != 0) slider_.UserTurnedWheel(static_cast<std::int64_t>(notches));
+}
+
+}  // namespace vamo

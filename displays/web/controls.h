@@ -1,0 +1,84 @@
+// The controls but for those of text.
+#ifndef VAMO_DISPLAYS_WEB_CONTROLS_H_
+#define VAMO_DISPLAYS_WEB_CONTROLS_H_
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "displays/web/control.h"
+#include "toolkit/control/canvas.h"
+#include "toolkit/control/label.h"
+#include "toolkit/control/push_button.h"
+#include "toolkit/control/rectangle.h"
+#include "toolkit/control/slider.h"
+
+namespace vamo {
+
+// An image that is part of the page.
+class WebPicture : public DisplayPicture {
+ public:
+  explicit WebPicture(std::string name) : name_(std::move(name)) {}
+  const std::string& Name() const { return name_; }
+
+ private:
+  const std::string name_;
+};
+
+class WebCanvas : public WebControl {
+ public:
+  WebCanvas(WebWindow& window, Canvas& canvas);
+
+ private:
+  void ShowState() override;
+
+  Canvas& canvas_;
+};
+
+class WebRectangle : public WebControl {
+ public:
+  WebRectangle(WebWindow& window, Rectangle& rectangle);
+};
+
+// A text that is narrowed to the room that it has.
+class WebLabel : public WebControl {
+ public:
+  WebLabel(WebWindow& window, Label& label);
+
+ private:
+  void ShowState() override;
+  void Fit();
+
+  Label& label_;
+};
+
+class WebButton : public WebControl {
+ public:
+  WebButton(WebWindow& window, PushButton& button);
+  PageAnswer Take(const PageReport& report) override;
+
+ private:
+  void ShowState() override;
+
+  PushButton& button_;
+};
+
+// A slider in the unit that assistive technology reads.
+class WebSlider : public WebControl {
+ public:
+  WebSlider(WebWindow& window, Slider& slider);
+  PageAnswer Take(const PageReport& report) override;
+
+ private:
+  void ShowState() override;
+  void TakeWheel(double turned);
+
+  Slider& slider_;
+  std::optional<std::int64_t> shown_;
+  // What the wheel has turned beyond whole notches.
+  double turned_ = 0;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_WEB_CONTROLS_H_

@@ -1,0 +1,130 @@
+#include "displays/web/display.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "displays/web/controls.h"
+#include "displays/web/window.h"
+
+namespace vamo {
+namespace {
+
+class WebTimer : public RunningTimer {
+ public:
+  WebTimer(std::chrono::milliseconds period, std::function<void()> fire)
+      : number_(page::StartTimer(period, std::move(fire))) {}
+  ~WebTimer() override { page::StopTimer(number_); }
+
+ private:
+  const int number_;
+};
+
+}  // namespace
+
+WebDisplay::WebDisplay(std::function<void()> ended)
+    : ended_(std::move(ended)), announcement_(page_, "div") {
+  announcement_.SetAttribute("class", "announcement");
+  announcement_.SetAttribute("role", "status");
+  page::SetListener(this);
+}
+
+WebDisplay::~WebDisplay() { page::SetListener(nullptr); }
+
+// The browser brings the events.
+void WebDisplay::Run() {}
+
+void WebDisplay::Stop() {
+  page::SetListener(nullptr);
+  page::Post(ended_);
+}
+
+std::unique_ptr<WindowView> WebDisplay::OpenWindow(Window& window) {
+  return std::make_unique<WebWindow>(*this, window);
+}
+
+void WebDisplay::Beep() {
+  page::Sound();
+  if (front_ != nullptr) front_->Flash();
+}
+
+// The same sentence once more is a change only where it had gone in between.
+void WebDisplay::Announce(std::string_view sentence) {
+  announcement_.SetText("");
+  announcement_.SetText(sentence);
+}
+
+std::shared_ptr<DisplayPicture> WebDisplay::OpenPicture(std::string_view file_name) {
+  if (!page::HasPicture(file_name)) return nullptr;
+  return std::make_shared<WebPicture>(std::string(file_name));
+}
+
+std::unique_ptr<RunningTimer> WebDisplay::StartTimer(std::chrono::milliseconds period,
+                                                     std::function<void()> fire) {
+  return std::make_unique<WebTimer>(period, std::move(fire));
+}
+
+PageAnswer WebDisplay::Take(const PageReport& report) {
+  if (front_ == nullptr) return PageAnswer::kPassed;
+  switch (report.event) {
+    case PageEvent::kKey:
+      return front_->TakeKey(report);
+    case PageEvent::kCopy:
+      front_->TakeCommand("c");
+      return PageAnswer::kTakenWhole;
+    case PageEvent::kCut:
+      front_->TakeCommand("x");
+      return PageAnswer::kTakenWhole;
+    case PageEvent::kPaste:
+      WithPasted(report.text, [this] { front_->TakeCommand("v"); });
+      return PageAnswer::kTakenWhole;
+    default:
+      return PageAnswer::kPassed;
+  }
+}
+
+void WebDisplay::WithPasted(std::string text, const std::function<void()>& act) {
+  pasted_ = std::move(text);
+  act();
+  pasted_.clear();
+}
+
+void WebDisplay::Activate(WebWindow& window) {
+  if (front_ == &window) return;
+  if (front_ != nullptr) front_->Shown().UserDeactivated();
+  front_ = &window;
+  std::erase(windows_, &window);
+  windows_.push_back(&window);
+  for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->ShowPlace(static_cast<int>(i));
+  window.ShowFocus();
+  window.Shown().UserActivated();
+}
+
+void WebDisplay::ComeInFront(WebWindow& window) {
+  page::Post([this, shown = &window] {
+    const auto found = std::find(windows_.begin(), windows_.end(), shown);
+    if (found != windows_.end() && shown->OnScreen()) Activate(*shown);
+  });
+}
+
+void WebDisplay::GoFromFront(WebWindow& window) {
+  if (front_ != &window) return;
+  front_ = nullptr;
+  page::Post([this] { ActivateNext(); });
+}
+
+void WebDisplay::Remove(WebWindow& window) {
+  std::erase(windows_, &window);
+  GoFromFront(window);
+}
+
+void WebDisplay::ActivateNext() {
+  const auto next = std::find_if(windows_.rbegin(), windows_.rend(),
+                                 [](const WebWindow* window) { return window->OnScreen(); });
+  if (front_ == nullptr && next != windows_.rend()) Activate(**next);
+}
+
+std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended) {
+  return std::make_unique<WebDisplay>(std::move(ended));
+}
+
+}  // namespace vamo

@@ -1,0 +1,76 @@
+#ifndef VAMO_DISPLAYS_WEB_DISPLAY_H_
+#define VAMO_DISPLAYS_WEB_DISPLAY_H_
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "displays/web/page.h"
+#include "toolkit/runtime/display.h"
+
+namespace vamo {
+
+class WebWindow;
+
+// A page in a browser. Its windows are active among themselves: that another page or program is in
+// front is nothing that it reports, so that whoever comes back finds all as it was.
+class WebDisplay : public Display, public PageListener {
+ public:
+  // Calls `ended`, as an event of its own, when the program is to be finished.
+  explicit WebDisplay(std::function<void()> ended);
+  ~WebDisplay() override;
+
+  void Run() override;
+  void Stop() override;
+  std::unique_ptr<WindowView> OpenWindow(Window& window) override;
+  void Beep() override;
+  void Announce(std::string_view sentence) override;
+  std::shared_ptr<DisplayPicture> OpenPicture(std::string_view file_name) override;
+  std::unique_ptr<RunningTimer> StartTimer(std::chrono::milliseconds period,
+                                           std::function<void()> fire) override;
+  std::string ClipboardText() override { return pasted_; }
+  // A page may not look at the clipboard before the user pastes.
+  bool ClipboardMayHoldText() const override { return true; }
+  void SetClipboardText(std::string_view text) override { page::Copy(text); }
+  bool MenuBarsLiveInWindows() const override { return true; }
+  bool TabLeavesWindows() const override { return true; }
+
+  // What happens outside of all windows, and the keys.
+  PageAnswer Take(const PageReport& report) override;
+
+  // For the windows.
+  PageElement& Page() { return page_; }
+  void Add(WebWindow& window) { windows_.push_back(&window); }
+  void Remove(WebWindow& window);
+  WebWindow* Front() const { return front_; }
+  void Activate(WebWindow& window);
+  // As an event of its own.
+  void ComeInFront(WebWindow& window);
+  void GoFromFront(WebWindow& window);
+  // Does something that may ask for the clipboard's text, which is `text`.
+  void WithPasted(std::string text, const std::function<void()>& act);
+
+ private:
+  void ActivateNext();
+
+  const std::function<void()> ended_;
+  PageElement page_;
+  PageElement announcement_;
+  // In the order in which they have come in front, the last at the end.
+  std::vector<WebWindow*> windows_;
+  WebWindow* front_ = nullptr;
+  std::string pasted_;
+};
+
+// The display in the page that this program runs in.
+std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended);
+
+// Says on the page that the program has ended, with that exit status, and offers to call `restart`.
+void ShowEnd(int status, std::function<void()> restart);
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_WEB_DISPLAY_H_

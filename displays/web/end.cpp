@@ -1,0 +1,52 @@
+// What the page shows when the program has ended.
+#include <memory>
+#include <utility>
+
+#include "displays/web/display.h"
+
+namespace vamo {
+namespace {
+
+class End : public PageListener {
+ public:
+  End(int status, std::function<void()> restart)
+      : pressed_([restart = std::move(restart)](const PageReport& report) {
+          if (report.event == PageEvent::kClick) page::Post(restart);
+          return PageAnswer::kPassed;
+        }),
+        frame_(page_, "section"),
+        text_(frame_, "p"),
+        button_(frame_, "button", &pressed_) {
+    frame_.SetAttribute("class", "end");
+    text_.SetAttribute("role", "status");
+    text_.SetText(status == 0 ? "Vamo has ended." : "Vamo has stopped because of an error.");
+    button_.SetAttribute("type", "button");
+    button_.SetText("Start again");
+    button_.Focus();
+    page::SetListener(this);
+  }
+
+  PageAnswer Take(const PageReport& /*report*/) override { return PageAnswer::kPassed; }
+
+ private:
+  PageHandler pressed_;
+  PageElement page_;
+  PageElement frame_;
+  PageElement text_;
+  PageElement button_;
+};
+
+std::unique_ptr<End> end;
+
+}  // namespace
+
+void ShowEnd(int status, std::function<void()> restart) {
+  end = std::make_unique<End>(status, [restart = std::move(restart)] {
+    // A copy runs, since it goes with what shows.
+    const std::function<void()> start = restart;
+    end = nullptr;
+    start();
+  });
+}
+
+}  // namespace vamo

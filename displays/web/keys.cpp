@@ -1,0 +1,76 @@
+#include "displays/web/keys.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "toolkit/utf8.h"
+
+namespace vamo {
+namespace {
+
+struct ControlCode {
+  std::string_view name;
+  char code;
+};
+constexpr std::array kControlCodes{
+    ControlCode{"Backspace", kBackspace},  ControlCode{"Tab", kTab},
+    ControlCode{"Enter", kReturn},         ControlCode{"Escape", kEscape},
+    ControlCode{"Delete", kForwardDelete},
+};
+
+struct CodedKey {
+  std::string_view name;
+  KeyCode code;
+};
+constexpr std::array kCodedKeys{
+    CodedKey{"ArrowLeft", KeyCode::kLeft}, CodedKey{"ArrowRight", KeyCode::kRight},
+    CodedKey{"ArrowUp", KeyCode::kUp},     CodedKey{"ArrowDown", KeyCode::kDown},
+    CodedKey{"PageUp", KeyCode::kPageUp},  CodedKey{"PageDown", KeyCode::kPageDown},
+    CodedKey{"Home", KeyCode::kHome},      CodedKey{"End", KeyCode::kEnd},
+    CodedKey{"F1", KeyCode::kHelp},        CodedKey{"Help", KeyCode::kHelp},
+};
+
+constexpr std::array<std::string_view, 15> kModifiers{
+    "Alt",   "AltGraph", "CapsLock", "Compose",    "Control", "Dead",   "Fn",        "FnLock",
+    "Hyper", "Meta",     "NumLock",  "ScrollLock", "Shift",   "Symbol", "SymbolLock"};
+
+bool IsPrintable(std::string_view name) { return CharacterCount(name) == 1; }
+
+bool IsCommand(const PageReport& report, bool on_mac) {
+  if (on_mac) return report.meta;
+  // Ctrl and Alt together are AltGr on Windows, which makes characters.
+  return report.control && !(report.alt && IsPrintable(report.text));
+}
+
+char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+}  // namespace
+
+std::optional<Key> ToKey(const PageReport& report, bool on_mac) {
+  const std::string& name = report.text;
+  if (std::find(kModifiers.begin(), kModifiers.end(), name) != kModifiers.end())
+    return std::nullopt;
+  Key key{KeyCode::kOther, "", report.shift, IsCommand(report, on_mac)};
+  for (const auto& [control_name, code] : kControlCodes) {
+    if (control_name != name) continue;
+    key.code = KeyCode::kCharacter;
+    key.text = std::string(1, code);
+    if (code != kBackspace && code != kForwardDelete) return key;
+    key.word = on_mac ? report.alt : key.command;
+    key.command = false;
+    return key;
+  }
+  for (const auto& [coded_name, code] : kCodedKeys) {
+    if (coded_name == name) key.code = code;
+  }
+  // With Alt a letter is another character on a Mac and a mnemonic of the browser elsewhere.
+  const bool mnemonic = report.alt && !report.control && !on_mac;
+  if (key.code != KeyCode::kOther || !IsPrintable(name) || mnemonic) return key;
+  key.code = KeyCode::kCharacter;
+  key.text = key.command ? std::string(1, LowerCase(name[0])) : name;
+  return key;
+}
+
+}  // namespace vamo

@@ -1,0 +1,17 @@
+#ifndef VAMO_DISPLAYS_WEB_KEYS_H_
+#define VAMO_DISPLAYS_WEB_KEYS_H_
+
+#include <optional>
+
+#include "displays/web/page.h"
+#include "toolkit/runtime/key.h"
+
+namespace vamo {
+
+// The key of a report, with the command and word keys of the browser's platform; nothing for a bare
+// modifier or a dead key.
+std::optional<Key> ToKey(const PageReport& report, bool on_mac);
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_WEB_KEYS_H_

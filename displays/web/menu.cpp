@@ -1,0 +1,235 @@
+#include "displays/web/menu.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "displays/web/display.h"
+#include "displays/web/window.h"
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/text/edit_commands.h"
+#include "toolkit/window/menu_service.h"
+
+namespace vamo {
+namespace {
+
+char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+// A page may read the clipboard only while the user looks on, and has to wait for it.
+bool Pastes(const MenuItem& item) {
+  for (const EditCommand& command : kEditCommands) {
+    if (command.action == EditAction::kPaste && command.item == item.Name()) return item.Enabled();
+  }
+  return false;
+}
+
+}  // namespace
+
+struct WebMenuBar::Entry {
+  Entry(const PageElement& list, Ref<MenuItem> shown, PageHandler::Handler handler)
+      : item(std::move(shown)), listener(std::move(handler)), element(list, "li", &listener) {}
+
+  void Show() {
+    const bool separates = IsSeparator(*item);
+    shows = item->Visible() && !item->Value().empty();
+    element.SetFlag("hidden", !shows);
+    element.SetAttribute("role", separates ? "separator" : "menuitem");
+    if (separates) return;
+    element.SetAttribute("tabindex", "-1");
+    element.SetAttribute("aria-disabled", item->Enabled() ? "false" : "true");
+    element.SetText(item->Value());
+    // Without what the style sheet shows of the shortcut.
+    element.SetAttribute("aria-label", item->Value());
+    std::string shortcut = item->Shortcut();
+    if (shortcut.empty()) return;
+    shortcut.replace(0, shortcut.find('+'), page::IsMac() ? "Meta" : "Control");
+    element.SetAttribute("aria-keyshortcuts", shortcut);
+    shortcut.replace(0, shortcut.find('+'), page::IsMac() ? "Cmd" : "Ctrl");
+    element.SetAttribute("data-shortcut", shortcut);
+  }
+  bool CanBeFocused() const { return shows && !IsSeparator(*item); }
+
+  const Ref<MenuItem> item;
+  PageHandler listener;
+  PageElement element;
+  bool shows = true;
+};
+
+struct WebMenuBar::Menu {
+  Menu(const PageElement& bar, const std::string& text, PageHandler::Handler handler)
+      : listener(std::move(handler)),
+        holder(bar, "div"),
+        title(holder, "button", &listener),
+        list(holder, "ul"),
+        letter(LowerCase(text[0])) {
+    holder.SetAttribute("role", "none");
+    title.SetAttribute("type", "button");
+    title.SetAttribute("role", "menuitem");
+    title.SetAttribute("aria-haspopup", "menu");
+    title.SetText(text);
+    list.SetAttribute("role", "menu");
+    list.SetAttribute("aria-labelledby", title.Id());
+  }
+
+  PageHandler listener;
+  PageElement holder;
+  PageElement title;
+  PageElement list;
+  std::vector<std::unique_ptr<Entry>> entries;
+  char letter;
+};
+
+WebMenuBar::WebMenuBar(WebWindow& window, const PageElement& parent, const MenuBar& bar)
+    : window_(window), bar_(std::make_unique<PageElement>(parent, "div")) {
+  bar_->SetAttribute("role", "menubar");
+  bar_->SetAttribute("aria-label", window.Shown().ListedTitle());
+  for (const DrawnMenu& drawn : DrawnMenus(bar)) {
+    const std::size_t number = menus_.size();
+    menus_.push_back(std::make_unique<Menu>(
+        *bar_, drawn.text,
+        [this, number](const PageReport& report) { return TakeTitle(number, report); }));
+    Menu& menu = *menus_.back();
+    for (const Ref<MenuItem>& item : drawn.items) {
+      const std::size_t entry = menu.entries.size();
+      menu.entries.push_back(
+          std::make_unique<Entry>(menu.list, item, [this, number, entry](const PageReport& report) {
+            return TakeEntry(number, entry, report);
+          }));
+    }
+  }
+  Close();
+  ShowPlace(/*in_front=*/false);
+}
+
+WebMenuBar::~WebMenuBar() = default;
+
+void WebMenuBar::ShowPlace(bool in_front) {
+  for (std::size_t i = 0; i < menus_.size(); ++i) {
+    menus_[i]->title.SetAttribute("tabindex", in_front && i == 0 ? "0" : "-1");
+  }
+  if (!in_front) Close();
+}
+
+void WebMenuBar::Focus() { FocusTitle(0); }
+
+void WebMenuBar::FocusTitle(std::size_t menu) { menus_[menu]->title.Focus(); }
+
+void WebMenuBar::Open(std::size_t menu) {
+  UserOpensMenu();
+  Close();
+  open_ = menu;
+  for (const auto& entry : menus_[menu]->entries) entry->Show();
+  menus_[menu]->title.SetAttribute("aria-expanded", "true");
+  menus_[menu]->list.SetFlag("hidden", false);
+}
+
+void WebMenuBar::Close() {
+  open_ = kNone;
+  for (const auto& menu : menus_) {
+    menu->title.SetAttribute("aria-expanded", "false");
+    menu->list.SetFlag("hidden", true);
+  }
+}
+
+PageAnswer WebMenuBar::TakeTitle(std::size_t menu, const PageReport& report) {
+  if (report.event == PageEvent::kKey) return TakeKey(menu, report);
+  const bool pressed = report.event == PageEvent::kPress;
+  // The click of a mouse is the end of a press; another one is assistive technology's.
+  if (!pressed && (report.event != PageEvent::kClick || report.x != 0)) return PageAnswer::kPassed;
+  window_.BringToFront();
+  window_.ReportSelection();
+  if (open_ == menu) {
+    Close();
+    window_.ShowFocus();
+  } else {
+    Open(menu);
+    FocusTitle(menu);
+  }
+  return PageAnswer::kTakenWhole;
+}
+
+PageAnswer WebMenuBar::TakeEntry(std::size_t menu, std::size_t entry, const PageReport& report) {
+  if (report.event == PageEvent::kPress) return PageAnswer::kTakenWhole;
+  const Entry& taken = *menus_[menu]->entries[entry];
+  const bool chosen =
+      report.event == PageEvent::kClick ||
+      (report.event == PageEvent::kKey && (report.text == "Enter" || report.text == " "));
+  if (chosen) {
+    Choose(taken.item);
+    return PageAnswer::kTakenWhole;
+  }
+  if (report.event != PageEvent::kKey) return PageAnswer::kPassed;
+  if (report.text == "ArrowDown" || report.text == "ArrowUp") {
+    FocusEntry(menu, Next(menu, entry, report.text == "ArrowDown" ? 1 : -1));
+    return PageAnswer::kTakenWhole;
+  }
+  return TakeKey(menu, report);
+}
+
+PageAnswer WebMenuBar::TakeKey(std::size_t menu, const PageReport& report) {
+  const std::string& key = report.text;
+  if (key == "ArrowLeft" || key == "ArrowRight") {
+    const std::size_t step = key == "ArrowLeft" ? menus_.size() - 1 : 1;
+    const std::size_t next = (menu + step) % menus_.size();
+    const bool was_open = open_ != kNone;
+    if (was_open) Open(next);
+    FocusTitle(next);
+    return PageAnswer::kTakenWhole;
+  }
+  if (key == "ArrowDown" || key == "ArrowUp" || key == "Enter" || key == " ") {
+    window_.ReportSelection();
+    Open(menu);
+    FocusEntry(menu, Next(menu, kNone, key == "ArrowUp" ? -1 : 1));
+    return PageAnswer::kTakenWhole;
+  }
+  if (key == "Escape" || key == "F10" || (key == "Tab" && open_ != kNone)) {
+    Close();
+    window_.ShowFocus();
+    return PageAnswer::kTakenWhole;
+  }
+  if (key == "Tab") return PageAnswer::kTaken;
+  if (report.control || report.meta || report.alt || key.size() != 1) return PageAnswer::kPassed;
+  if (open_ == menu) {
+    for (std::size_t i = 0; i < menus_[menu]->entries.size(); ++i) {
+      const Entry& entry = *menus_[menu]->entries[i];
+      if (entry.CanBeFocused() && LowerCase(entry.item->Value()[0]) == LowerCase(key[0])) {
+        FocusEntry(menu, i);
+      }
+    }
+  } else {
+    for (std::size_t i = 0; i < menus_.size(); ++i) {
+      if (menus_[i]->letter == LowerCase(key[0])) FocusTitle(i);
+    }
+  }
+  return PageAnswer::kTakenWhole;
+}
+
+std::size_t WebMenuBar::Next(std::size_t menu, std::size_t entry, int step) const {
+  const auto& entries = menus_[menu]->entries;
+  const std::size_t count = entries.size();
+  const std::size_t forward = step > 0 ? 1 : count - 1;
+  std::size_t next = entry == kNone ? (step > 0 ? count - 1 : 0) : entry;
+  for (std::size_t i = 0; i < count; ++i) {
+    next = (next + forward) % count;
+    if (entries[next]->CanBeFocused()) return next;
+  }
+  return entry;
+}
+
+void WebMenuBar::FocusEntry(std::size_t menu, std::size_t entry) {
+  if (entry != kNone) menus_[menu]->entries[entry]->element.Focus();
+}
+
+// What is chosen may close the window, and this bar with it.
+void WebMenuBar::Choose(Ref<MenuItem> item) {
+  if (!item->Enabled()) return;
+  Close();
+  window_.ShowFocus();
+  if (!Pastes(*item)) return UserChose(item);
+  page::ReadClipboard([item, &display = window_.Display()](std::optional<std::string> text) {
+    if (!text.has_value()) return Beep();
+    display.WithPasted(std::move(*text), [&] { UserChose(item); });
+  });
+}
+
+}  // namespace vamo

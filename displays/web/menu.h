@@ -1,0 +1,54 @@
+#ifndef VAMO_DISPLAYS_WEB_MENU_H_
+#define VAMO_DISPLAYS_WEB_MENU_H_
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "displays/web/page.h"
+#include "toolkit/object/object.h"
+#include "toolkit/window/menu_item.h"
+
+namespace vamo {
+
+class WebWindow;
+
+// The menu bar of a window, as keyboard and screen readers expect it of a page: one stop of Tab,
+// the arrow keys between and in the menus, first letters, Escape back.
+class WebMenuBar {
+ public:
+  WebMenuBar(WebWindow& window, const PageElement& parent, const MenuBar& bar);
+  ~WebMenuBar();
+
+  // Takes the focus to the first menu.
+  void Focus();
+  // Whether Tab comes here.
+  void ShowPlace(bool in_front);
+
+ private:
+  struct Entry;
+  struct Menu;
+
+  PageAnswer TakeTitle(std::size_t menu, const PageReport& report);
+  PageAnswer TakeEntry(std::size_t menu, std::size_t entry, const PageReport& report);
+  PageAnswer TakeKey(std::size_t menu, const PageReport& report);
+  void FocusTitle(std::size_t menu);
+  void Open(std::size_t menu);
+  void Close();
+  // The entry after another one that shows, around the ends; the first or the last of all after
+  // kNone.
+  std::size_t Next(std::size_t menu, std::size_t entry, int step) const;
+  void FocusEntry(std::size_t menu, std::size_t entry);
+  void Choose(Ref<MenuItem> item);
+
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+  WebWindow& window_;
+  std::unique_ptr<PageElement> bar_;
+  std::vector<std::unique_ptr<Menu>> menus_;
+  std::size_t open_ = kNone;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_WEB_MENU_H_

@@ -1,0 +1,229 @@
+#include "displays/web/page.h"
+
+#include <emscripten/emscripten.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <deque>
+#include <memory>
+#include <utility>
+
+// What page.js does. A text is its first byte and its length, in UTF-8.
+extern "C" {
+int page_create(int parent, const char* tag, std::size_t tag_length, int listens);
+void page_remove(int element);
+void page_set_attribute(int element, const char* name, std::size_t name_length, const char* value,
+                        std::size_t value_length);
+void page_remove_attribute(int element, const char* name, std::size_t name_length);
+void page_set_style(int element, const char* name, std::size_t name_length, const char* value,
+                    std::size_t value_length);
+void page_set_text(int element, const char* text, std::size_t length);
+void page_set_value(int element, const char* text, std::size_t length);
+void page_select(int element, std::size_t anchor, std::size_t caret);
+std::size_t page_anchor(int element);
+std::size_t page_caret(int element);
+void page_focus(int element);
+int page_has_focus(int element);
+void page_bring_to_end(int element);
+void page_flash(int element);
+void page_post();
+void page_start_timer(int timer, double period);
+void page_stop_timer(int timer);
+double page_text_width(const char* text, std::size_t length, const char* font,
+                       std::size_t font_length);
+void page_copy(const char* text, std::size_t length);
+void page_read_clipboard();
+void page_sound();
+int page_has_picture(const char* name, std::size_t length);
+void page_show_picture(int element, const char* name, std::size_t length);
+int page_is_worked_by_fingers();
+int page_is_mac();
+}
+
+namespace vamo {
+namespace {
+
+struct State {
+  std::map<int, PageListener*> listeners;
+  PageListener* listener = nullptr;
+  std::map<int, std::function<void()>> timers;
+  int last_timer = 0;
+  std::deque<std::function<void()>> posted;
+  std::function<void(std::optional<std::string>)> clipboard_reader;
+};
+
+State& Page() {
+  static State state;
+  return state;
+}
+
+// Takes over a text that page.js has put there.
+std::string Taken(char* text, std::size_t length) {
+  const std::unique_ptr<char, decltype(&std::free)> owned(text, std::free);
+  return {text, length};
+}
+
+constexpr unsigned kShift = 1;
+constexpr unsigned kControl = 2;
+constexpr unsigned kAlt = 4;
+constexpr unsigned kMeta = 8;
+
+}  // namespace
+
+PageElement::PageElement(const PageElement& parent, std::string_view tag, PageListener* listener)
+    : number_(page_create(parent.number_, tag.data(), tag.size(), listener != nullptr ? 1 : 0)) {
+  if (listener != nullptr) Page().listeners[number_] = listener;
+}
+
+PageElement::PageElement() : number_(0) {}
+
+PageElement::~PageElement() {
+  if (number_ == 0) return;
+  Page().listeners.erase(number_);
+  page_remove(number_);
+}
+
+bool PageElement::Note(std::string_view name, std::string_view value) {
+  const auto known = shown_.find(name);
+  if (known != shown_.end() && known->second == value) return false;
+  shown_[std::string(name)] = value;
+  return true;
+}
+
+void PageElement::SetAttribute(std::string_view name, std::string_view value) {
+  if (Note(name, value))
+    page_set_attribute(number_, name.data(), name.size(), value.data(), value.size());
+}
+
+void PageElement::SetFlag(std::string_view name, bool on) {
+  if (on) {
+    SetAttribute(name, "");
+  } else if (shown_.erase(std::string(name)) > 0) {
+    page_remove_attribute(number_, name.data(), name.size());
+  }
+}
+
+void PageElement::SetStyle(std::string_view name, std::string_view value) {
+  if (Note(name, value))
+    page_set_style(number_, name.data(), name.size(), value.data(), value.size());
+}
+
+void PageElement::SetText(std::string_view text) {
+  if (Note("#text", text)) page_set_text(number_, text.data(), text.size());
+}
+
+void PageElement::SetValue(std::string_view value) {
+  page_set_value(number_, value.data(), value.size());
+}
+
+void PageElement::Select(const PageSelection& selection) {
+  page_select(number_, selection.anchor, selection.caret);
+}
+
+PageSelection PageElement::Selection() const { return {page_anchor(number_), page_caret(number_)}; }
+
+void PageElement::Focus() { page_focus(number_); }
+
+bool PageElement::HasFocus() const { return page_has_focus(number_) != 0; }
+
+void PageElement::BringToEnd() { page_bring_to_end(number_); }
+
+void PageElement::Flash() { page_flash(number_); }
+
+void PageElement::ShowPicture(std::string_view name) {
+  page_show_picture(number_, name.data(), name.size());
+}
+
+std::string PageElement::Id() const { return "vamo" + std::to_string(number_); }
+
+namespace page {
+
+void SetListener(PageListener* listener) {
+  Page().listener = listener;
+  if (listener == nullptr) Page().clipboard_reader = nullptr;
+}
+
+void Post(std::function<void()> function) {
+  Page().posted.push_back(std::move(function));
+  page_post();
+}
+
+int StartTimer(std::chrono::milliseconds period, std::function<void()> function) {
+  const int number = ++Page().last_timer;
+  Page().timers.emplace(number, std::move(function));
+  page_start_timer(number, static_cast<double>(period.count()));
+  return number;
+}
+
+void StopTimer(int number) {
+  Page().timers.erase(number);
+  page_stop_timer(number);
+}
+
+double TextWidth(std::string_view text, std::string_view css_font) {
+  return page_text_width(text.data(), text.size(), css_font.data(), css_font.size());
+}
+
+void Copy(std::string_view text) { page_copy(text.data(), text.size()); }
+
+void ReadClipboard(std::function<void(std::optional<std::string>)> take) {
+  Page().clipboard_reader = std::move(take);
+  page_read_clipboard();
+}
+
+void Sound() { page_sound(); }
+
+bool HasPicture(std::string_view name) { return page_has_picture(name.data(), name.size()) != 0; }
+
+bool IsWorkedByFingers() { return page_is_worked_by_fingers() != 0; }
+
+bool IsMac() { return page_is_mac() != 0; }
+
+}  // namespace page
+}  // namespace vamo
+
+// What page.js calls.
+extern "C" {
+
+// To the element, or to the page's own listener for -1.
+EMSCRIPTEN_KEEPALIVE int page_report(int element, int event, double x, double y, unsigned held,
+                                     char* text, std::size_t text_length, char* data,
+                                     std::size_t data_length) {
+  using vamo::Page;
+  const vamo::PageReport report{.event = static_cast<vamo::PageEvent>(event),
+                                .x = x,
+                                .y = y,
+                                .shift = (held & vamo::kShift) != 0,
+                                .control = (held & vamo::kControl) != 0,
+                                .alt = (held & vamo::kAlt) != 0,
+                                .meta = (held & vamo::kMeta) != 0,
+                                .text = vamo::Taken(text, text_length),
+                                .data = vamo::Taken(data, data_length)};
+  const auto found = Page().listeners.find(element);
+  vamo::PageListener* listener = found == Page().listeners.end() ? nullptr : found->second;
+  if (element < 0) listener = Page().listener;
+  if (Page().listener == nullptr || listener == nullptr) return 0;
+  return static_cast<int>(listener->Take(report));
+}
+
+EMSCRIPTEN_KEEPALIVE void page_fire(int timer) {
+  const auto found = vamo::Page().timers.find(timer);
+  if (found == vamo::Page().timers.end()) return;
+  // A copy runs, since what fires may stop the timer.
+  const std::function<void()> fire = found->second;
+  fire();
+}
+
+EMSCRIPTEN_KEEPALIVE void page_run_posted() {
+  const std::function<void()> function = std::move(vamo::Page().posted.front());
+  vamo::Page().posted.pop_front();
+  function();
+}
+
+EMSCRIPTEN_KEEPALIVE void page_give_clipboard(int allowed, char* text, std::size_t length) {
+  std::string given = vamo::Taken(text, length);
+  const auto take = std::exchange(vamo::Page().clipboard_reader, nullptr);
+  if (take != nullptr) take(allowed != 0 ? std::optional(std::move(given)) : std::nullopt);
+}
+
+}  // extern "C"

@@ -1,0 +1,199 @@
+// The primitives of page.h and the listeners of the page. What a press or a key does is decided by
+// the program, which answers whether the browser is still to do what it would do by itself.
+mergeInto(LibraryManager.library, {
+  $Page: {
+    // By their numbers. The first is what the windows lie in.
+    elements: [],
+    timers: {},
+    // What the running event is to put on the clipboard.
+    copied: null,
+    inCopy: false,
+    // A text is its first byte and its length.
+    read: function (at, length) {
+      return new TextDecoder('utf-8', { ignoreBOM: true }).decode(HEAPU8.subarray(at, at + length));
+    },
+    // Puts a text there for the program to take over.
+    give: function (text) {
+      var bytes = new TextEncoder().encode(text);
+      var at = _malloc(bytes.length + 1);
+      HEAPU8.set(bytes, at);
+      return { at: at, length: bytes.length };
+    },
+    // Tells the listeners from the target outwards, until one has taken it. A press has its place in
+    // each of them.
+    report: function (cause, event, x, y, text, data) {
+      var held = (cause.shiftKey ? 1 : 0) + (cause.ctrlKey ? 2 : 0) + (cause.altKey ? 4 : 0) +
+        (cause.metaKey ? 8 : 0);
+      var answer = 0;
+      for (var element = cause.target; element && !answer; element = element.parentNode) {
+        if (!element.listens) continue;
+        if (event === 1) {
+          var box = element.getBoundingClientRect();
+          x = (cause.clientX - box.left) / box.width;
+          y = (cause.clientY - box.top) / box.height;
+        }
+        answer = Page.tell(element.vamo, event, x, y, held, text, data);
+      }
+      if (!answer) answer = Page.tell(-1, event, x, y, held, text, data);
+      if (answer === 2) cause.preventDefault();
+    },
+    tell: function (number, event, x, y, held, text, data) {
+      var first = Page.give(text || '');
+      var second = Page.give(data || '');
+      return _page_report(number, event, x, y, held, first.at, first.length, second.at,
+        second.length);
+    },
+    copy: function (event, number) {
+      if (Page.copied === null) {
+        Page.inCopy = true;
+        Page.report(event, number, 0, 0);
+        Page.inCopy = false;
+      }
+      if (Page.copied !== null) {
+        event.clipboardData.setData('text/plain', Page.copied);
+        event.preventDefault();
+      }
+      Page.copied = null;
+    },
+    listen: function () {
+      var listeners = {
+        keydown: function (event) {
+          // What is being composed comes when it has been.
+          if (event.isComposing || event.key === 'Process' || event.key === 'Unidentified') return;
+          Page.report(event, 0, 0, 0, event.key);
+        },
+        mousedown: function (event) {
+          if (event.button === 0) Page.report(event, 1, 0, 0);
+        },
+        click: function (event) { Page.report(event, 2, event.detail, 0); },
+        focusin: function (event) { Page.report(event, 3, 0, 0); },
+        input: function (event) { Page.report(event, 4, 0, 0, event.target.value); },
+        beforeinput: function (event) {
+          var carried = event.dataTransfer;
+          Page.report(event, 5, 0, 0, event.inputType,
+            event.data || (carried ? carried.getData('text/plain') : ''));
+        },
+        compositionend: function (event) {
+          Page.report(event, 6, 0, 0, event.data);
+        },
+        wheel: function (event) {
+          Page.report(event, 7, -event.wheelDeltaX / 120, event.wheelDeltaY / 120);
+        },
+        copy: function (event) { Page.copy(event, 8); },
+        cut: function (event) { Page.copy(event, 9); },
+        paste: function (event) {
+          Page.report(event, 10, 0, 0, event.clipboardData.getData('text/plain'));
+        },
+        // Without a selection there would be no event, and yet the program may have what to copy.
+        beforecopy: function (event) { event.preventDefault(); },
+        beforecut: function (event) { event.preventDefault(); },
+        beforepaste: function (event) { event.preventDefault(); }
+      };
+      for (var name in listeners) {
+        document.addEventListener(name, listeners[name], { passive: false });
+      }
+    }
+  },
+  $Page__postset: 'Page.elements[0] = document.getElementById("vamo"); Page.listen();',
+
+  page_create__deps: ['$Page', 'malloc'],
+  page_create: function (parent, tag, length, listens) {
+    var element = document.createElement(Page.read(tag, length));
+    element.listens = listens;
+    element.vamo = Page.elements.length;
+    element.id = 'vamo' + element.vamo;
+    Page.elements.push(element);
+    Page.elements[parent].appendChild(element);
+    return element.vamo;
+  },
+  page_remove: function (number) {
+    Page.elements[number].remove();
+    delete Page.elements[number];
+  },
+  page_set_attribute: function (number, name, nameLength, value, valueLength) {
+    Page.elements[number].setAttribute(Page.read(name, nameLength), Page.read(value, valueLength));
+  },
+  page_remove_attribute: function (number, name, length) {
+    Page.elements[number].removeAttribute(Page.read(name, length));
+  },
+  page_set_style: function (number, name, nameLength, value, valueLength) {
+    Page.elements[number].style.setProperty(Page.read(name, nameLength),
+      Page.read(value, valueLength));
+  },
+  page_set_text: function (number, text, length) {
+    Page.elements[number].textContent = Page.read(text, length);
+  },
+  page_set_value: function (number, text, length) {
+    Page.elements[number].value = Page.read(text, length);
+  },
+  page_select: function (number, anchor, caret) {
+    Page.elements[number].setSelectionRange(Math.min(anchor, caret), Math.max(anchor, caret),
+      caret < anchor ? 'backward' : 'forward');
+  },
+  page_anchor: function (number) {
+    var element = Page.elements[number];
+    return element.selectionDirection === 'backward' ? element.selectionEnd :
+      element.selectionStart;
+  },
+  page_caret: function (number) {
+    var element = Page.elements[number];
+    return element.selectionDirection === 'backward' ? element.selectionStart :
+      element.selectionEnd;
+  },
+  page_focus: function (number) { Page.elements[number].focus({ preventScroll: true }); },
+  page_has_focus: function (number) { return document.activeElement === Page.elements[number]; },
+  page_bring_to_end: function (number) {
+    Page.elements[number].parentNode.appendChild(Page.elements[number]);
+  },
+  page_flash: function (number) {
+    if (matchMedia('(prefers-reduced-motion: reduce)').matches) return;
+    Page.elements[number].animate([{ backgroundColor: '#ffc060' }, { backgroundColor: '#ffc060' }],
+      150);
+  },
+  page_post: function () { setTimeout(_page_run_posted, 0); },
+  page_start_timer: function (timer, period) {
+    Page.timers[timer] = setInterval(function () { _page_fire(timer); }, period);
+  },
+  page_stop_timer: function (timer) {
+    clearInterval(Page.timers[timer]);
+    delete Page.timers[timer];
+  },
+  page_text_width: function (text, length, font, fontLength) {
+    if (!Page.canvas) Page.canvas = document.createElement('canvas').getContext('2d');
+    Page.canvas.font = Page.read(font, fontLength);
+    return Page.canvas.measureText(Page.read(text, length)).width;
+  },
+  // Only the event of a copy reaches the clipboard everywhere, so one is made where none runs.
+  page_copy: function (text, length) {
+    Page.copied = Page.read(text, length);
+    if (!Page.inCopy) document.execCommand('copy');
+  },
+  page_read_clipboard: function () {
+    function give(allowed, text) {
+      var given = Page.give(text);
+      _page_give_clipboard(allowed, given.at, given.length);
+    }
+    if (!navigator.clipboard || !navigator.clipboard.readText) {
+      setTimeout(function () { give(0, ''); }, 0);
+    } else {
+      navigator.clipboard.readText().then(function (text) { give(1, text); },
+        function () { give(0, ''); });
+    }
+  },
+  page_sound: function () {
+    if (!Page.audio) Page.audio = new AudioContext();
+    var tone = Page.audio.createOscillator();
+    tone.frequency.value = 800;
+    tone.connect(Page.audio.destination);
+    tone.start();
+    tone.stop(Page.audio.currentTime + 0.1);
+  },
+  page_has_picture: function (name, length) {
+    return document.getElementById(Page.read(name, length)) !== null;
+  },
+  page_show_picture: function (number, name, length) {
+    Page.elements[number].src = document.getElementById(Page.read(name, length)).src;
+  },
+  page_is_worked_by_fingers: function () { return matchMedia('(pointer: coarse)').matches; },
+  page_is_mac: function () { return navigator.platform.indexOf('Mac') === 0; }
+});

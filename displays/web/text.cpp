@@ -1,0 +1,155 @@
+#include "displays/web/text.h"
+
+#include <algorithm>
+#include <array>
+
+#include "displays/web/window.h"
+#include "toolkit/control/label.h"
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/utf8.h"
+#include "toolkit/window/window.h"
+
+namespace vamo {
+namespace {
+
+// An edit that the browser is about to make, and the key that means the same.
+struct EditKey {
+  std::string_view kind;
+  char code;
+  bool word;
+};
+constexpr std::array kEditKeys{
+    EditKey{"insertLineBreak", kReturn, false},
+    EditKey{"insertParagraph", kReturn, false},
+    EditKey{"deleteContentBackward", kBackspace, false},
+    EditKey{"deleteContentForward", kForwardDelete, false},
+    EditKey{"deleteWordBackward", kBackspace, true},
+    EditKey{"deleteWordForward", kForwardDelete, true},
+};
+
+constexpr std::array<std::string_view, 3> kTyped{"insertText", "insertReplacementText",
+                                                 "insertTranspose"};
+constexpr std::array<std::string_view, 3> kBrought{"insertFromPaste", "insertFromDrop",
+                                                   "insertFromYank"};
+// These cannot be held up; what comes of them is reported when it is complete.
+constexpr std::array<std::string_view, 3> kComposing{
+    "insertCompositionText", "deleteCompositionText", "insertFromComposition"};
+
+template <std::size_t kSize>
+bool Contains(const std::array<std::string_view, kSize>& kinds, std::string_view kind) {
+  return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+}
+
+std::string_view InputMode(KeyboardKind keyboard) {
+  switch (keyboard) {
+    case KeyboardKind::kNumber:
+      return "decimal";
+    case KeyboardKind::kDigits:
+      return "numeric";
+    case KeyboardKind::kAll:
+      break;
+  }
+  return "text";
+}
+
+}  // namespace
+
+WebText::WebText(WebWindow& window, TextEdit& text, std::string_view tag)
+    : WebControl(window, text, tag), text_(text) {
+  for (const auto& [name, value] :
+       {std::pair{"autocomplete", "off"}, {"autocapitalize", "off"}, {"spellcheck", "false"}}) {
+    Element().SetAttribute(name, value);
+  }
+  Element().SetStyle("color", ToCss(text.TextColour()));
+  Element().SetStyle("--background", ToCss(text.BackgroundColour()));
+  SetFont(text.Font());
+}
+
+void WebText::ShowState() {
+  Element().SetFlag("disabled", !text_.Enabled());
+  Element().SetAttribute("tabindex", TabIndex());
+  const std::string shown = Shown();
+  if (shown != shown_) Element().SetValue(shown);
+  shown_ = shown;
+  ShowSelection();
+}
+
+// In some browsers to select is to take the focus.
+void WebText::ShowSelection() {
+  if (!Element().HasFocus()) return;
+  const auto offset = [this](std::size_t at) { return Utf16Offset(text_.Text(), at); };
+  const auto [anchor, caret] = text_.Selection();
+  const PageSelection selection{offset(anchor), offset(caret)};
+  if (Element().Selection() != selection) Element().Select(selection);
+}
+
+void WebText::ReportSelection() {
+  if (!Element().HasFocus()) return;
+  const PageSelection selection = Element().Selection();
+  text_.UserSelected(ByteOffset(text_.Text(), selection.anchor),
+                     ByteOffset(text_.Text(), selection.caret));
+}
+
+PageAnswer WebText::Take(const PageReport& report) {
+  const PageAnswer answer = WebControl::Take(report);
+  switch (report.event) {
+    case PageEvent::kFocus:
+      if (Window().IsShowingFocus()) ShowSelection();
+      return answer;
+    case PageEvent::kEdit:
+      return TakeEdit(report);
+    case PageEvent::kComposed:
+      // What stands in the element is the browser's; the text is still without it.
+      Element().SetValue(shown_);
+      ShowSelection();
+      TakeTyped(report.text);
+      return PageAnswer::kTakenWhole;
+    case PageEvent::kPress:
+      // It places the caret.
+      return text_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
+    default:
+      return answer;
+  }
+}
+
+PageAnswer WebText::TakeEdit(const PageReport& report) {
+  if (Contains(kComposing, report.text)) return PageAnswer::kTaken;
+  ReportSelection();
+  if (Contains(kTyped, report.text)) TakeTyped(report.data);
+  if (Contains(kBrought, report.text)) text_.UserPasted(report.data);
+  if (report.text == "historyUndo") {
+    Runtime::Current().Dispatch([this, self = Self(&text_)] { text_.Undo(); });
+  }
+  for (const EditKey& edit : kEditKeys) {
+    if (edit.kind != report.text) continue;
+    Key key = Key::Character(std::string(1, edit.code));
+    key.word = edit.word;
+    Window().Shown().UserPressedKey(key);
+  }
+  return PageAnswer::kTakenWhole;
+}
+
+void WebText::TakeTyped(const std::string& typed) { Window().Shown().UserTyped(typed); }
+
+WebField::WebField(WebWindow& window, TextField& field) : WebText(window, field, "input") {
+  Element().SetAttribute("type", field.Password() ? "password" : "text");
+  Element().SetAttribute("inputmode", InputMode(KeyboardFor(field.Rule())));
+  Element().SetAttribute("class", "control field " + std::string(ToCss(field.Alignment())));
+  Element().SetFlag("readonly", field.ReadOnly());
+  if (!field.Hint().empty()) Element().SetAttribute("placeholder", field.Hint());
+  Update();
+}
+
+void WebField::ShowFocus() {
+  if (!page::IsWorkedByFingers()) WebControl::ShowFocus();
+}
+
+WebArea::WebArea(WebWindow& window, TextArea& area)
+    : WebText(window, area, "textarea"), area_(area) {
+  // In one that is read-only for the browser, the keys of the caret do nothing.
+  Element().SetAttribute("aria-readonly", "true");
+  Element().SetAttribute("inputmode", "none");
+  Update();
+}
+
+}  // namespace vamo

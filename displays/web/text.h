@@ -1,0 +1,55 @@
+// The controls of text.
+#ifndef VAMO_DISPLAYS_WEB_TEXT_H_
+#define VAMO_DISPLAYS_WEB_TEXT_H_
+
+#include <string>
+#include <string_view>
+
+#include "displays/web/control.h"
+#include "toolkit/text/text_area.h"
+#include "toolkit/text/text_field.h"
+
+namespace vamo {
+
+// What field and area have in common.
+class WebText : public WebControl {
+ public:
+  WebText(WebWindow& window, TextEdit& text, std::string_view tag);
+
+  void ReportSelection() override;
+  PageAnswer Take(const PageReport& report) override;
+
+ protected:
+  void ShowState() override;
+  // The text as the element has it, with as many UTF-16 code units as the control's own.
+  virtual std::string Shown() const { return text_.Text(); }
+
+ private:
+  void ShowSelection();
+  PageAnswer TakeEdit(const PageReport& report);
+  void TakeTyped(const std::string& typed);
+
+  TextEdit& text_;
+  std::string shown_;
+};
+
+class WebField : public WebText {
+ public:
+  WebField(WebWindow& window, TextField& field);
+  // A field that has the focus opens the keyboard on the screen, which the user does by a touch.
+  void ShowFocus() override;
+};
+
+class WebArea : public WebText {
+ public:
+  WebArea(WebWindow& window, TextArea& area);
+
+ private:
+  std::string Shown() const override { return area_.TextInLines(); }
+
+  TextArea& area_;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_WEB_TEXT_H_

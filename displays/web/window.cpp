@@ -1,0 +1,215 @@
+#include "displays/web/window.h"
+
+#include <cmath>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "displays/web/controls.h"
+#include "displays/web/display.h"
+#include "displays/web/keys.h"
+#include "displays/web/rows.h"
+#include "displays/web/text.h"
+#include "toolkit/utf8.h"
+
+namespace vamo {
+
+WebWindow::WebWindow(WebDisplay& display, Window& window)
+    : display_(display),
+      window_(window),
+      touched_([this](const PageReport& report) {
+        if (report.event != PageEvent::kPress) return PageAnswer::kPassed;
+        BringToFront();
+        // What has the keys keeps them.
+        return PageAnswer::kTakenWhole;
+      }),
+      pressed_([this](const PageReport& report) { return TakePress(report); }),
+      closed_([this](const PageReport& report) {
+        if (report.event != PageEvent::kClick) return PageAnswer::kPassed;
+        window_.UserAskedToClose();
+        return PageAnswer::kTaken;
+      }),
+      frame_(display.Page(), "section", &touched_),
+      content_(frame_, "div", &pressed_) {
+  const Window::State& state = window.InitialState();
+  frame_.SetAttribute("aria-label", window.ListedTitle());
+  frame_.SetAttribute("tabindex", "-1");
+  frame_.SetAttribute("class", window.IsSplash() ? "window splash" : "window");
+  frame_.SetFlag("hidden", true);
+  frame_.SetStyle("--width", std::to_string(state.width));
+  frame_.SetStyle("--height", std::to_string(state.height));
+  content_.SetAttribute("class", "content");
+  content_.SetStyle("background-color",
+                    state.has_background_colour ? ToCss(state.background_colour) : "#fff");
+  if (!window.IsSplash()) MakeTitleBar();
+  if (window.MenuBar()) menu_bar_ = std::make_unique<WebMenuBar>(*this, frame_, *window.MenuBar());
+  content_.BringToEnd();
+  display_.Add(*this);
+}
+
+WebWindow::~WebWindow() { display_.Remove(*this); }
+
+void WebWindow::MakeTitleBar() {
+  const auto add = [this](const PageElement& parent, std::string_view tag, PageListener* listener) {
+    title_bar_.insert(title_bar_.begin(), std::make_unique<PageElement>(parent, tag, listener));
+    return title_bar_.front().get();
+  };
+  PageElement* bar = add(frame_, "header", nullptr);
+  add(*bar, "h1", nullptr)->SetText(window_.ListedTitle());
+  if (!window_.InitialState().has_close_button) return;
+  PageElement* close = add(*bar, "button", &closed_);
+  close->SetAttribute("type", "button");
+  close->SetAttribute("tabindex", "-1");
+  close->SetAttribute("aria-label", "Close");
+  close->SetText("×");
+}
+
+std::unique_ptr<ControlView> WebWindow::CreateControl(Canvas& canvas) {
+  return std::make_unique<WebCanvas>(*this, canvas);
+}
+
+std::unique_ptr<ControlView> WebWindow::CreateControl(Label& label) {
+  return std::make_unique<WebLabel>(*this, label);
+}
+
+std::unique_ptr<ControlView> WebWindow::CreateControl(PushButton& button) {
+  return std::make_unique<WebButton>(*this, button);
+}
+
+std::unique_ptr<ControlView> WebWindow::CreateControl(Rectangle& rectangle) {
+  return std::make_unique<WebRectangle>(*this, rectangle);
+}
+
+std::unique_ptr<ControlView> WebWindow::CreateControl(Slider& slider) {
+  return std::make_unique<WebSlider>(*this, slider);
+}
+
+std::unique_ptr<ControlView> WebWindow::CreateControl(TextArea& area) {
+  return std::make_unique<WebArea>(*this, area);
+}
+
+std::unique_ptr<ControlView> WebWindow::CreateControl(TextField& field) {
+  return std::make_unique<WebField>(*this, field);
+}
+
+// A caption is the label of the first control that it stands beside, and describes the others: it
+// can be the label of one alone.
+void WebWindow::LinkCaptions() {
+  for (WebControl* control : controls_) {
+    const Ref<Label> caption = control->Control().LabelledBy();
+    PageElement* element = caption ? ElementOf(*caption) : nullptr;
+    if (element == nullptr) continue;
+    if (element->HasAttribute("for")) {
+      control->Element().SetAttribute("aria-describedby", element->Id());
+    } else {
+      element->SetAttribute("for", control->Element().Id());
+    }
+  }
+}
+
+void WebWindow::PlaceForFingers() {
+  std::vector<Bounds> boxes;
+  for (WebControl* control : controls_) boxes.push_back(control->Control().Bounds());
+  const SpacedRows rows = SpaceRows(boxes, window_.InitialState().height);
+  for (std::size_t i = 0; i < controls_.size(); ++i) {
+    controls_[i]->Element().SetStyle("--finger-top", std::to_string(rows.tops[i]));
+  }
+  content_.SetStyle("--finger-pad", std::to_string(rows.gap / 2));
+}
+
+void WebWindow::Show() {
+  if (!std::exchange(has_been_shown_, true)) {
+    LinkCaptions();
+    PlaceForFingers();
+  }
+  on_screen_ = true;
+  frame_.SetFlag("hidden", false);
+  display_.ComeInFront(*this);
+}
+
+void WebWindow::Hide() {
+  on_screen_ = false;
+  frame_.SetFlag("hidden", true);
+  display_.GoFromFront(*this);
+}
+
+bool WebWindow::IsInFront() const { return display_.Front() == this; }
+
+void WebWindow::BringToFront() { display_.Activate(*this); }
+
+void WebWindow::ShowPlace(int depth) {
+  frame_.SetStyle("z-index", std::to_string(depth));
+  frame_.SetFlag("data-active", IsInFront());
+  if (menu_bar_ != nullptr) menu_bar_->ShowPlace(IsInFront());
+  for (WebControl* control : controls_) control->Update();
+}
+
+void WebWindow::ShowFocus() {
+  if (!IsInFront()) return;
+  showing_focus_ = true;
+  if (WebControl* control = FocusedControl()) {
+    control->ShowFocus();
+  } else {
+    FocusFrame();
+  }
+  showing_focus_ = false;
+}
+
+WebControl* WebWindow::FocusedControl() const {
+  for (WebControl* control : controls_) {
+    if (window_.Focus() && &control->Control() == &*window_.Focus()) return control;
+  }
+  return nullptr;
+}
+
+PageElement* WebWindow::ElementOf(const RectControl& control) const {
+  for (WebControl* known : controls_) {
+    if (&known->Control() == &control) return &known->Element();
+  }
+  return nullptr;
+}
+
+void WebWindow::ReportSelection() {
+  if (WebControl* control = FocusedControl()) control->ReportSelection();
+}
+
+void WebWindow::Flash() {
+  WebControl* control = FocusedControl();
+  (control != nullptr ? control->Element() : content_).Flash();
+}
+
+PageAnswer WebWindow::TakeKey(const PageReport& report) {
+  const std::optional<Key> key = ToKey(report, page::IsMac());
+  if (!key.has_value()) return PageAnswer::kPassed;
+  const bool with_command = key->command && key->code == KeyCode::kCharacter && !key->shift;
+  // The browser's own events of these bring the clipboard.
+  if (with_command && (key->text == "c" || key->text == "x" || key->text == "v")) {
+    return PageAnswer::kPassed;
+  }
+  ReportSelection();
+  const Ref<Window> window = Self(&window_);
+  if (window->UserPressedKey(*key) || !window->IsLive()) return PageAnswer::kTakenWhole;
+  if (report.text == "F10" && menu_bar_ != nullptr) {
+    menu_bar_->Focus();
+    return PageAnswer::kTakenWhole;
+  }
+  const bool types = key->code == KeyCode::kCharacter && !key->command && key->text[0] != kTab;
+  return types ? PageAnswer::kTakenWhole : PageAnswer::kPassed;
+}
+
+void WebWindow::TakeCommand(std::string_view letter) {
+  ReportSelection();
+  window_.UserPressedKey(Key::Command(std::string(letter)));
+}
+
+PageAnswer WebWindow::TakePress(const PageReport& report) {
+  if (report.event != PageEvent::kPress) return PageAnswer::kPassed;
+  BringToFront();
+  const Window::State& state = window_.InitialState();
+  window_.UserPressedMouse(std::llround(report.x * static_cast<double>(state.width)),
+                           std::llround(report.y * static_cast<double>(state.height)));
+  // What has the keys keeps them.
+  return PageAnswer::kTakenWhole;
+}
+
+}  // namespace vamo

@@ -1,0 +1,88 @@
+#ifndef VAMO_DISPLAYS_WEB_WINDOW_H_
+#define VAMO_DISPLAYS_WEB_WINDOW_H_
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "displays/web/control.h"
+#include "displays/web/menu.h"
+#include "displays/web/page.h"
+#include "toolkit/runtime/display.h"
+#include "toolkit/window/window.h"
+
+namespace vamo {
+
+class WebDisplay;
+
+// A window as an element of the page, with a bar for its title where it has one.
+class WebWindow : public WindowView {
+ public:
+  WebWindow(WebDisplay& display, Window& window);
+  ~WebWindow() override;
+
+  std::unique_ptr<ControlView> CreateControl(Canvas& canvas) override;
+  std::unique_ptr<ControlView> CreateControl(Label& label) override;
+  std::unique_ptr<ControlView> CreateControl(PushButton& button) override;
+  std::unique_ptr<ControlView> CreateControl(Rectangle& rectangle) override;
+  std::unique_ptr<ControlView> CreateControl(Slider& slider) override;
+  std::unique_ptr<ControlView> CreateControl(TextArea& area) override;
+  std::unique_ptr<ControlView> CreateControl(TextField& field) override;
+  void Show() override;
+  void Hide() override;
+  void UpdateFocus() override { ShowFocus(); }
+
+  Window& Shown() { return window_; }
+  bool OnScreen() const { return on_screen_; }
+  // Whether it is the one that the keys go to.
+  bool IsInFront() const;
+  // The user has come to this window.
+  void BringToFront();
+  // Shows that the window has come in front, or has gone from there.
+  void ShowPlace(int depth);
+  // Takes the browser's focus to what has the keys. Meanwhile no change of focus is the user's.
+  void ShowFocus();
+  bool IsShowingFocus() const { return showing_focus_; }
+  // Where the focus is when no control is to have it.
+  void FocusFrame() { frame_.Focus(); }
+  PageAnswer TakeKey(const PageReport& report);
+  // The command key with that letter.
+  void TakeCommand(std::string_view letter);
+  void ReportSelection();
+  // Flashes what has the keys.
+  void Flash();
+
+  // What the controls lie in.
+  PageElement& Content() { return content_; }
+  void Add(WebControl& control) { controls_.push_back(&control); }
+  void Remove(WebControl& control) { std::erase(controls_, &control); }
+  // The element of a control that has been created; null for another.
+  PageElement* ElementOf(const RectControl& control) const;
+  WebDisplay& Display() { return display_; }
+
+ private:
+  WebControl* FocusedControl() const;
+  PageAnswer TakePress(const PageReport& report);
+  void MakeTitleBar();
+  void LinkCaptions();
+  // Tells the style sheet where things lie on a screen that is worked by fingers.
+  void PlaceForFingers();
+
+  WebDisplay& display_;
+  Window& window_;
+  PageHandler touched_;
+  PageHandler pressed_;
+  PageHandler closed_;
+  PageElement frame_;
+  std::vector<std::unique_ptr<PageElement>> title_bar_;
+  std::unique_ptr<WebMenuBar> menu_bar_;
+  PageElement content_;
+  std::vector<WebControl*> controls_;
+  bool on_screen_ = false;
+  bool has_been_shown_ = false;
+  bool showing_focus_ = false;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_DISPLAYS_WEB_WINDOW_H_
