@@ -240,10 +240,9 @@ class ScreenUser : public User {
   }
   // Opens the menu of a path with the mouse and gives the item in it.
   Element Open(std::string_view path) {
-    const Element title = MenuTitle(path);
-    ClickOn(title);
+    ClickOn(MenuTitle(path));
     for (int look = 0; look < 100; ++look) {
-      const auto item = FindBelow(title, "menu item", path.substr(path.find('/') + 1));
+      const auto item = FindBelow(MenuTitle(path), "menu item", path.substr(path.find('/') + 1));
       if (item) return *item;
       Settle();
     }

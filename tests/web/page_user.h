@@ -1,0 +1,105 @@
+// A user of the program in a page.
+#ifndef VAMO_TESTS_WEB_PAGE_USER_H_
+#define VAMO_TESTS_WEB_PAGE_USER_H_
+
+#include <chrono>
+#include <map>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "screen_user.h"
+#include "web/browser.h"
+
+namespace vamo {
+
+class PageUser;
+
+// An element of the page, as it was when the user looked. Roles have the names that the bus of
+// assistive technology has.
+class SeenElement {
+ public:
+  struct Place {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+  };
+
+  SeenElement(PageUser& user, std::shared_ptr<const nlohmann::json> look)
+      : user_(&user), look_(std::move(look)) {}
+
+  std::string RoleName() const;
+  std::string Name() const;
+  std::string Description() const { return look_->at("description"); }
+  std::vector<SeenElement> Children() const;
+  bool IsShowing() const { return look_->at("showing"); }
+  bool IsEnabled() const { return look_->at("enabled"); }
+  bool IsFocused() const { return look_->at("focused"); }
+  bool IsActive() const { return look_->at("active"); }
+  std::string Text() const { return look_->at("text"); }
+  std::string SelectedText() const { return look_->at("selected"); }
+  std::string LabelledBy() const { return look_->at("caption"); }
+  double Value() const { return look_->at("value"); }
+  double LeastValue() const { return look_->at("least"); }
+  double GreatestValue() const { return look_->at("greatest"); }
+  std::int64_t InSteps(double value) const;
+  Place Extents() const;
+  // As assistive technology does.
+  void Do(std::string_view action) const;
+
+ private:
+  PageUser* user_;
+  std::shared_ptr<const nlohmann::json> look_;
+};
+
+// Works a page by keys and pointer and reads it as assistive technology does.
+class PageUser : public ScreenUser<SeenElement> {
+ public:
+  // Opens the page. The browser outlives this object.
+  PageUser(Browser& browser, const std::string& address);
+
+  void PressKey(const Key& key) override;
+  void SetClipboard(std::string_view text) override;
+  void Close(std::string_view title) override;
+  void ActivateWindow(std::string_view title) override;
+  void LetTimePass(std::chrono::milliseconds time) override;
+  std::string Clipboard() override;
+  int Beeps() override;
+  std::vector<std::string> Hears() override;
+  bool Running() override;
+  // As the end of the page tells it.
+  int ExitStatus();
+  Browser& TheBrowser() { return browser_; }
+
+  // What assistive technology reads of an element that looks like that. Asked once.
+  std::pair<std::string, std::string> RoleAndName(const nlohmann::json& look);
+
+ private:
+  void PressCombination(const std::string& keys) override;
+  void TypePrintable(std::string_view text) override;
+  void MoveTo(int x, int y) override;
+  void PressMouse() override { pressed_at_ = {pointer_}; }
+  void ReleaseMouse() override;
+  void Scroll(int notches) override;
+  std::optional<SeenElement> Application() override;
+  void Settle() override;
+  void ClickOnTitle(std::string_view title, std::string_view part);
+
+  Browser& browser_;
+  std::map<std::string, std::pair<std::string, std::string>> read_;
+  std::pair<int, int> pointer_;
+  // Where the mouse has gone since it went down; it does so when it goes up.
+  std::vector<std::pair<int, int>> pressed_at_;
+};
+
+// Where the page is: VAMO_PAGE in the environment, or that of the build for the browser.
+std::string PageAddress();
+
+}  // namespace vamo
+
+#endif  // VAMO_TESTS_WEB_PAGE_USER_H_
