@@ -5,6 +5,7 @@
 
 #include "displays/web/controls.h"
 #include "displays/web/window.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {
@@ -25,17 +26,22 @@ WebDisplay::WebDisplay(std::function<void()> ended)
     : ended_(std::move(ended)), announcement_(page_, "div") {
   announcement_.SetAttribute("class", "announcement");
   announcement_.SetAttribute("role", "status");
-  page::SetListener(this);
+  page::SetOwner(this);
 }
 
-WebDisplay::~WebDisplay() { page::SetListener(nullptr); }
+WebDisplay::~WebDisplay() { page::SetOwner(nullptr); }
 
 // The browser brings the events.
 void WebDisplay::Run() {}
 
 void WebDisplay::Stop() {
-  page::SetListener(nullptr);
+  stopped_ = true;
+  page::SetOwner(nullptr);
   page::Post(ended_);
+}
+
+void WebDisplay::Post(std::function<void()> act) {
+  if (!stopped_) page::Post(std::move(act));
 }
 
 std::unique_ptr<WindowView> WebDisplay::OpenWindow(Window& window) {
@@ -61,6 +67,10 @@ std::shared_ptr<DisplayPicture> WebDisplay::OpenPicture(std::string_view file_na
 std::unique_ptr<RunningTimer> WebDisplay::StartTimer(std::chrono::milliseconds period,
                                                      std::function<void()> fire) {
   return std::make_unique<WebTimer>(period, std::move(fire));
+}
+
+void WebDisplay::RunEvent(const std::function<void()>& event) {
+  Runtime::Current().Dispatch(event);
 }
 
 PageAnswer WebDisplay::Take(const PageReport& report) {
@@ -100,7 +110,7 @@ void WebDisplay::Activate(WebWindow& window) {
 }
 
 void WebDisplay::ComeInFront(WebWindow& window) {
-  page::Post([this, shown = &window] {
+  Post([this, shown = &window] {
     const auto found = std::find(windows_.begin(), windows_.end(), shown);
     if (found != windows_.end() && shown->OnScreen()) Activate(*shown);
   });
@@ -109,7 +119,7 @@ void WebDisplay::ComeInFront(WebWindow& window) {
 void WebDisplay::GoFromFront(WebWindow& window) {
   if (front_ != &window) return;
   front_ = nullptr;
-  page::Post([this] { ActivateNext(); });
+  Post([this] { ActivateNext(); });
 }
 
 void WebDisplay::Remove(WebWindow& window) {

@@ -17,7 +17,7 @@ class WebWindow;
 
 // A page in a browser. Its windows are active among themselves: that another page or program is in
 // front is nothing that it reports, so that whoever comes back finds all as it was.
-class WebDisplay : public Display, public PageListener {
+class WebDisplay : public Display, public PageOwner {
  public:
   // Calls `ended`, as an event of its own, when the program is to be finished.
   explicit WebDisplay(std::function<void()> ended);
@@ -40,6 +40,7 @@ class WebDisplay : public Display, public PageListener {
 
   // What happens outside of all windows, and the keys.
   PageAnswer Take(const PageReport& report) override;
+  void RunEvent(const std::function<void()>& event) override;
 
   // For the windows.
   PageElement& Page() { return page_; }
@@ -54,6 +55,8 @@ class WebDisplay : public Display, public PageListener {
   void WithPasted(std::string text, const std::function<void()>& act);
 
  private:
+  // Does something as an event of its own, unless the program ends before.
+  void Post(std::function<void()> act);
   void ActivateNext();
 
   const std::function<void()> ended_;
@@ -63,6 +66,7 @@ class WebDisplay : public Display, public PageListener {
   std::vector<WebWindow*> windows_;
   WebWindow* front_ = nullptr;
   std::string pasted_;
+  bool stopped_ = false;
 };
 
 // The display in the page that this program runs in.

@@ -7,7 +7,7 @@
 namespace vamo {
 namespace {
 
-class End : public PageListener {
+class End : public PageOwner {
  public:
   End(int status, std::function<void()> restart)
       : pressed_([restart = std::move(restart)](const PageReport& report) {
@@ -23,10 +23,11 @@ class End : public PageListener {
     button_.SetAttribute("type", "button");
     button_.SetText("Start again");
     button_.Focus();
-    page::SetListener(this);
+    page::SetOwner(this);
   }
 
   PageAnswer Take(const PageReport& /*report*/) override { return PageAnswer::kPassed; }
+  void RunEvent(const std::function<void()>& event) override { event(); }
 
  private:
   PageHandler pressed_;

@@ -26,6 +26,7 @@ void page_focus(int element);
 int page_has_focus(int element);
 void page_bring_to_end(int element);
 void page_flash(int element);
+void page_set_owned(int owned);
 void page_post();
 void page_start_timer(int timer, double period);
 void page_stop_timer(int timer);
@@ -45,10 +46,14 @@ namespace {
 
 struct State {
   std::map<int, PageListener*> listeners;
-  PageListener* listener = nullptr;
+  PageOwner* owner = nullptr;
   std::map<int, std::function<void()>> timers;
   int last_timer = 0;
-  std::deque<std::function<void()>> posted;
+  struct Posted {
+    PageOwner* owner;
+    std::function<void()> function;
+  };
+  std::deque<Posted> posted;
   std::function<void(std::optional<std::string>)> clipboard_reader;
 };
 
@@ -61,6 +66,11 @@ State& Page() {
 std::string Taken(char* text, std::size_t length) {
   const std::unique_ptr<char, decltype(&std::free)> owned(text, std::free);
   return {text, length};
+}
+
+// What happens when nobody owns the page is lost.
+void RunEvent(const std::function<void()>& event) {
+  if (Page().owner != nullptr) Page().owner->RunEvent(event);
 }
 
 constexpr unsigned kShift = 1;
@@ -138,13 +148,14 @@ std::string PageElement::Id() const { return "vamo" + std::to_string(number_); }
 
 namespace page {
 
-void SetListener(PageListener* listener) {
-  Page().listener = listener;
-  if (listener == nullptr) Page().clipboard_reader = nullptr;
+void SetOwner(PageOwner* owner) {
+  Page().owner = owner;
+  page_set_owned(owner != nullptr ? 1 : 0);
+  if (owner == nullptr) Page().clipboard_reader = nullptr;
 }
 
 void Post(std::function<void()> function) {
-  Page().posted.push_back(std::move(function));
+  Page().posted.push_back({Page().owner, std::move(function)});
   page_post();
 }
 
@@ -189,21 +200,28 @@ extern "C" {
 EMSCRIPTEN_KEEPALIVE int page_report(int element, int event, double x, double y, unsigned held,
                                      char* text, std::size_t text_length, char* data,
                                      std::size_t data_length) {
-  using vamo::Page;
-  const vamo::PageReport report{.event = static_cast<vamo::PageEvent>(event),
-                                .x = x,
-                                .y = y,
-                                .shift = (held & vamo::kShift) != 0,
-                                .control = (held & vamo::kControl) != 0,
-                                .alt = (held & vamo::kAlt) != 0,
-                                .meta = (held & vamo::kMeta) != 0,
-                                .text = vamo::Taken(text, text_length),
-                                .data = vamo::Taken(data, data_length)};
-  const auto found = Page().listeners.find(element);
-  vamo::PageListener* listener = found == Page().listeners.end() ? nullptr : found->second;
-  if (element < 0) listener = Page().listener;
-  if (Page().listener == nullptr || listener == nullptr) return 0;
-  return static_cast<int>(listener->Take(report));
+  // Of an event that ends with an exception.
+  vamo::PageAnswer answer = vamo::PageAnswer::kTakenWhole;
+  vamo::RunEvent([&] {
+    const vamo::PageReport report{.event = static_cast<vamo::PageEvent>(event),
+                                  .x = x,
+                                  .y = y,
+                                  .shift = (held & vamo::kShift) != 0,
+                                  .control = (held & vamo::kControl) != 0,
+                                  .alt = (held & vamo::kAlt) != 0,
+                                  .meta = (held & vamo::kMeta) != 0,
+                                  .text = vamo::Taken(text, text_length),
+                                  .data = vamo::Taken(data, data_length)};
+    const auto found = vamo::Page().listeners.find(element);
+    if (element < 0) {
+      answer = vamo::Page().owner->Take(report);
+    } else if (found != vamo::Page().listeners.end()) {
+      answer = found->second->Take(report);
+    } else {
+      answer = vamo::PageAnswer::kPassed;
+    }
+  });
+  return static_cast<int>(answer);
 }
 
 EMSCRIPTEN_KEEPALIVE void page_fire(int timer) {
@@ -211,19 +229,24 @@ EMSCRIPTEN_KEEPALIVE void page_fire(int timer) {
   if (found == vamo::Page().timers.end()) return;
   // A copy runs, since what fires may stop the timer.
   const std::function<void()> fire = found->second;
-  fire();
+  vamo::RunEvent(fire);
 }
 
 EMSCRIPTEN_KEEPALIVE void page_run_posted() {
-  const std::function<void()> function = std::move(vamo::Page().posted.front());
+  const auto [owner, function] = std::move(vamo::Page().posted.front());
   vamo::Page().posted.pop_front();
-  function();
+  if (owner == nullptr) {
+    function();
+  } else if (owner == vamo::Page().owner) {
+    owner->RunEvent(function);
+  }
 }
 
 EMSCRIPTEN_KEEPALIVE void page_give_clipboard(int allowed, char* text, std::size_t length) {
   std::string given = vamo::Taken(text, length);
   const auto take = std::exchange(vamo::Page().clipboard_reader, nullptr);
-  if (take != nullptr) take(allowed != 0 ? std::optional(std::move(given)) : std::nullopt);
+  if (take == nullptr) return;
+  vamo::RunEvent([&] { take(allowed != 0 ? std::optional(std::move(given)) : std::nullopt); });
 }
 
 }  // extern "C"

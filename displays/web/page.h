@@ -59,6 +59,13 @@ class PageListener {
   virtual PageAnswer Take(const PageReport& report) = 0;
 };
 
+// Hears what no element's listener has taken, and answers for all.
+class PageOwner : public PageListener {
+ public:
+  // Runs an event, whoever hears of it. Must let no exception through.
+  virtual void RunEvent(const std::function<void()>& event) = 0;
+};
+
 // A listener that is a function. What it calls may destroy it.
 class PageHandler : public PageListener {
  public:
@@ -123,11 +130,11 @@ class PageElement {
 
 namespace page {
 
-// Hears what no element's listener has taken. Null: nobody hears
-// anything any more, nor is the clipboard waited for.
-void SetListener(PageListener* listener);
+// Null: nobody hears anything any more, nor is the clipboard waited for.
+void SetOwner(PageOwner* owner);
 
-// Calls `function` once, as an event of its own.
+// Calls `function` once, as an event of its own: the present owner's, so that it is dropped when
+// the page has another one by then. Without an owner it is nobody's and always comes.
 void Post(std::function<void()> function);
 // Calls `function` each time that the period has passed, until it is stopped by the number.
 int StartTimer(std::chrono::milliseconds period, std::function<void()> function);

@@ -8,6 +8,8 @@ mergeInto(LibraryManager.library, {
     // What the running event is to put on the clipboard.
     copied: null,
     inCopy: false,
+    // Whether there is somebody to report to.
+    owned: 0,
     // A text is its first byte and its length.
     read: function (at, length) {
       return new TextDecoder('utf-8', { ignoreBOM: true }).decode(HEAPU8.subarray(at, at + length));
@@ -16,6 +18,7 @@ mergeInto(LibraryManager.library, {
     give: function (text) {
       var bytes = new TextEncoder().encode(text);
       var at = _malloc(bytes.length + 1);
+      if (!at) throw new Error('The memory is used up.');
       HEAPU8.set(bytes, at);
       return { at: at, length: bytes.length };
     },
@@ -25,6 +28,7 @@ mergeInto(LibraryManager.library, {
       var held = (cause.shiftKey ? 1 : 0) + (cause.ctrlKey ? 2 : 0) + (cause.altKey ? 4 : 0) +
         (cause.metaKey ? 8 : 0);
       var answer = 0;
+      if (!Page.owned) return;
       for (var element = cause.target; element && !answer; element = element.parentNode) {
         if (!element.listens) continue;
         if (event === 1) {
@@ -150,6 +154,7 @@ mergeInto(LibraryManager.library, {
     Page.elements[number].animate([{ backgroundColor: '#ffc060' }, { backgroundColor: '#ffc060' }],
       150);
   },
+  page_set_owned: function (owned) { Page.owned = owned; },
   page_post: function () { setTimeout(_page_run_posted, 0); },
   page_start_timer: function (timer, period) {
     Page.timers[timer] = setInterval(function () { _page_fire(timer); }, period);

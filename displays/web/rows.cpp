@@ -37,12 +37,20 @@ SpacedRows SpaceRows(const std::vector<Bounds>& boxes, std::int64_t height) {
   std::int64_t free = height - (rows.empty() ? 0 : rows.front().top);
   for (const Row& row : rows) free -= row.bottom - row.top;
   const bool moves = rows.size() > 1 && free > 0;
-  if (moves) spaced.gap = static_cast<double>(free) / static_cast<double>(rows.size());
+  const double gap =
+      moves ? static_cast<double>(free) / (static_cast<double>(rows.size()) - 0.5) : 0;
+  for (std::size_t i = 1; moves && i < rows.size(); ++i) {
+    const auto height_of = [&](const Row& row) {
+      return static_cast<double>(row.bottom - row.top);
+    };
+    const double pitch = gap + (height_of(rows[i - 1]) + height_of(rows[i])) / 2;
+    spaced.pitch = i == 1 ? pitch : std::min(spaced.pitch, pitch);
+  }
   for (const Bounds& box : boxes) {
     auto top = static_cast<double>(box.top);
     double shift = 0;
     for (std::size_t i = 1; moves && i < rows.size() && rows[i].top <= box.top; ++i) {
-      shift += spaced.gap - static_cast<double>(rows[i].top - rows[i - 1].bottom);
+      shift += gap - static_cast<double>(rows[i].top - rows[i - 1].bottom);
     }
     spaced.tops.push_back(top + shift);
   }

@@ -8,12 +8,14 @@
 
 namespace vamo {
 
-// Where things lie that a finger is to hit: what is free between their rows is shared out evenly.
+// Where things lie that a finger is to hit: what is free between their rows is shared out evenly,
+// and half as much below the last one.
 struct SpacedRows {
   // Of each box, in logical pixels.
   std::vector<double> tops;
-  // What is free below each row.
-  double gap = 0;
+  // From the middle of a row to that of the next one where they are the closest; 0 for a single
+  // row.
+  double pitch = 0;
 };
 
 // `boxes` are the places as designed, in a window of that height. Boxes that are beside each other

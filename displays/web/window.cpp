@@ -114,7 +114,7 @@ void WebWindow::PlaceForFingers() {
   for (std::size_t i = 0; i < controls_.size(); ++i) {
     controls_[i]->Element().SetStyle("--finger-top", std::to_string(rows.tops[i]));
   }
-  content_.SetStyle("--finger-pad", std::to_string(rows.gap / 2));
+  content_.SetStyle("--finger-height", std::to_string(rows.pitch));
 }
 
 void WebWindow::Show() {

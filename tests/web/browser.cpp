@@ -61,6 +61,28 @@ class Folder {
   std::filesystem::path path_;
 };
 
+// A command in both forms of the standard's interface.
+struct Row {
+  const char* method;
+  // Behind the session and, where it is about one, the element.
+  const char* path;
+  const char* name;
+};
+
+// In the order of Browser::Command.
+const Row& RowOf(std::size_t command) {
+  static constexpr Row kRows[] = {
+      {"POST", "/url", "WebDriver:Navigate"},
+      {"POST", "/execute/sync", "WebDriver:ExecuteScript"},
+      {"POST", "/execute/async", "WebDriver:ExecuteAsyncScript"},
+      {"POST", "/frame", "WebDriver:SwitchToFrame"},
+      {"GET", "/computedrole", "WebDriver:GetComputedRole"},
+      {"GET", "/computedlabel", "WebDriver:GetComputedLabel"},
+      {"POST", "/actions", "WebDriver:PerformActions"},
+  };
+  return kRows[command];
+}
+
 json Key(const char* type, const std::string& value) { return {{"type", type}, {"value", value}}; }
 
 // The characters of UTF-8.
@@ -98,6 +120,8 @@ json Browser::Run(std::string_view body, const json& arguments) {
 json Browser::RunAsync(std::string_view body, const json& arguments) {
   return Do(Command::kRunAsync, {{"script", body}, {"args", arguments}});
 }
+
+void Browser::EnterFrame(const json& number) { Do(Command::kFrame, {{"id", number}}); }
 
 std::string Browser::ReadElement(Command command, const json& element) {
   const std::string id = element.at(kElement);
@@ -191,6 +215,7 @@ Chromium::Chromium() : parts_(std::make_unique<Parts>()) {
       "--hide-scrollbars", "--user-data-dir=" + parts_->profile.Path().string()};
   const json wanted = {
       {"browserName", "chrome"},
+      {"goog:loggingPrefs", {{"browser", "ALL"}}},
       {"goog:chromeOptions", {{"binary", "/usr/bin/chromium"}, {"args", arguments}}}};
   parts_->session = parts_->Ask("POST", "/session", {{"capabilities", {{"alwaysMatch", wanted}}}})
                         .at("sessionId");
@@ -207,27 +232,23 @@ Chromium::~Chromium() {
 }
 
 json Chromium::Do(Command command, const json& parameters, const std::string& element) {
-  const std::string session = "/session/" + parts_->session;
-  switch (command) {
-    case Command::kOpen:
-      return parts_->Ask("POST", session + "/url", parameters);
-    case Command::kRun:
-      return parts_->Ask("POST", session + "/execute/sync", parameters);
-    case Command::kRunAsync:
-      return parts_->Ask("POST", session + "/execute/async", parameters);
-    case Command::kRole:
-      return parts_->Ask("GET", session + "/element/" + element + "/computedrole", {});
-    case Command::kName:
-      return parts_->Ask("GET", session + "/element/" + element + "/computedlabel", {});
-    case Command::kAct:
-      break;
-  }
-  return parts_->Ask("POST", session + "/actions", parameters);
+  const Row& row = RowOf(static_cast<std::size_t>(command));
+  const std::string about = element.empty() ? "" : "/element/" + element;
+  return parts_->Ask(row.method, "/session/" + parts_->session + about + row.path, parameters);
 }
 
 json Chromium::DoOwn(const std::string& command, const json& parameters) {
   return parts_->Ask("POST", "/session/" + parts_->session + "/goog/cdp/execute",
                      {{"cmd", command}, {"params", parameters}});
+}
+
+std::vector<std::string> Chromium::ConsoleLines() {
+  std::vector<std::string> lines;
+  const std::string path = "/session/" + parts_->session + "/se/log";
+  for (const json& entry : parts_->Ask("POST", path, {{"type", "browser"}})) {
+    lines.push_back(entry.at("message"));
+  }
+  return lines;
 }
 
 // Its commands are those of the standard, each with its length before it.
@@ -306,21 +327,7 @@ Firefox::Firefox() : parts_(std::make_unique<Parts>()) {
 Firefox::~Firefox() = default;
 
 json Firefox::Do(Command command, const json& parameters, const std::string& /*element*/) {
-  switch (command) {
-    case Command::kOpen:
-      return parts_->Ask("WebDriver:Navigate", parameters);
-    case Command::kRun:
-      return parts_->Ask("WebDriver:ExecuteScript", parameters);
-    case Command::kRunAsync:
-      return parts_->Ask("WebDriver:ExecuteAsyncScript", parameters);
-    case Command::kRole:
-      return parts_->Ask("WebDriver:GetComputedRole", parameters);
-    case Command::kName:
-      return parts_->Ask("WebDriver:GetComputedLabel", parameters);
-    case Command::kAct:
-      break;
-  }
-  return parts_->Ask("WebDriver:PerformActions", parameters);
+  return parts_->Ask(RowOf(static_cast<std::size_t>(command)).name, parameters);
 }
 
 }  // namespace vamo

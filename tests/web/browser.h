@@ -25,6 +25,9 @@ class Browser {
   // The same for a function that calls its last argument when it is done.
   nlohmann::json RunAsync(std::string_view body,
                           const nlohmann::json& arguments = nlohmann::json::array());
+  // Goes into the frame of that number in the page, for what comes then; null goes back to the
+  // page.
+  void EnterFrame(const nlohmann::json& number);
   // What assistive technology reads of an element.
   std::string RoleOf(const nlohmann::json& element);
   std::string NameOf(const nlohmann::json& element);
@@ -41,7 +44,7 @@ class Browser {
 
  protected:
   // A command with its parameters, and the element that it is about where there is one.
-  enum class Command { kOpen, kRun, kRunAsync, kRole, kName, kAct };
+  enum class Command { kOpen, kRun, kRunAsync, kFrame, kRole, kName, kAct };
   virtual nlohmann::json Do(Command command, const nlohmann::json& parameters,
                             const std::string& element = {}) = 0;
 
@@ -59,6 +62,8 @@ class Chromium : public Browser {
 
   // A command of the browser's own tools for developers.
   nlohmann::json DoOwn(const std::string& command, const nlohmann::json& parameters);
+  // What pages have said on the console since the last call.
+  std::vector<std::string> ConsoleLines();
 
  private:
   struct Parts;

@@ -1,7 +1,10 @@
 // The journeys in a page, and what no other display has.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
+#include <vector>
 
 #include "journeys/journey_steps.h"
 #include "web/browser.h"
@@ -10,9 +13,244 @@
 namespace vamo {
 namespace {
 
+using nlohmann::json;
+
+// One for all tests, since it takes long to start.
 Chromium& TheChromium() {
   static Chromium browser;
   return browser;
+}
+
+constexpr char kHasEnded[] =
+    "const end = document.querySelector('.end'); return end && end.textContent;";
+
+class PageTest : public testing::Test {
+ protected:
+  // Opens the page and dismisses the splash.
+  PageUser InControlWindow() {
+    PageUser user(browser(), PageAddress());
+    user.PressKey(Key::Character("x"));
+    return user;
+  }
+  Chromium& browser() { return TheChromium(); }
+  void Allow(const char* state) {
+    for (const char* name : {"clipboard-read", "clipboard-write"}) {
+      browser().DoOwn("Browser.setPermission",
+                      {{"permission", {{"name", name}}}, {"setting", state}});
+    }
+  }
+  // A screen of that size that is worked by fingers.
+  void BecomePhone(int width, int height) {
+    browser().DoOwn(
+        "Emulation.setDeviceMetricsOverride",
+        {{"width", width}, {"height", height}, {"deviceScaleFactor", 2}, {"mobile", true}});
+    browser().DoOwn("Emulation.setTouchEmulationEnabled", {{"enabled", true}});
+  }
+  void TearDown() override {
+    browser().DoOwn("Emulation.clearDeviceMetricsOverride", json::object());
+    browser().DoOwn("Emulation.setTouchEmulationEnabled", {{"enabled", false}});
+    browser().DoOwn("Emulation.setEmulatedMedia", {{"features", json::array()}});
+    browser().DoOwn("Emulation.setScriptExecutionDisabled", {{"value", false}});
+    Allow("granted");
+  }
+};
+
+TEST_F(PageTest, TakesWhatIsComposedOrComesFromAKeyboardOnTheScreen) {
+  PageUser user = InControlWindow();
+  browser().DoOwn("Input.imeSetComposition",
+                  {{"text", "3"}, {"selectionStart", 1}, {"selectionEnd", 1}});
+  browser().DoOwn("Input.insertText", {{"text", "37"}});
+  EXPECT_EQ(FieldText(user, "r"), ".37");
+  browser().DoOwn("Input.insertText", {{"text", "x"}});
+  EXPECT_EQ(FieldText(user, "r"), ".37") << "the filter of r holds for it too";
+  EXPECT_EQ(user.Beeps(), 1);
+  browser().Run("document.execCommand('delete');");
+  EXPECT_EQ(FieldText(user, "r"), ".3");
+  browser().Run("document.execCommand('undo');");
+  EXPECT_EQ(FieldText(user, "r"), ".37") << "the program's own undo";
+  EXPECT_EQ(FieldText(user, "Fisher's z"), "0.388");
+}
+
+TEST_F(PageTest, CopiesAndPastesByTheMenusAsFarAsTheBrowserAllows) {
+  PageUser user = InControlWindow();
+  user.Type("5");
+  user.PressKey(Key::Command("a"));
+  user.Choose("Edit/Cut");
+  EXPECT_EQ(FieldText(user, "r"), "");
+  EXPECT_EQ(user.Clipboard(), ".5");
+  user.Choose("Edit/Paste");
+  EXPECT_EQ(FieldText(user, "r"), ".5");
+  EXPECT_EQ(user.Beeps(), 0);
+  Allow("denied");
+  user.Choose("Edit/Paste");
+  EXPECT_EQ(FieldText(user, "r"), ".5");
+  EXPECT_EQ(user.Beeps(), 1);
+}
+
+TEST_F(PageTest, TheMenusAreWorkedByTheKeyboardAlone) {
+  PageUser user = InControlWindow();
+  for (const char* key : {"F10", "Right", "Right", "Down", "Down"}) user.PressNamed(key);
+  EXPECT_EQ(user.Focused().name, "") << "it is an item that has the focus";
+  user.PressNamed("Escape");
+  EXPECT_EQ(user.Focused().name, "r") << "and the field again";
+  for (const char* key : {"F10", "h", "Down", "Return"}) {
+    user.PressNamed(key);
+  }
+  EXPECT_EQ(user.ActiveTitle(), "") << "the splash";
+}
+
+TEST_F(PageTest, TwoCopiesInFramesKeepTheirNumbersAndLetTabThrough) {
+  const std::filesystem::path host = std::filesystem::temp_directory_path() / "vamo-frames.html";
+  std::ofstream(host) << "<iframe src='" << PageAddress() << "' width=600 height=500></iframe>"
+                      << "<iframe src='" << PageAddress() << "' width=600 height=500></iframe>";
+  browser().Open("file://" + host.string());
+  const auto enter = [&](int frame) {
+    browser().EnterFrame(nullptr);
+    browser().EnterFrame(frame);
+  };
+  for (const int frame : {0, 1}) {
+    enter(frame);
+    browser().Run("document.querySelector('.window').focus();");
+    browser().PressKeys("", "x");
+  }
+  enter(0);
+  browser().RunAsync("setTimeout(arguments[0], 100);");
+  browser().Run("document.querySelector('input').focus();");
+  browser().PressKeys("", "5");
+  EXPECT_EQ(browser().Run("return document.querySelector('input').value;"), ".5");
+  // Over N and the two sliders.
+  for (int stops = 0; stops < 4; ++stops) browser().PressKeys("", "\uE004");
+  browser().EnterFrame(nullptr);
+  EXPECT_EQ(
+      browser().Run("return document.activeElement === document.querySelectorAll('iframe')[1];"),
+      true);
+  enter(1);
+  EXPECT_EQ(browser().Run("return document.querySelector('input').value;"), "");
+  browser().EnterFrame(nullptr);
+  std::filesystem::remove(host);
+}
+
+TEST_F(PageTest, FitsPhonesAndTheirFingers) {
+  for (const auto& [width, height] : {std::pair{360, 640}, {640, 360}}) {
+    BecomePhone(width, height);
+    PageUser user = InControlWindow();
+    EXPECT_EQ(user.Focused().name, "") << "no keyboard before a field is touched";
+    const SeenElement::Place window = user.Frame().Extents();
+    EXPECT_TRUE(window.x >= 0 && window.y >= 0 && window.x + window.width <= width &&
+                window.y + window.height <= height);
+    for (const auto& [role, name] : {std::pair{Role::kText, "r"},
+                                     {Role::kSlider, "r"},
+                                     {Role::kText, "N"},
+                                     {Role::kSlider, "N"}}) {
+      const SeenElement::Place box = user.Find(role, name).Extents();
+      const json hit = browser().Run(
+          "const [x, y] = arguments;"
+          "return [-19.5, 0, 19.5].map(off => document.elementFromPoint(x, y + off))"
+          ".map(element => element.getAttribute('aria-label') + element.type);",
+          {box.x + box.width / 2, box.y + box.height / 2});
+      const std::string whole = std::string(name) + (role == Role::kText ? "text" : "range");
+      EXPECT_EQ(hit, json({whole, whole, whole})) << width;
+    }
+    const SeenElement::Place slider = user.Find(Role::kSlider, "r").Extents();
+    const int y = slider.y + slider.height / 2;
+    browser().Swipe(
+        {{slider.x + 5, y}, {slider.x + 50, y + 3}, {slider.x + slider.width / 2, y + 20}});
+    EXPECT_NEAR(user.Sees(Role::kSlider, "r").value, .5, .03);
+    EXPECT_EQ(browser().Run("return scrollY;"), 0);
+    const SeenElement::Place field = user.Find(Role::kText, "N").Extents();
+    browser().Swipe({{field.x + field.width / 2, field.y + field.height / 2}});
+    EXPECT_EQ(user.Focused().name, "N");
+    EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "numeric");
+  }
+}
+
+TEST_F(PageTest, ComingBackToThePageResetsNothing) {
+  PageUser user = InControlWindow();
+  Retype(user, "N", "30");
+  Retype(user, "r", ".5");
+  const json other = browser().DoOwn("Target.createTarget", {{"url", "about:blank"}});
+  browser().DoOwn("Target.closeTarget", other);
+  Retype(user, "N", "31");
+  EXPECT_EQ(ResultLine(user), "3.11 | .00418 | +.177 to +.726");
+}
+
+TEST_F(PageTest, FlashesWhereMotionIsWelcome) {
+  for (const char* motion : {"no-preference", "reduce"}) {
+    browser().DoOwn("Emulation.setEmulatedMedia",
+                    {{"features", {{{"name", "prefers-reduced-motion"}, {"value", motion}}}}});
+    PageUser user = InControlWindow();
+    user.Type("x");
+    EXPECT_EQ(browser().Run("return [heard.beeps, heard.flashes];"),
+              json({1, std::string(motion) == "reduce" ? 0 : 1}));
+  }
+}
+
+TEST_F(PageTest, SaysThatItHasEndedAndStartsAgain) {
+  PageUser user = InControlWindow();
+  user.PressKey(Key::Command("q"));
+  EXPECT_EQ(browser().Run(kHasEnded), "Vamo has ended.Start again");
+  browser().PressKeys("", "\uE006");
+  browser().RunAsync("setTimeout(arguments[0], 100);");
+  EXPECT_EQ(user.Windows(), std::vector<std::string>{""}) << "the splash";
+  user.PressKey(Key::Character("x"));
+  EXPECT_EQ(FieldText(user, "r"), "");
+  EXPECT_EQ(browser().ConsoleLines(), std::vector<std::string>{});
+}
+
+TEST_F(PageTest, AnErrorIsOneLineAndTheEnd) {
+  struct Case {
+    const char* damage;
+    Key key;
+    const char* line;
+    const char* shown;
+  };
+  const Case kCases[] = {
+      {"WebAssembly.Memory.prototype.grow = () => { throw new RangeError(); };", Key::Command("v"),
+       "vamo: std::bad_alloc", "Vamo has stopped because of an error.\n\nStart again"},
+      {"Element.prototype.animate = () => { throw new Error('damaged'); };", Key::Character("x"),
+       "damaged", "Vamo has stopped because of an error. Load this page again to start it anew."},
+  };
+  for (const auto& [damage, key, line, shown] : kCases) {
+    PageUser user = InControlWindow();
+    user.SetClipboard(std::string(4'000'000, '1'));
+    browser().ConsoleLines();
+    browser().Run(damage);
+    user.PressKey(key);
+    EXPECT_EQ(browser().Run("return document.body.innerText.trim();"), shown);
+    const std::vector<std::string> lines = browser().ConsoleLines();
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_NE(lines[0].find(line), std::string::npos) << lines[0];
+  }
+}
+
+TEST_F(PageTest, SaysWhyItDoesNotRun) {
+  const json added = browser().DoOwn("Page.addScriptToEvaluateOnNewDocument",
+                                     {{"source", "WebAssembly.validate = () => false;"}});
+  browser().Open(PageAddress());
+  browser().DoOwn("Page.removeScriptToEvaluateOnNewDocument", added);
+  const std::string visible = "return document.body.innerText.trim();";
+  EXPECT_EQ(browser().Run(visible).get<std::string>().rfind("Vamo needs a newer browser", 0), 0U);
+  browser().DoOwn("Emulation.setScriptExecutionDisabled", {{"value", true}});
+  browser().Open(PageAddress());
+  EXPECT_EQ(browser().Run(visible).get<std::string>().rfind("Vamo computes in the page itself", 0),
+            0U);
+}
+
+TEST(FirefoxTest, TheMainJourney) {
+  Firefox browser;
+  PageUser user(browser, PageAddress());
+  user.PressKey(Key::Character("x"));
+  Retype(user, "N", "30");
+  Retype(user, "r", ".5");
+  EXPECT_EQ(ResultLine(user), "3.06 | .00490 | +.170 to +.729");
+  user.DragSlider("r", {37});
+  EXPECT_EQ(ResultLine(user), "2.11 | .04416 | +.011 to +.644");
+  EXPECT_EQ(user.Sees(Role::kSlider, "r").value, .37);
+  user.Click(Role::kButton, "Info");
+  EXPECT_EQ(user.ActiveTitle(), "Info");
+  user.PressKey(Key::Character(std::string(1, kEscape)));
+  EXPECT_TRUE(user.Choose("File/Quit"));
+  EXPECT_EQ(user.ExitStatus(), 0);
 }
 
 }  // namespace

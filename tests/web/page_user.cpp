@@ -14,11 +14,16 @@ using nlohmann::json;
 
 // Listens for what is heard and not seen. The page has opened just before.
 constexpr std::string_view kListen = R"(
-  window.heard = {beeps: 0, sentences: []};
+  window.heard = {beeps: 0, flashes: 0, sentences: []};
   const make = AudioContext.prototype.createOscillator;
   AudioContext.prototype.createOscillator = function() {
     ++heard.beeps;
     return make.call(this);
+  };
+  const flash = Element.prototype.animate;
+  Element.prototype.animate = function(...how) {
+    ++heard.flashes;
+    return flash.apply(this, how);
   };
   new MutationObserver(changes => {
     for (const change of changes) {
