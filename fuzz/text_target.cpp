@@ -1,7 +1,6 @@
 // Texts and numbers: Val, Format, what may be typed, and a text field, each of which the first byte
 // chooses.
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdlib>
 #include <iomanip>
@@ -96,7 +95,7 @@ void TryFormat(Input& input) {
   const std::uint64_t number = input.Number(8);
   // Few of all doubles have the size of a result.
   const auto value =
-      input.OneIn(2) ? std::bit_cast<double>(number) : std::ldexp(static_cast<double>(number), -64);
+      input.OneIn(2) ? BitCast<double>(number) : std::ldexp(static_cast<double>(number), -64);
   const std::string mask = ShortText(input, "##00.+ ");
   const std::string text = Format(value, mask);
   const auto whole = static_cast<std::int64_t>(number);

@@ -53,6 +53,13 @@ within() {
 
 configure() { cmake --preset "$1"; }
 
+# What the preset for the browser wants to know of emscripten, and where Debian keeps what its optimiser of
+# JavaScript needs, for a node of another origin too.
+find_emscripten() {
+  EMSCRIPTEN_ROOT=$(em-config EMSCRIPTEN_ROOT)
+  export EMSCRIPTEN_ROOT NODE_PATH=/usr/share/nodejs
+}
+
 # build PRESET [TARGET...]
 build() {
   local -r preset=$1

@@ -3,13 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <clocale>
 #include <cmath>
 #include <limits>
 #include <locale>
 #include <random>
 #include <string>
+
+#include "toolkit/object/property_stream.h"
 
 #ifdef __GNUC__
 // Null in a program without the sanitizer.
@@ -37,7 +38,7 @@ std::string Long(std::string_view head, std::size_t count, char digit, std::stri
   return text.append(tail);
 }
 
-std::uint64_t Bits(double value) { return std::bit_cast<std::uint64_t>(value); }
+std::uint64_t Bits(double value) { return BitCast<std::uint64_t>(value); }
 
 TEST(FormatTest, WritesANumberUnderAMask) {
   const struct {
@@ -142,7 +143,7 @@ TEST(RoundTripTest, EveryDoubleHasATextThatGivesItBack) {
   std::mt19937_64 random(1);
   const std::string mask = Long("0.", 1074, '#');
   for (int i = 0; i < 2000; ++i) {
-    const double value = std::bit_cast<double>(random());
+    const double value = BitCast<double>(random());
     if (!std::isfinite(value)) continue;
     ASSERT_EQ(Bits(Val(Format(value, mask))), Bits(value)) << value;
   }

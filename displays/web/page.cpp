@@ -1,7 +1,5 @@
 #include "displays/web/page.h"
 
-#include <emscripten/emscripten.h>
-
 #include <cstdint>
 #include <cstdlib>
 #include <deque>
@@ -193,13 +191,12 @@ bool IsMac() { return page_is_mac() != 0; }
 }  // namespace page
 }  // namespace vamo
 
-// What page.js calls.
+// What page.js calls. The page's link names them as roots.
 extern "C" {
 
 // To the element, or to the page's own listener for -1.
-EMSCRIPTEN_KEEPALIVE int page_report(int element, int event, double x, double y, unsigned held,
-                                     char* text, std::size_t text_length, char* data,
-                                     std::size_t data_length) {
+int page_report(int element, int event, double x, double y, unsigned held, char* text,
+                std::size_t text_length, char* data, std::size_t data_length) {
   // Of an event that ends with an exception.
   vamo::PageAnswer answer = vamo::PageAnswer::kTakenWhole;
   vamo::RunEvent([&] {
@@ -224,7 +221,7 @@ EMSCRIPTEN_KEEPALIVE int page_report(int element, int event, double x, double y,
   return static_cast<int>(answer);
 }
 
-EMSCRIPTEN_KEEPALIVE void page_fire(int timer) {
+void page_fire(int timer) {
   const auto found = vamo::Page().timers.find(timer);
   if (found == vamo::Page().timers.end()) return;
   // A copy runs, since what fires may stop the timer.
@@ -232,7 +229,7 @@ EMSCRIPTEN_KEEPALIVE void page_fire(int timer) {
   vamo::RunEvent(fire);
 }
 
-EMSCRIPTEN_KEEPALIVE void page_run_posted() {
+void page_run_posted() {
   const auto [owner, function] = std::move(vamo::Page().posted.front());
   vamo::Page().posted.pop_front();
   if (owner == nullptr) {
@@ -242,7 +239,7 @@ EMSCRIPTEN_KEEPALIVE void page_run_posted() {
   }
 }
 
-EMSCRIPTEN_KEEPALIVE void page_give_clipboard(int allowed, char* text, std::size_t length) {
+void page_give_clipboard(int allowed, char* text, std::size_t length) {
   std::string given = vamo::Taken(text, length);
   const auto take = std::exchange(vamo::Page().clipboard_reader, nullptr);
   if (take == nullptr) return;
