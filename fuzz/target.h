@@ -30,7 +30,9 @@ class Input {
   std::uint64_t Number(int bytes);
 
   // From 0 up to, not including, `bound`, which is above 0 and of two bytes at most.
-  std::size_t Below(std::size_t bound) { return Number(bound > 256 ? 2 : 1) % bound; }
+  std::size_t Below(std::size_t bound) {
+    return static_cast<std::size_t>(Number(bound > 256 ? 2 : 1) % bound);
+  }
   // From `least` to `greatest`.
   std::int64_t Between(std::int64_t least, std::int64_t greatest) {
     return least + static_cast<std::int64_t>(Below(static_cast<std::size_t>(greatest - least + 1)));

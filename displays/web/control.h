@@ -29,6 +29,8 @@ class WebControl : public ControlView, public PageListener {
   PageAnswer Take(const PageReport& report) override;
 
   PageElement& Element() { return element_; }
+  // Tells the style sheet where the control lies on a screen that is worked by fingers.
+  virtual void SetFingerTop(const std::string& top) { element_.SetStyle("--finger-top", top); }
   RectControl& Control() { return control_; }
   // Makes the toolkit know what the user has selected since it was told last.
   virtual void ReportSelection() {}
@@ -42,6 +44,8 @@ class WebControl : public ControlView, public PageListener {
   // Whether Tab comes here: in the window in front alone, since it is the toolkit's Tab.
   std::string_view TabIndex() const;
   void SetFont(const Font& font);
+  // Lays another element where the control is.
+  void Place(PageElement& element) const;
 
  private:
   WebWindow& window_;

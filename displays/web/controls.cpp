@@ -64,7 +64,7 @@ void WebLabel::ShowState() {
   Fit();
 }
 
-// The style sheet lets the text stand out of its box to the side, or to both where it is centred.
+// A text that is too wide for its box stands out of it to the right.
 void WebLabel::Fit() {
   const double width = page::TextWidth(label_.Text(), ToCss(label_.Font()));
   const auto box = static_cast<double>(label_.Bounds().width);
@@ -76,7 +76,6 @@ void WebLabel::Fit() {
   if (label_.Alignment() == TextAlignment::kCentre) left = free / 2;
   if (label_.Alignment() == TextAlignment::kRight) left = free;
   left = std::max(-room.left, std::min(left, box + room.right - narrowed));
-  Element().SetAttribute("class", "control text left");
   Element().SetStyle("transform", "translateX(" + Units(left) + ") scaleX(" +
                                       std::to_string(narrowed / width) + ")");
 }
@@ -111,7 +110,13 @@ PageAnswer WebButton::Take(const PageReport& report) {
 }
 
 WebSlider::WebSlider(WebWindow& window, Slider& slider)
-    : WebControl(window, slider, "input"), slider_(slider) {
+    : WebControl(window, slider, "input"),
+      slider_(slider),
+      groove_(window.Content(), "div"),
+      passed_(groove_, "div") {
+  Place(groove_);
+  groove_.SetAttribute("class", "control groove");
+  Element().BringToEnd();
   Element().SetAttribute("type", "range");
   const auto set = [&](std::string_view name, std::int64_t position) {
     Element().SetAttribute(name, std::to_string(slider.InUnits(position)));
@@ -132,7 +137,12 @@ void WebSlider::ShowState() {
   const double least = static_cast<double>(slider_.MinimumValue());
   const double share = (static_cast<double>(*shown_) - least) /
                        (static_cast<double>(slider_.MaximumValue()) - least);
-  Element().SetStyle("--passed", std::to_string(share));
+  passed_.SetStyle("transform", "scaleX(" + std::to_string(share) + ")");
+}
+
+void WebSlider::SetFingerTop(const std::string& top) {
+  WebControl::SetFingerTop(top);
+  groove_.SetStyle("--finger-top", top);
 }
 
 PageAnswer WebSlider::Take(const PageReport& report) {

@@ -63,10 +63,12 @@ class WebButton : public WebControl {
   PushButton& button_;
 };
 
-// A slider in the unit that assistive technology reads.
+// A slider in the unit that assistive technology reads. The groove with its passed part is drawn by
+// elements of its own: to style the parts of an input anew at each step takes the browser long.
 class WebSlider : public WebControl {
  public:
   WebSlider(WebWindow& window, Slider& slider);
+  void SetFingerTop(const std::string& top) override;
   PageAnswer Take(const PageReport& report) override;
 
  private:
@@ -74,6 +76,8 @@ class WebSlider : public WebControl {
   void TakeWheel(double turned);
 
   Slider& slider_;
+  PageElement groove_;
+  PageElement passed_;
   std::optional<std::int64_t> shown_;
   // What the wheel has turned beyond whole notches.
   double turned_ = 0;

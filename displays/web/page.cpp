@@ -63,7 +63,7 @@ State& Page() {
 // Takes over a text that page.js has put there.
 std::string Taken(char* text, std::size_t length) {
   const std::unique_ptr<char, decltype(&std::free)> owned(text, std::free);
-  return {text, length};
+  return length == 0 ? std::string() : std::string(text, length);
 }
 
 // What happens when nobody owns the page is lost.

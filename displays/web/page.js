@@ -12,11 +12,14 @@ mergeInto(LibraryManager.library, {
     owned: 0,
     // A text is its first byte and its length.
     read: function (at, length) {
-      return new TextDecoder('utf-8', { ignoreBOM: true }).decode(HEAPU8.subarray(at, at + length));
+      if (!Page.decoder) Page.decoder = new TextDecoder('utf-8', { ignoreBOM: true });
+      return Page.decoder.decode(HEAPU8.subarray(at, at + length));
     },
     // Puts a text there for the program to take over.
     give: function (text) {
-      var bytes = new TextEncoder().encode(text);
+      if (!text) return { at: 0, length: 0 };
+      if (!Page.encoder) Page.encoder = new TextEncoder();
+      var bytes = Page.encoder.encode(text);
       var at = _malloc(bytes.length + 1);
       if (!at) throw new Error('The memory is used up.');
       HEAPU8.set(bytes, at);
@@ -42,8 +45,8 @@ mergeInto(LibraryManager.library, {
       if (answer === 2) cause.preventDefault();
     },
     tell: function (number, event, x, y, held, text, data) {
-      var first = Page.give(text || '');
-      var second = Page.give(data || '');
+      var first = Page.give(text);
+      var second = Page.give(data);
       return _page_report(number, event, x, y, held, first.at, first.length, second.at,
         second.length);
     },
@@ -165,7 +168,11 @@ mergeInto(LibraryManager.library, {
   },
   page_text_width: function (text, length, font, fontLength) {
     if (!Page.canvas) Page.canvas = document.createElement('canvas').getContext('2d');
-    Page.canvas.font = Page.read(font, fontLength);
+    font = Page.read(font, fontLength);
+    if (font !== Page.font) {
+      Page.canvas.font = font;
+      Page.font = font;
+    }
     return Page.canvas.measureText(Page.read(text, length)).width;
   },
   // Only the event of a copy reaches the clipboard everywhere, so one is made where none runs.

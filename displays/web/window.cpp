@@ -112,7 +112,7 @@ void WebWindow::PlaceForFingers() {
   for (WebControl* control : controls_) boxes.push_back(control->Control().Bounds());
   const SpacedRows rows = SpaceRows(boxes, window_.InitialState().height);
   for (std::size_t i = 0; i < controls_.size(); ++i) {
-    controls_[i]->Element().SetStyle("--finger-top", std::to_string(rows.tops[i]));
+    controls_[i]->SetFingerTop(std::to_string(rows.tops[i]));
   }
   content_.SetStyle("--finger-height", std::to_string(rows.pitch));
 }

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "journeys/journey_steps.h"
-#include "web/browser.h"
+#include "browser.h"
 #include "web/page_user.h"
 
 namespace vamo {

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "screen_user.h"
-#include "web/browser.h"
+#include "browser.h"
 
 namespace vamo {
 

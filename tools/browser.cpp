@@ -1,4 +1,4 @@
-#include "web/browser.h"
+#include "browser.h"
 
 #include <curl/curl.h>
 #include <netinet/in.h>

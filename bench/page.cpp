@@ -1,0 +1,113 @@
+// Measures the page in Chromium against an empty page and one written by hand. Usage: page PAGE
+// PLAIN_PAGE
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "browser.h"
+
+namespace {
+
+using nlohmann::json;
+using vamo::Chromium;
+
+void Print(const char* name, double value) { std::printf("%s\t%.6g\n", name, value); }
+
+double Median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+// From the start of the navigation, in milliseconds.
+double FirstPaint(Chromium& browser, const std::string& address) {
+  browser.Open(address);
+  return browser
+      .RunAsync(
+          "const done = arguments[0];"
+          "const look = () => {"
+          "  const paint = performance.getEntriesByName('first-paint')[0];"
+          "  if (paint) done(paint.startTime); else setTimeout(look, 5);"
+          "};"
+          "look();")
+      .get<double>();
+}
+
+// Brings the page to where it has the slider and an N of 30.
+void OpenControls(Chromium& browser, const std::string& address) {
+  browser.Open(address);
+  browser.RunAsync("setTimeout(arguments[0], 300);");
+  if (browser
+          .Run("return !document.querySelector('[type=range]') || "
+               "!!document.querySelector('.window');")
+          .get<bool>()) {
+    browser.PressKeys("", "x");
+    browser.RunAsync("setTimeout(arguments[0], 300);");
+    browser.PressKeys("", "\uE00430");
+  }
+}
+
+// Moves the slider of r so many times, each time with the layout done; the time of one in
+// microseconds.
+double MoveSlider(Chromium& browser, int times) {
+  return browser
+      .Run(
+          "const slider = document.querySelector('[type=range]');"
+          "const start = performance.now();"
+          "for (let i = 0; i < arguments[0]; ++i) {"
+          "  slider.value = (i % 99 + 1) / 100;"
+          "  slider.dispatchEvent(new InputEvent('input', {bubbles: true}));"
+          "  document.body.getBoundingClientRect();"
+          "}"
+          "return (performance.now() - start) / arguments[0] * 1000;",
+          json::array({times}))
+      .get<double>();
+}
+
+// What the script has in use when all is collected, and the memory of the program, in KiB.
+std::pair<double, double> Memory(Chromium& browser) {
+  browser.DoOwn("HeapProfiler.collectGarbage", json::object());
+  const double used = browser.DoOwn("Runtime.getHeapUsage", json::object()).at("usedSize");
+  return {used / 1024, browser.Run("return HEAPU8.length;").get<double>() / 1024};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: page PAGE PLAIN_PAGE\n");
+    return 2;
+  }
+  const std::string page = std::string("file://") + argv[1];
+  const std::string plain = std::string("file://") + argv[2];
+  Chromium browser;
+  std::vector<double> paints;
+  std::vector<double> empty_paints;
+  for (int i = 0; i < 31; ++i) {
+    paints.push_back(FirstPaint(browser, page));
+    empty_paints.push_back(FirstPaint(browser, "data:text/html,<p>empty"));
+  }
+  Print("paint_page", Median(paints));
+  Print("paint_empty", Median(empty_paints));
+  std::vector<double> events;
+  std::vector<double> plain_events;
+  for (int i = 0; i < 5; ++i) {
+    OpenControls(browser, page);
+    MoveSlider(browser, 500);
+    events.push_back(MoveSlider(browser, 2000));
+    OpenControls(browser, plain);
+    MoveSlider(browser, 500);
+    plain_events.push_back(MoveSlider(browser, 2000));
+  }
+  Print("slider_page", Median(events));
+  Print("slider_plain_page", Median(plain_events));
+  OpenControls(browser, page);
+  MoveSlider(browser, 1000);
+  const auto [heap_thousand, memory_thousand] = Memory(browser);
+  for (int i = 0; i < 10; ++i) MoveSlider(browser, 10000);
+  const auto [heap, memory] = Memory(browser);
+  Print("page_heap", heap);
+  Print("page_heap_thousand", heap_thousand);
+  Print("page_memory", memory);
+  Print("page_memory_thousand", memory_thousand);
+}
