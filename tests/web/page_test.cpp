@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "journeys/journey_steps.h"
 #include "browser.h"
+#include "journeys/journey_steps.h"
 #include "web/page_user.h"
 
 namespace vamo {

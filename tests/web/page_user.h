@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "screen_user.h"
 #include "browser.h"
+#include "screen_user.h"
 
 namespace vamo {
 
