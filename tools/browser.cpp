@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "child.h"
+#include "toolkit/utf8.h"
 
 namespace vamo {
 namespace {
@@ -85,13 +86,10 @@ const Row& RowOf(std::size_t command) {
 
 json Key(const char* type, const std::string& value) { return {{"type", type}, {"value", value}}; }
 
-// The characters of UTF-8.
 std::vector<std::string> Characters(const std::string& text) {
   std::vector<std::string> characters;
-  for (const char c : text) {
-    const bool continues = (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
-    if (!continues) characters.emplace_back();
-    characters.back() += c;
+  for (std::size_t at = 0; at < text.size(); at = NextCharacter(text, at)) {
+    characters.push_back(text.substr(at, NextCharacter(text, at) - at));
   }
   return characters;
 }

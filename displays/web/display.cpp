@@ -116,7 +116,7 @@ void WebDisplay::ComeInFront(WebWindow& window) {
   });
 }
 
-void WebDisplay::GoFromFront(WebWindow& window) {
+void WebDisplay::GoFromFront(const WebWindow& window) {
   if (front_ != &window) return;
   front_ = nullptr;
   Post([this] { ActivateNext(); });

@@ -50,7 +50,7 @@ class WebDisplay : public Display, public PageOwner {
   void Activate(WebWindow& window);
   // As an event of its own.
   void ComeInFront(WebWindow& window);
-  void GoFromFront(WebWindow& window);
+  void GoFromFront(const WebWindow& window);
   // Does something that may ask for the clipboard's text, which is `text`.
   void WithPasted(std::string text, const std::function<void()>& act);
 

@@ -44,9 +44,9 @@ bool IsCommand(const PageReport& report, bool on_mac) {
   return report.control && !(report.alt && IsPrintable(report.text));
 }
 
-char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 }  // namespace
+
+char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 std::optional<Key> ToKey(const PageReport& report, bool on_mac) {
   const std::string& name = report.text;

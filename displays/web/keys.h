@@ -12,6 +12,9 @@ namespace vamo {
 // modifier or a dead key.
 std::optional<Key> ToKey(const PageReport& report, bool on_mac);
 
+// Of a letter of ASCII. The C library's would depend on the locale.
+char LowerCase(char c);
+
 }  // namespace vamo
 
 #endif  // VAMO_DISPLAYS_WEB_KEYS_H_

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "displays/web/display.h"
+#include "displays/web/keys.h"
 #include "displays/web/window.h"
 #include "toolkit/runtime/runtime.h"
 #include "toolkit/text/edit_commands.h"
@@ -12,8 +13,6 @@
 
 namespace vamo {
 namespace {
-
-char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 // A page may read the clipboard only while the user looks on, and has to wait for it.
 bool Pastes(const MenuItem& item) {

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "displays/web/window.h"
-#include "toolkit/control/label.h"
 #include "toolkit/runtime/runtime.h"
 #include "toolkit/utf8.h"
 #include "toolkit/window/window.h"

@@ -10,7 +10,6 @@
 #include "displays/web/keys.h"
 #include "displays/web/rows.h"
 #include "displays/web/text.h"
-#include "toolkit/utf8.h"
 
 namespace vamo {
 

@@ -155,14 +155,12 @@ void PageUser::PressKey(const Key& key) {
 }
 
 void PageUser::PressCombination(const std::string& keys) {
-  const std::size_t end = keys.rfind('+');
   std::string held;
   std::string rest = keys;
   for (std::size_t at = rest.find('+'); at != std::string::npos; at = rest.find('+')) {
     held += KeyNamed(rest.substr(0, at));
     rest.erase(0, at + 1);
   }
-  static_cast<void>(end);
   browser_.PressKeys(held, KeyNamed(rest));
 }
 
