@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 
 #include "displays/web/window.h"
@@ -60,7 +61,9 @@ WebLabel::WebLabel(WebWindow& window, Label& label)
 }
 
 void WebLabel::ShowState() {
-  Element().SetText(label_.Text());
+  if (shown_ == label_.Text()) return;
+  shown_ = label_.Text();
+  Element().SetText(*shown_);
   Fit();
 }
 
@@ -110,13 +113,7 @@ PageAnswer WebButton::Take(const PageReport& report) {
 }
 
 WebSlider::WebSlider(WebWindow& window, Slider& slider)
-    : WebControl(window, slider, "input"),
-      slider_(slider),
-      groove_(window.Content(), "div"),
-      passed_(groove_, "div") {
-  Place(groove_);
-  groove_.SetAttribute("class", "control groove");
-  Element().BringToEnd();
+    : WebControl(window, slider, "input"), slider_(slider) {
   Element().SetAttribute("type", "range");
   const auto set = [&](std::string_view name, std::int64_t position) {
     Element().SetAttribute(name, std::to_string(slider.InUnits(position)));
@@ -130,19 +127,9 @@ WebSlider::WebSlider(WebWindow& window, Slider& slider)
 void WebSlider::ShowState() {
   Element().SetFlag("disabled", !slider_.Enabled());
   Element().SetAttribute("tabindex", TabIndex());
-  if (shown_ == slider_.Value()) return;
-  shown_ = slider_.Value();
-  const std::string value = std::to_string(slider_.InUnits(*shown_));
-  Element().SetValue(value);
-  const double least = static_cast<double>(slider_.MinimumValue());
-  const double share = (static_cast<double>(*shown_) - least) /
-                       (static_cast<double>(slider_.MaximumValue()) - least);
-  passed_.SetStyle("transform", "scaleX(" + std::to_string(share) + ")");
-}
-
-void WebSlider::SetFingerTop(const std::string& top) {
-  WebControl::SetFingerTop(top);
-  groove_.SetStyle("--finger-top", top);
+  std::string value = std::to_string(slider_.InUnits(slider_.Value()));
+  if (shown_ != value) Element().SetValue(value);
+  shown_ = std::move(value);
 }
 
 PageAnswer WebSlider::Take(const PageReport& report) {
@@ -151,8 +138,8 @@ PageAnswer WebSlider::Take(const PageReport& report) {
     case PageEvent::kPress:
       return slider_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
     case PageEvent::kInput:
-      // The page shows already what may not stand.
-      shown_ = std::nullopt;
+      // What the page shows already may not stand.
+      shown_ = std::to_string(std::strtod(report.text.c_str(), nullptr));
       slider_.UserSetByAssistiveTechnology(std::strtod(report.text.c_str(), nullptr));
       Update();
       return PageAnswer::kTaken;

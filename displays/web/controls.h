@@ -2,7 +2,6 @@
 #ifndef VAMO_DISPLAYS_WEB_CONTROLS_H_
 #define VAMO_DISPLAYS_WEB_CONTROLS_H_
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -50,6 +49,8 @@ class WebLabel : public WebControl {
   void Fit();
 
   Label& label_;
+  // The text that has been fitted.
+  std::optional<std::string> shown_;
 };
 
 class WebButton : public WebControl {
@@ -63,12 +64,10 @@ class WebButton : public WebControl {
   PushButton& button_;
 };
 
-// A slider in the unit that assistive technology reads. The groove with its passed part is drawn by
-// elements of its own: to style the parts of an input anew at each step takes the browser long.
+// A slider in the unit that assistive technology reads. The style sheet draws all of it.
 class WebSlider : public WebControl {
  public:
   WebSlider(WebWindow& window, Slider& slider);
-  void SetFingerTop(const std::string& top) override;
   PageAnswer Take(const PageReport& report) override;
 
  private:
@@ -76,9 +75,8 @@ class WebSlider : public WebControl {
   void TakeWheel(double turned);
 
   Slider& slider_;
-  PageElement groove_;
-  PageElement passed_;
-  std::optional<std::int64_t> shown_;
+  // The value in the element.
+  std::optional<std::string> shown_;
   // What the wheel has turned beyond whole notches.
   double turned_ = 0;
 };

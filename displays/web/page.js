@@ -10,8 +10,17 @@ mergeInto(LibraryManager.library, {
     inCopy: false,
     // Whether there is somebody to report to.
     owned: 0,
-    // A text is its first byte and its length.
+    // A text is its first byte and its length. The short ones are nearly all in ASCII, and a decoder
+    // takes longer to call than they take to read.
     read: function (at, length) {
+      var text = '';
+      if (length < 40) {
+        for (var end = at + length; at < end && HEAPU8[at] < 128; ++at) {
+          text += String.fromCharCode(HEAPU8[at]);
+        }
+        if (at === end) return text;
+        at = end - length;
+      }
       if (!Page.decoder) Page.decoder = new TextDecoder('utf-8', { ignoreBOM: true });
       return Page.decoder.decode(HEAPU8.subarray(at, at + length));
     },
@@ -128,7 +137,13 @@ mergeInto(LibraryManager.library, {
       Page.read(value, valueLength));
   },
   page_set_text: function (number, text, length) {
-    Page.elements[number].textContent = Page.read(text, length);
+    var element = Page.elements[number];
+    // To write into a text is cheaper than to replace it.
+    if (length && element.firstChild) {
+      element.firstChild.data = Page.read(text, length);
+    } else {
+      element.textContent = Page.read(text, length);
+    }
   },
   page_set_value: function (number, text, length) {
     Page.elements[number].value = Page.read(text, length);
