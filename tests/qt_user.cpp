@@ -15,6 +15,7 @@
 
 #include "displays/qt/display.h"
 #include "journeys/journey_steps.h"
+#include "place.h"
 #include "screen_user.h"
 #include "shell/startup.h"
 
@@ -73,9 +74,6 @@ class QtElement {
   std::int64_t InSteps(double value) const {
     return std::llround(value / ValueInterface().minimumStepSize().toDouble());
   }
-  struct Place {
-    int x, y, width, height;
-  };
   Place Extents() const {
     const QRect rect = accessible_->rect();
     return {rect.x(), rect.y(), rect.width(), rect.height()};

@@ -118,7 +118,7 @@ std::int64_t Element::InSteps(double value) const {
   return std::llround(value / Number(Get(), atspi_value_get_minimum_increment));
 }
 
-Element::Place Element::Extents() const {
+Place Element::Extents() const {
   const Held<AtspiComponent> component(atspi_accessible_get_component_iface(Get()));
   if (!component) throw std::runtime_error("it has no place on the screen");
   const Memory<AtspiRect> rect(

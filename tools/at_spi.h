@@ -12,20 +12,14 @@
 #include <string_view>
 #include <vector>
 
+#include "place.h"
+
 namespace vamo {
 
 // One accessible element of a program's tree. It holds no copy of what it shows: each function asks
 // the program and throws std::runtime_error when that has gone or does not answer.
 class Element {
  public:
-  // In logical pixels of the program.
-  struct Place {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-  };
-
   explicit Element(AtspiAccessible* owned) : accessible_(owned, g_object_unref) {}
 
   std::string RoleName() const;

@@ -36,7 +36,7 @@ void OutsideUser::TypePrintable(std::string_view text) {
 // A logical pixel of the program may be several of the screen, and on Wayland no program knows
 // where its windows are.
 void OutsideUser::MoveTo(int x, int y) {
-  const Element::Place content = Frame().Extents();
+  const Place content = Frame().Extents();
   const WindowOnScreen window = WindowTitled(ActiveTitle());
   const double scale = std::round(window.width / static_cast<double>(content.width));
   MoveMouse(window.x + static_cast<int>(scale * (x - content.x)),

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "displays/user.h"
+#include "place.h"
 
 namespace vamo {
 
@@ -200,11 +201,11 @@ class ScreenUser : public User {
   }
 
   void MoveToMiddleOf(const Element& element) {
-    const auto place = element.Extents();
+    const Place place = element.Extents();
     MoveTo(place.x + place.width / 2, place.y + place.height / 2);
   }
   void MoveKnob(const Element& slider, std::int64_t to) {
-    const auto place = slider.Extents();
+    const Place place = slider.Extents();
     const int knob = KnobAt(to, slider.InSteps(slider.LeastValue()),
                             slider.InSteps(slider.GreatestValue()), place.width);
     MoveTo(place.x + knob, place.y + place.height / 2);

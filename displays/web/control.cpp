@@ -1,16 +1,40 @@
 #include "displays/web/control.h"
 
+#include <cmath>
+
 #include "displays/web/window.h"
 #include "toolkit/control/label.h"
 #include "toolkit/window/window.h"
 
 namespace vamo {
+namespace {
+
+// Relative to that of white, in sRGB. To have std::pow in it would make the page longer by 4 KB.
+double Luminance(Colour colour) {
+  const auto linear = [](std::uint8_t part) {
+    const double share = part / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::exp(2.4 * std::log((share + 0.055) / 1.055));
+  };
+  return 0.2126 * linear(colour.red) + 0.7152 * linear(colour.green) + 0.0722 * linear(colour.blue);
+}
+
+}  // namespace
 
 std::string Units(double length) { return "calc(var(--unit) * " + std::to_string(length) + ")"; }
 
 std::string ToCss(Colour colour) {
   const auto part = [](std::uint8_t number) { return std::to_string(number); };
   return "rgb(" + part(colour.red) + "," + part(colour.green) + "," + part(colour.blue) + ")";
+}
+
+Colour Legible(Colour colour) {
+  constexpr double kGreatest = 1.05 / 4.5 - 0.05;
+  while (Luminance(colour) > kGreatest) {
+    for (std::uint8_t* part : {&colour.red, &colour.green, &colour.blue}) {
+      *part = static_cast<std::uint8_t>(*part * 31 / 32);
+    }
+  }
+  return colour;
 }
 
 std::string ToCss(const Font& font) {

@@ -15,6 +15,9 @@ class WebWindow;
 // A length of the design as CSS has it. The style sheet says how long a unit is on this page.
 std::string Units(double length);
 std::string ToCss(Colour colour);
+// The colour for a text, darkened where it would not stand out from a white window by 4.5 to 1, as
+// WCAG measures it. A page is read on a phone in the sun, too.
+Colour Legible(Colour colour);
 // The font for `font`, its size in CSS pixels as it is in logical ones.
 std::string ToCss(const Font& font);
 std::string_view ToCss(TextAlignment alignment);

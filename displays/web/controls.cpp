@@ -55,7 +55,7 @@ WebLabel::WebLabel(WebWindow& window, Label& label)
   // An output would speak at every step of a drag; the toolkit says what is to be announced.
   if (TagOf(label) == "output") Element().SetAttribute("aria-live", "off");
   Element().SetAttribute("class", "control text " + std::string(ToCss(label.Alignment())));
-  Element().SetStyle("color", ToCss(label.TextColour()));
+  Element().SetStyle("color", ToCss(Legible(label.TextColour())));
   SetFont(label.Font());
   Update();
 }

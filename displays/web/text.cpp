@@ -59,7 +59,7 @@ WebText::WebText(WebWindow& window, TextEdit& text, std::string_view tag)
        {std::pair{"autocomplete", "off"}, {"autocapitalize", "off"}, {"spellcheck", "false"}}) {
     Element().SetAttribute(name, value);
   }
-  Element().SetStyle("color", ToCss(text.TextColour()));
+  Element().SetStyle("color", ToCss(Legible(text.TextColour())));
   Element().SetStyle("--background", ToCss(text.BackgroundColour()));
   SetFont(text.Font());
 }

@@ -135,33 +135,51 @@ TEST_F(PageTest, FitsPhonesAndTheirFingers) {
     BecomePhone(width, height);
     PageUser user = InControlWindow();
     EXPECT_EQ(user.Focused().name, "") << "no keyboard before a field is touched";
-    const SeenElement::Place window = user.Frame().Extents();
+    const Place window = user.Frame().Extents();
     EXPECT_TRUE(window.x >= 0 && window.y >= 0 && window.x + window.width <= width &&
                 window.y + window.height <= height);
     for (const auto& [role, name] : {std::pair{Role::kText, "r"},
                                      {Role::kSlider, "r"},
                                      {Role::kText, "N"},
-                                     {Role::kSlider, "N"}}) {
-      const SeenElement::Place box = user.Find(role, name).Extents();
+                                     {Role::kSlider, "N"},
+                                     {Role::kButton, "Info"}}) {
+      const Place box = user.Find(role, name).Extents();
       const json hit = browser().Run(
           "const [x, y] = arguments;"
           "return [-19.5, 0, 19.5].map(off => document.elementFromPoint(x, y + off))"
           ".map(element => element.getAttribute('aria-label') + element.type);",
           {box.x + box.width / 2, box.y + box.height / 2});
-      const std::string whole = std::string(name) + (role == Role::kText ? "text" : "range");
+      const std::string type = role == Role::kText     ? "text"
+                               : role == Role::kSlider ? "range"
+                                                       : "button";
+      const std::string whole = name + type;
       EXPECT_EQ(hit, json({whole, whole, whole})) << width;
     }
-    const SeenElement::Place slider = user.Find(Role::kSlider, "r").Extents();
+    const Place slider = user.Find(Role::kSlider, "r").Extents();
     const int y = slider.y + slider.height / 2;
     browser().Swipe(
         {{slider.x + 5, y}, {slider.x + 50, y + 3}, {slider.x + slider.width / 2, y + 20}});
     EXPECT_NEAR(user.Sees(Role::kSlider, "r").value, .5, .03);
     EXPECT_EQ(browser().Run("return scrollY;"), 0);
-    const SeenElement::Place field = user.Find(Role::kText, "N").Extents();
+    const Place field = user.Find(Role::kText, "N").Extents();
     browser().Swipe({{field.x + field.width / 2, field.y + field.height / 2}});
     EXPECT_EQ(user.Focused().name, "N");
     EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "numeric");
   }
+}
+
+TEST_F(PageTest, TextsStandOutFromTheWindow) {
+  PageUser user = InControlWindow();
+  Retype(user, "N", "3");
+  ASSERT_TRUE(Warned(user));
+  EXPECT_GE(
+      browser().Run("const linear = part => part <= 10.31 ? part / 3294.6 : "
+                    "  ((part / 255 + .055) / 1.055) ** 2.4;"
+                    "return Math.min(...[...document.querySelectorAll('.text')].map(text => {"
+                    "  const [r, g, b] = getComputedStyle(text).color.match(/\\d+/g).map(linear);"
+                    "  return 1.05 / (.2126 * r + .7152 * g + .0722 * b + .05);"
+                    "}));"),
+      4.5);
 }
 
 TEST_F(PageTest, ComingBackToThePageResetsNothing) {

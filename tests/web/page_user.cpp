@@ -118,7 +118,7 @@ std::int64_t SeenElement::InSteps(double value) const {
   return std::llround(value / look_->at("step").get<double>());
 }
 
-SeenElement::Place SeenElement::Extents() const {
+Place SeenElement::Extents() const {
   return {Rounded(look_->at("x")), Rounded(look_->at("y")), Rounded(look_->at("width")),
           Rounded(look_->at("height"))};
 }

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "browser.h"
+#include "place.h"
 #include "screen_user.h"
 
 namespace vamo {
@@ -23,13 +24,6 @@ class PageUser;
 // assistive technology has.
 class SeenElement {
  public:
-  struct Place {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-  };
-
   SeenElement(PageUser& user, std::shared_ptr<const nlohmann::json> look)
       : user_(&user), look_(std::move(look)) {}
 

@@ -1,0 +1,16 @@
+#ifndef VAMO_TOOLS_PLACE_H_
+#define VAMO_TOOLS_PLACE_H_
+
+namespace vamo {
+
+// Where an element is, in logical pixels of the program's window or of the page.
+struct Place {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TOOLS_PLACE_H_
