@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "browser.h"
@@ -12,7 +13,9 @@ namespace {
 using nlohmann::json;
 using vamo::Chromium;
 
-void Print(const char* name, double value) { std::printf("%s\t%.6g\n", name, value); }
+void Print(const std::string& name, double value) {
+  std::printf("%s\t%.6g\n", name.c_str(), value);
+}
 
 double Median(std::vector<double> values) {
   std::sort(values.begin(), values.end());
@@ -102,12 +105,13 @@ int main(int argc, char** argv) {
   Print("slider_page", Median(events));
   Print("slider_plain_page", Median(plain_events));
   OpenControls(browser, page);
-  MoveSlider(browser, 1000);
-  const auto [heap_thousand, memory_thousand] = Memory(browser);
-  for (int i = 0; i < 10; ++i) MoveSlider(browser, 10000);
-  const auto [heap, memory] = Memory(browser);
-  Print("page_heap", heap);
-  Print("page_heap_thousand", heap_thousand);
-  Print("page_memory", memory);
-  Print("page_memory_thousand", memory_thousand);
+  int moved = 0;
+  for (const auto& [times, name] : {std::pair{1000, "thousand"},
+                                    {100'000, "hundred_thousand"},
+                                    {200'000, "two_hundred_thousand"}}) {
+    for (; moved < times; moved += 1000) MoveSlider(browser, 1000);
+    const auto [heap, memory] = Memory(browser);
+    Print(std::string("page_heap_") + name, heap);
+    Print(std::string("page_memory_") + name, memory);
+  }
 }

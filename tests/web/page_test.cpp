@@ -182,6 +182,62 @@ TEST_F(PageTest, TextsStandOutFromTheWindow) {
       4.5);
 }
 
+TEST_F(PageTest, NarrowsATextAsLongAsItIsTooWide) {
+  PageUser user = InControlWindow();
+  const auto width_when_it_takes = [&](int pixels) {
+    browser().Run(
+        "const [width] = arguments;"
+        "CanvasRenderingContext2D.prototype.measureText = () => ({width});",
+        json::array({pixels}));
+    Retype(user, "r", pixels % 2 == 0 ? ".4" : ".5");
+    const double scale = browser().Run(
+        "const interval = [...document.querySelectorAll('output')]"
+        "  .find(output => / to /.test(output.textContent));"
+        "return new DOMMatrix(getComputedStyle(interval).transform).a;");
+    return scale * pixels;
+  };
+  Retype(user, "N", "30");
+  EXPECT_EQ(width_when_it_takes(60), 60);
+  EXPECT_NEAR(width_when_it_takes(401), 100, .01) << "its box, and what is free beside it";
+  EXPECT_EQ(width_when_it_takes(60), 60);
+}
+
+TEST_F(PageTest, NothingButTheAnnouncementsIsSpokenByItself) {
+  PageUser user = InControlWindow();
+  const json tree = browser().DoOwn("Accessibility.getFullAXTree", json::object());
+  std::vector<std::string> live;
+  for (const json& node : tree.at("nodes")) {
+    for (const json& property : node.value("properties", json::array())) {
+      const json& value = property.at("value").value("value", json());
+      if (property.at("name") == "live" && value != "off") {
+        live.push_back(node.at("role").at("value").get<std::string>() + " " + value.dump());
+      }
+    }
+  }
+  EXPECT_EQ(live, std::vector<std::string>{"status \"polite\""});
+}
+
+TEST_F(PageTest, LetsNothingInOrOut) {
+  InControlWindow();
+  EXPECT_EQ(browser().RunAsync(
+                "const done = arguments[0], refused = [];"
+                "document.addEventListener('securitypolicyviolation', event => {"
+                "  refused.push(event.effectiveDirective);"
+                "  if (refused.length === 5) done(refused.sort());"
+                "});"
+                "setTimeout(() => done(refused.sort()), 2000);"
+                "const add = (tag, given) => "
+                "    document.body.append(Object.assign(document.createElement(tag), given));"
+                "add('script', {textContent: '0'});"
+                "add('style', {textContent: 'p {}'});"
+                "add('iframe', {src: 'http://localhost/'});"
+                "new Image().src = 'http://localhost/';"
+                "fetch('http://localhost/').catch(() => {});"),
+            json({"connect-src", "frame-src", "img-src", "script-src-elem", "style-src-elem"}));
+  // The browser says so, too.
+  browser().ConsoleLines();
+}
+
 TEST_F(PageTest, ComingBackToThePageResetsNothing) {
   PageUser user = InControlWindow();
   Retype(user, "N", "30");
