@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 
 #include "displays/web/window.h"
 #include "toolkit/window/text_room.h"
@@ -139,8 +138,8 @@ PageAnswer WebSlider::Take(const PageReport& report) {
       return slider_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
     case PageEvent::kInput:
       // What the page shows already may not stand.
-      shown_ = std::to_string(std::strtod(report.text.c_str(), nullptr));
-      slider_.UserSetByAssistiveTechnology(std::strtod(report.text.c_str(), nullptr));
+      shown_ = std::to_string(report.x);
+      slider_.UserSetByAssistiveTechnology(report.x);
       Update();
       return PageAnswer::kTaken;
     case PageEvent::kWheel:

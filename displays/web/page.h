@@ -33,15 +33,15 @@ struct PageReport {
   PageEvent event = PageEvent::kKey;
   // Of a press, its place as a share of the width and the height of the element that hears of it.
   // Of a wheel, what it has turned, in notches to the right and away from the user. Of a click, in
-  // `x`, how often the mouse has been clicked; 0 where it was something else that clicked.
+  // `x`, how often the mouse has been clicked; 0 where it was something else that clicked. Of an
+  // input, in `x`, its value where that is a number.
   double x = 0;
   double y = 0;
   bool shift = false;
   bool control = false;
   bool alt = false;
   bool meta = false;
-  // The name of a key, the value of an input, the kind of an edit, what has been composed or
-  // pasted.
+  // The name of a key, the kind of an edit, what has been composed or pasted.
   std::string text = {};
   // The text that an edit brings.
   std::string data = {};

@@ -83,7 +83,7 @@ mergeInto(LibraryManager.library, {
         },
         click: function (event) { Page.report(event, 2, event.detail, 0); },
         focusin: function (event) { Page.report(event, 3, 0, 0); },
-        input: function (event) { Page.report(event, 4, 0, 0, event.target.value); },
+        input: function (event) { Page.report(event, 4, event.target.valueAsNumber, 0); },
         beforeinput: function (event) {
           var carried = event.dataTransfer;
           Page.report(event, 5, 0, 0, event.inputType,
