@@ -36,7 +36,8 @@ double FirstPaint(Chromium& browser, const std::string& address) {
       .get<double>();
 }
 
-// Brings the page to where it has the slider and an N of 30.
+// Opens the page, dismisses the splash and sets N to 30, which the page written by hand has
+// already.
 void OpenControls(Chromium& browser, const std::string& address) {
   browser.Open(address);
   browser.RunAsync("setTimeout(arguments[0], 300);");
