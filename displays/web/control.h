@@ -37,14 +37,16 @@ class WebControl : public ControlView, public PageListener {
   RectControl& Control() { return control_; }
   // Makes the toolkit know what the user has selected since it was told last.
   virtual void ReportSelection() {}
-  // Shows where the keys go, or that they no longer go here.
-  virtual void ShowFocus();
+  // Takes the browser's focus here.
+  void ShowFocus();
+  // Whether the focus opens a keyboard on the screen, where there is none to touch.
+  virtual bool OpensKeyboard() const { return false; }
 
  protected:
   // Shows the control's own state; the common one is shown already.
   virtual void ShowState() {}
   WebWindow& Window() { return window_; }
-  // Whether Tab comes here: in the window in front alone, since it is the toolkit's Tab.
+  // Whether Tab comes here: in the window in front alone, as on the desktop.
   std::string_view TabIndex() const;
   void SetFont(const Font& font);
   // Lays another element where the control is.

@@ -51,8 +51,9 @@ WebRectangle::WebRectangle(WebWindow& window, Rectangle& rectangle)
 
 WebLabel::WebLabel(WebWindow& window, Label& label)
     : WebControl(window, label, TagOf(label)), label_(label) {
-  // An output would speak at every step of a drag; the toolkit says what is to be announced.
-  if (TagOf(label) == "output") Element().SetAttribute("aria-live", "off");
+  // An output would speak at every step of a drag; the toolkit says what is to be announced. No
+  // other element is one that speaks by itself.
+  Element().SetAttribute("aria-live", "off");
   Element().SetAttribute("class", "control text " + std::string(ToCss(label.Alignment())));
   Element().SetStyle("color", ToCss(Legible(label.TextColour())));
   SetFont(label.Font());
@@ -143,6 +144,8 @@ PageAnswer WebSlider::Take(const PageReport& report) {
       Update();
       return PageAnswer::kTaken;
     case PageEvent::kWheel:
+      // The browser makes the page larger by it.
+      if (report.control) return PageAnswer::kTaken;
       TakeWheel(report.y != 0 ? report.y : report.x);
       return PageAnswer::kTakenWhole;
     default:

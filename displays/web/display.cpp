@@ -53,7 +53,11 @@ void WebDisplay::Beep() {
   if (front_ != nullptr) front_->Flash();
 }
 
-// The same sentence once more is a change only where it had gone in between.
+void WebDisplay::SetClipboardText(std::string_view text) {
+  if (!page::Copy(text)) Beep();
+}
+
+// A sentence is spoken as one that has come, not as a change of the one before.
 void WebDisplay::Announce(std::string_view sentence) {
   announcement_.SetText("");
   announcement_.SetText(sentence);
@@ -78,12 +82,16 @@ PageAnswer WebDisplay::Take(const PageReport& report) {
   switch (report.event) {
     case PageEvent::kKey:
       return front_->TakeKey(report);
+    case PageEvent::kPress:
+      front_->BringToFront();
+      return PageAnswer::kTaken;
+    // The browser does nothing of its own where something has been copied.
     case PageEvent::kCopy:
       front_->TakeCommand("c");
-      return PageAnswer::kTakenWhole;
+      return PageAnswer::kTaken;
     case PageEvent::kCut:
       front_->TakeCommand("x");
-      return PageAnswer::kTakenWhole;
+      return PageAnswer::kTaken;
     case PageEvent::kPaste:
       WithPasted(report.text, [this] { front_->TakeCommand("v"); });
       return PageAnswer::kTakenWhole;

@@ -34,7 +34,7 @@ class WebDisplay : public Display, public PageOwner {
   std::string ClipboardText() override { return pasted_; }
   // A page may not look at the clipboard before the user pastes.
   bool ClipboardMayHoldText() const override { return true; }
-  void SetClipboardText(std::string_view text) override { page::Copy(text); }
+  void SetClipboardText(std::string_view text) override;
   bool MenuBarsLiveInWindows() const override { return true; }
   bool TabLeavesWindows() const override { return true; }
 

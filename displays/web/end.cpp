@@ -25,6 +25,9 @@ class End : public PageOwner {
     button_.Focus();
     page::SetOwner(this);
   }
+  ~End() override { page::SetOwner(nullptr); }
+  End(const End&) = delete;
+  End& operator=(const End&) = delete;
 
   PageAnswer Take(const PageReport& /*report*/) override { return PageAnswer::kPassed; }
   void RunEvent(const std::function<void()>& event) override { event(); }

@@ -44,6 +44,14 @@ bool IsCommand(const PageReport& report, bool on_mac) {
   return report.control && !(report.alt && IsPrintable(report.text));
 }
 
+// On a keyboard of another script, the letter that has the key on a Latin one.
+char CommandLetter(const PageReport& report) {
+  constexpr std::string_view kKey = "Key";
+  const bool latin = report.text.size() == 1;
+  const bool named = report.data.size() == kKey.size() + 1 && report.data.starts_with(kKey);
+  return LowerCase(latin || !named ? report.text[0] : report.data.back());
+}
+
 }  // namespace
 
 char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -62,14 +70,16 @@ std::optional<Key> ToKey(const PageReport& report, bool on_mac) {
     key.command = false;
     return key;
   }
+  // With Alt a key is the browser's. On a Mac that makes other characters and goes by words, and
+  // the keys with Control are those of every text.
+  const bool browsers = on_mac ? report.control : report.alt && !report.control;
+  if (browsers) return key;
   for (const auto& [coded_name, code] : kCodedKeys) {
     if (coded_name == name) key.code = code;
   }
-  // With Alt a letter is another character on a Mac and a mnemonic of the browser elsewhere.
-  const bool mnemonic = report.alt && !report.control && !on_mac;
-  if (key.code != KeyCode::kOther || !IsPrintable(name) || mnemonic) return key;
+  if (key.code != KeyCode::kOther || !IsPrintable(name)) return key;
   key.code = KeyCode::kCharacter;
-  key.text = key.command ? std::string(1, LowerCase(name[0])) : name;
+  key.text = key.command ? std::string(1, CommandLetter(report)) : name;
   return key;
 }
 

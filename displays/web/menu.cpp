@@ -111,6 +111,12 @@ void WebMenuBar::ShowPlace(bool in_front) {
 
 void WebMenuBar::Focus() { FocusTitle(0); }
 
+void WebMenuBar::Leave() {
+  if (open_ == kNone) return;
+  Close();
+  window_.ShowFocus();
+}
+
 void WebMenuBar::FocusTitle(std::size_t menu) { menus_[menu]->title.Focus(); }
 
 void WebMenuBar::Open(std::size_t menu) {
@@ -135,12 +141,10 @@ PageAnswer WebMenuBar::TakeTitle(std::size_t menu, const PageReport& report) {
   const bool pressed = report.event == PageEvent::kPress;
   // The click of a mouse is the end of a press; another one is assistive technology's.
   if (!pressed && (report.event != PageEvent::kClick || report.x != 0)) return PageAnswer::kPassed;
+  const bool was_open = open_ == menu;
   window_.BringToFront();
   window_.ReportSelection();
-  if (open_ == menu) {
-    Close();
-    window_.ShowFocus();
-  } else {
+  if (!was_open) {
     Open(menu);
     FocusTitle(menu);
   }
@@ -187,7 +191,18 @@ PageAnswer WebMenuBar::TakeKey(std::size_t menu, const PageReport& report) {
     return PageAnswer::kTakenWhole;
   }
   if (key == "Tab") return PageAnswer::kTaken;
-  if (report.control || report.meta || report.alt || key.size() != 1) return PageAnswer::kPassed;
+  if (key == "Home" || key == "End") {
+    const int step = key == "Home" ? 1 : -1;
+    if (open_ == menu) {
+      FocusEntry(menu, Next(menu, kNone, step));
+    } else {
+      FocusTitle(step > 0 ? 0 : menus_.size() - 1);
+    }
+    return PageAnswer::kTakenWhole;
+  }
+  if (report.control || report.meta || report.alt || key == "F1") return PageAnswer::kPassed;
+  // No other key is for what has the focus behind the menu.
+  if (key.size() != 1) return PageAnswer::kTaken;
   if (open_ == menu) {
     for (std::size_t i = 0; i < menus_[menu]->entries.size(); ++i) {
       const Entry& entry = *menus_[menu]->entries[i];

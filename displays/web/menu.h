@@ -22,6 +22,8 @@ class WebMenuBar {
 
   // Takes the focus to the first menu.
   void Focus();
+  // Closes an open menu, and what has the keys gets them back.
+  void Leave();
   // Whether Tab comes here.
   void ShowPlace(bool in_front);
 

@@ -14,9 +14,11 @@
   function stopped() {
     say('Vamo has stopped because of an error. Load this page again to start it anew.');
   }
-  if (typeof WebAssembly !== 'object' ||
-      !WebAssembly.validate(new Uint8Array(withExceptions))) {
-    say('Vamo needs a newer browser: one of 2022 or later, such as Firefox 100, Chrome 95 or Safari 15.2.');
+  // Older browsers refuse it because of what it has, or because of the content policy.
+  try {
+    new WebAssembly.Module(new Uint8Array(withExceptions));
+  } catch (error) {
+    say('Vamo needs a newer browser: at least Firefox 102, Chrome 97 or Safari 16, all of 2022.');
   }
   window.addEventListener('error', stopped);
   window.addEventListener('unhandledrejection', stopped);

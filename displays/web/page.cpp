@@ -21,6 +21,7 @@ void page_select(int element, std::size_t anchor, std::size_t caret);
 std::size_t page_anchor(int element);
 std::size_t page_caret(int element);
 void page_focus(int element);
+void page_come_into_view(int element);
 int page_has_focus(int element);
 void page_bring_to_end(int element);
 void page_flash(int element);
@@ -30,7 +31,7 @@ void page_start_timer(int timer, double period);
 void page_stop_timer(int timer);
 double page_text_width(const char* text, std::size_t length, const char* font,
                        std::size_t font_length);
-void page_copy(const char* text, std::size_t length);
+int page_copy(const char* text, std::size_t length);
 void page_read_clipboard();
 void page_sound();
 int page_has_picture(const char* name, std::size_t length);
@@ -132,6 +133,8 @@ PageSelection PageElement::Selection() const { return {page_anchor(number_), pag
 
 void PageElement::Focus() { page_focus(number_); }
 
+void PageElement::ComeIntoView() { page_come_into_view(number_); }
+
 bool PageElement::HasFocus() const { return page_has_focus(number_) != 0; }
 
 void PageElement::BringToEnd() { page_bring_to_end(number_); }
@@ -139,7 +142,7 @@ void PageElement::BringToEnd() { page_bring_to_end(number_); }
 void PageElement::Flash() { page_flash(number_); }
 
 void PageElement::ShowPicture(std::string_view name) {
-  page_show_picture(number_, name.data(), name.size());
+  if (Note("#picture", name)) page_show_picture(number_, name.data(), name.size());
 }
 
 std::string PageElement::Id() const { return "vamo" + std::to_string(number_); }
@@ -147,6 +150,9 @@ std::string PageElement::Id() const { return "vamo" + std::to_string(number_); }
 namespace page {
 
 void SetOwner(PageOwner* owner) {
+  for (State::Posted& posted : Page().posted) {
+    if (posted.owner != nullptr && posted.owner != owner) posted.function = nullptr;
+  }
   Page().owner = owner;
   page_set_owned(owner != nullptr ? 1 : 0);
   if (owner == nullptr) Page().clipboard_reader = nullptr;
@@ -173,7 +179,7 @@ double TextWidth(std::string_view text, std::string_view css_font) {
   return page_text_width(text.data(), text.size(), css_font.data(), css_font.size());
 }
 
-void Copy(std::string_view text) { page_copy(text.data(), text.size()); }
+bool Copy(std::string_view text) { return page_copy(text.data(), text.size()) != 0; }
 
 void ReadClipboard(std::function<void(std::optional<std::string>)> take) {
   Page().clipboard_reader = std::move(take);
@@ -232,9 +238,10 @@ void page_fire(int timer) {
 void page_run_posted() {
   const auto [owner, function] = std::move(vamo::Page().posted.front());
   vamo::Page().posted.pop_front();
+  if (function == nullptr) return;
   if (owner == nullptr) {
     function();
-  } else if (owner == vamo::Page().owner) {
+  } else {
     owner->RunEvent(function);
   }
 }

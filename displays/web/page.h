@@ -26,7 +26,8 @@ enum class PageEvent {
   kWheel = 7,
   kCopy = 8,
   kCut = 9,
-  kPaste = 10
+  kPaste = 10,
+  kComposing = 11
 };
 
 struct PageReport {
@@ -41,9 +42,10 @@ struct PageReport {
   bool control = false;
   bool alt = false;
   bool meta = false;
-  // The name of a key, the kind of an edit, what has been composed or pasted.
+  // The name of a key, the kind of an edit, what has been composed or pasted, the value of an input
+  // that is no number.
   std::string text = {};
-  // The text that an edit brings.
+  // The text that an edit brings. Of a key, its name by its place on the keyboard.
   std::string data = {};
 };
 
@@ -110,7 +112,9 @@ class PageElement {
   void Select(const PageSelection& selection);
   PageSelection Selection() const;
 
+  // Scrolls nothing.
   void Focus();
+  void ComeIntoView();
   bool HasFocus() const;
   void BringToEnd();
   void Flash();
@@ -133,8 +137,8 @@ namespace page {
 // Null: nobody hears anything any more, nor is the clipboard waited for.
 void SetOwner(PageOwner* owner);
 
-// Calls `function` once, as an event of its own: the present owner's, so that it is dropped when
-// the page has another one by then. Without an owner it is nobody's and always comes.
+// Calls `function` once, as an event of its own. It belongs to the present owner and is dropped if
+// the page has another one by then. If the page has no owner, it always runs.
 void Post(std::function<void()> function);
 // Calls `function` each time that the period has passed, until it is stopped by the number.
 int StartTimer(std::chrono::milliseconds period, std::function<void()> function);
@@ -143,8 +147,8 @@ void StopTimer(int number);
 // The width of a text in a CSS font, in CSS pixels.
 double TextWidth(std::string_view text, std::string_view css_font);
 
-// Puts a text on the clipboard; only while the user does something.
-void Copy(std::string_view text);
+// Puts a text on the clipboard, unless the browser refuses; only while the user does something.
+bool Copy(std::string_view text);
 // Asks for the clipboard's text; nothing where the browser or the user refuses.
 void ReadClipboard(std::function<void(std::optional<std::string>)> take);
 

@@ -8,6 +8,8 @@ mergeInto(LibraryManager.library, {
     // What the running event is to put on the clipboard.
     copied: null,
     inCopy: false,
+    // Where the mouse has gone down.
+    pressed: null,
     // Whether there is somebody to report to.
     owned: 0,
     // A text is its first byte and its length. The short ones are nearly all in ASCII, and a decoder
@@ -72,23 +74,39 @@ mergeInto(LibraryManager.library, {
       Page.copied = null;
     },
     listen: function () {
+      // Safari on a phone enlarges the page for a field that has the focus, and leaves it so.
+      if (CSS.supports('-webkit-touch-callout', 'none')) {
+        document.querySelector('[name=viewport]').content += ', maximum-scale=1';
+      }
       var listeners = {
         keydown: function (event) {
-          // What is being composed comes when it has been.
-          if (event.isComposing || event.key === 'Process' || event.key === 'Unidentified') return;
-          Page.report(event, 0, 0, 0, event.key);
+          // What is being composed comes when it has been; Safari's last key of it by its number.
+          if (event.isComposing || event.keyCode === 229 || event.key === 'Unidentified') return;
+          Page.report(event, 0, 0, 0, event.key, event.code);
         },
         mousedown: function (event) {
-          if (event.button === 0) Page.report(event, 1, 0, 0);
+          if (event.button !== 0) return;
+          Page.pressed = event.target;
+          Page.report(event, 1, 0, 0);
         },
-        click: function (event) { Page.report(event, 2, event.detail, 0); },
+        click: function (event) {
+          var ends = Page.pressed === event.target;
+          Page.pressed = null;
+          Page.report(event, 2, ends ? 1 : 0, 0);
+        },
         focusin: function (event) { Page.report(event, 3, 0, 0); },
-        input: function (event) { Page.report(event, 4, event.target.valueAsNumber, 0); },
+        input: function (event) {
+          if (event.isComposing) return;
+          var number = event.target.type === 'range';
+          Page.report(event, 4, number ? event.target.valueAsNumber : 0, 0,
+            number ? '' : event.target.value);
+        },
         beforeinput: function (event) {
           var carried = event.dataTransfer;
           Page.report(event, 5, 0, 0, event.inputType,
             event.data || (carried ? carried.getData('text/plain') : ''));
         },
+        compositionstart: function (event) { Page.report(event, 11, 0, 0); },
         compositionend: function (event) {
           Page.report(event, 6, 0, 0, event.data);
         },
@@ -100,7 +118,8 @@ mergeInto(LibraryManager.library, {
         paste: function (event) {
           Page.report(event, 10, 0, 0, event.clipboardData.getData('text/plain'));
         },
-        // Without a selection there would be no event, and yet the program may have what to copy.
+        // Without a selection there would be no event, and yet the program may have something to
+        // copy.
         beforecopy: function (event) { event.preventDefault(); },
         beforecut: function (event) { event.preventDefault(); },
         beforepaste: function (event) { event.preventDefault(); }
@@ -163,6 +182,9 @@ mergeInto(LibraryManager.library, {
       element.selectionEnd;
   },
   page_focus: function (number) { Page.elements[number].focus({ preventScroll: true }); },
+  page_come_into_view: function (number) {
+    Page.elements[number].scrollIntoView({ block: 'nearest', inline: 'nearest' });
+  },
   page_has_focus: function (number) { return document.activeElement === Page.elements[number]; },
   page_bring_to_end: function (number) {
     Page.elements[number].parentNode.appendChild(Page.elements[number]);
@@ -193,7 +215,9 @@ mergeInto(LibraryManager.library, {
   // Only the event of a copy reaches the clipboard everywhere, so one is made where none runs.
   page_copy: function (text, length) {
     Page.copied = Page.read(text, length);
-    if (!Page.inCopy) document.execCommand('copy');
+    if (Page.inCopy || document.execCommand('copy')) return 1;
+    Page.copied = null;
+    return 0;
   },
   page_read_clipboard: function () {
     function give(allowed, text) {
@@ -208,7 +232,13 @@ mergeInto(LibraryManager.library, {
     }
   },
   page_sound: function () {
-    if (!Page.audio) Page.audio = new AudioContext();
+    try {
+      if (!Page.audio) Page.audio = new AudioContext();
+    } catch (error) {
+      return;
+    }
+    // A phone suspends it.
+    if (Page.audio.state !== 'running') Page.audio.resume().catch(function () {});
     var tone = Page.audio.createOscillator();
     tone.frequency.value = 800;
     tone.connect(Page.audio.destination);

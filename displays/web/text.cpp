@@ -97,6 +97,12 @@ PageAnswer WebText::Take(const PageReport& report) {
       return answer;
     case PageEvent::kEdit:
       return TakeEdit(report);
+    case PageEvent::kInput:
+      TakeWhole(report.text);
+      return PageAnswer::kTaken;
+    case PageEvent::kComposing:
+      ReportSelection();
+      return PageAnswer::kTaken;
     case PageEvent::kComposed:
       // What stands in the element is the browser's; the text is still without it.
       Element().SetValue(shown_);
@@ -109,6 +115,14 @@ PageAnswer WebText::Take(const PageReport& report) {
     default:
       return answer;
   }
+}
+
+// Speech control and password managers set a value without a word before.
+void WebText::TakeWhole(const std::string& text) {
+  if (text == shown_) return;
+  Element().SetValue(shown_);
+  text_.UserSelected(0, text_.Text().size());
+  text_.UserPasted(text);
 }
 
 PageAnswer WebText::TakeEdit(const PageReport& report) {
@@ -137,10 +151,6 @@ WebField::WebField(WebWindow& window, TextField& field) : WebText(window, field,
   Element().SetFlag("readonly", field.ReadOnly());
   if (!field.Hint().empty()) Element().SetAttribute("placeholder", field.Hint());
   Update();
-}
-
-void WebField::ShowFocus() {
-  if (!page::IsWorkedByFingers()) WebControl::ShowFocus();
 }
 
 WebArea::WebArea(WebWindow& window, TextArea& area)

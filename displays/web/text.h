@@ -27,6 +27,8 @@ class WebText : public WebControl {
  private:
   void ShowSelection();
   PageAnswer TakeEdit(const PageReport& report);
+  // Another text stands in the element.
+  void TakeWhole(const std::string& text);
   void TakeTyped(const std::string& typed);
 
   TextEdit& text_;
@@ -36,8 +38,7 @@ class WebText : public WebControl {
 class WebField : public WebText {
  public:
   WebField(WebWindow& window, TextField& field);
-  // A field that has the focus opens the keyboard on the screen, which the user does by a touch.
-  void ShowFocus() override;
+  bool OpensKeyboard() const override { return page::IsWorkedByFingers(); }
 };
 
 class WebArea : public WebText {

@@ -108,6 +108,7 @@ void WebWindow::LinkCaptions() {
 
 void WebWindow::PlaceForFingers() {
   std::vector<Bounds> boxes;
+  boxes.reserve(controls_.size());
   for (WebControl* control : controls_) boxes.push_back(control->Control().Bounds());
   const SpacedRows rows = SpaceRows(boxes, window_.InitialState().height);
   for (std::size_t i = 0; i < controls_.size(); ++i) {
@@ -134,7 +135,10 @@ void WebWindow::Hide() {
 
 bool WebWindow::IsInFront() const { return display_.Front() == this; }
 
-void WebWindow::BringToFront() { display_.Activate(*this); }
+void WebWindow::BringToFront() {
+  if (menu_bar_ != nullptr) menu_bar_->Leave();
+  display_.Activate(*this);
+}
 
 void WebWindow::ShowPlace(int depth) {
   frame_.SetStyle("z-index", std::to_string(depth));
@@ -144,12 +148,23 @@ void WebWindow::ShowPlace(int depth) {
 }
 
 void WebWindow::ShowFocus() {
+  const WebControl* control = FocusedControl();
+  if (control == nullptr || !control->OpensKeyboard()) GiveFocus();
+}
+
+// The user has moved it by a key.
+void WebWindow::UpdateFocus() {
+  GiveFocus();
+  if (WebControl* control = FocusedControl()) control->Element().ComeIntoView();
+}
+
+void WebWindow::GiveFocus() {
   if (!IsInFront()) return;
   showing_focus_ = true;
   if (WebControl* control = FocusedControl()) {
     control->ShowFocus();
   } else {
-    FocusFrame();
+    frame_.Focus();
   }
   showing_focus_ = false;
 }
@@ -188,7 +203,7 @@ PageAnswer WebWindow::TakeKey(const PageReport& report) {
   ReportSelection();
   const Ref<Window> window = Self(&window_);
   if (window->UserPressedKey(*key) || !window->IsLive()) return PageAnswer::kTakenWhole;
-  if (report.text == "F10" && menu_bar_ != nullptr) {
+  if (report.text == "F10" && !report.shift && menu_bar_ != nullptr) {
     menu_bar_->Focus();
     return PageAnswer::kTakenWhole;
   }

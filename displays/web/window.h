@@ -30,7 +30,7 @@ class WebWindow : public WindowView {
   std::unique_ptr<ControlView> CreateControl(TextField& field) override;
   void Show() override;
   void Hide() override;
-  void UpdateFocus() override { ShowFocus(); }
+  void UpdateFocus() override;
 
   Window& Shown() { return window_; }
   bool OnScreen() const { return on_screen_; }
@@ -40,11 +40,10 @@ class WebWindow : public WindowView {
   void BringToFront();
   // Shows that the window has come in front, or has gone from there.
   void ShowPlace(int depth);
-  // Takes the browser's focus to what has the keys. Meanwhile no change of focus is the user's.
+  // Takes the browser's focus to what has the keys, but opens no keyboard on the screen: the user
+  // does that by a touch. Meanwhile no change of focus is the user's.
   void ShowFocus();
   bool IsShowingFocus() const { return showing_focus_; }
-  // Where the focus is when no control is to have it.
-  void FocusFrame() { frame_.Focus(); }
   PageAnswer TakeKey(const PageReport& report);
   // The command key with that letter.
   void TakeCommand(std::string_view letter);
@@ -62,6 +61,7 @@ class WebWindow : public WindowView {
 
  private:
   WebControl* FocusedControl() const;
+  void GiveFocus();
   PageAnswer TakePress(const PageReport& report);
   void MakeTitleBar();
   void LinkCaptions();

@@ -1,6 +1,7 @@
 // The journeys in a page, and what no other display has.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -64,11 +65,56 @@ TEST_F(PageTest, TakesWhatIsComposedOrComesFromAKeyboardOnTheScreen) {
   browser().DoOwn("Input.insertText", {{"text", "x"}});
   EXPECT_EQ(FieldText(user, "r"), ".37") << "the filter of r holds for it too";
   EXPECT_EQ(user.Beeps(), 1);
+  // This one changes the field before the page hears of it.
   browser().Run("document.execCommand('delete');");
   EXPECT_EQ(FieldText(user, "r"), ".3");
-  browser().Run("document.execCommand('undo');");
-  EXPECT_EQ(FieldText(user, "r"), ".37") << "the program's own undo";
-  EXPECT_EQ(FieldText(user, "Fisher's z"), "0.388");
+  EXPECT_EQ(FieldText(user, "Fisher's z"), "0.310");
+  user.PressKey(Key::Command("z"));
+  EXPECT_EQ(FieldText(user, "r"), ".37");
+  Retype(user, "N", "37");
+  user.PressNamed("Home");
+  browser().DoOwn("Input.imeSetComposition",
+                  {{"text", "1"}, {"selectionStart", 1}, {"selectionEnd", 1}});
+  browser().DoOwn("Input.insertText", {{"text", "1"}});
+  EXPECT_EQ(FieldText(user, "N"), "137") << "where the browser has the caret";
+}
+
+// As speech control does, and what fills in forms.
+TEST_F(PageTest, TakesAValueThatIsSetFromOutside) {
+  PageUser user = InControlWindow();
+  for (const auto& [value, shown, z] :
+       {std::array{"0.5", "0.5", "0.549"}, std::array{"7", ".99999", "6.103"}}) {
+    browser().Run(
+        "const r = document.querySelector('[aria-label=r][type=text]');"
+        "r.value = arguments[0];"
+        "r.dispatchEvent(new InputEvent('input', {bubbles: true}));",
+        json::array({value}));
+    EXPECT_EQ(FieldText(user, "r"), shown);
+    EXPECT_EQ(FieldText(user, "Fisher's z"), z);
+  }
+}
+
+TEST_F(PageTest, LeavesTheBrowserItsOwnKeysAndItsWheel) {
+  PageUser user = InControlWindow();
+  Retype(user, "N", "30");
+  user.PressNamed("Tab");
+  ASSERT_EQ(user.Focused().name, "r");
+  browser().Run(
+      "window.left = [];"
+      "addEventListener('keydown', event => {"
+      "  if (!event.defaultPrevented) left.push(event.key);"
+      "  event.preventDefault();"
+      "});"
+      "addEventListener('wheel', event => {"
+      "  if (!event.defaultPrevented) left.push('wheel');"
+      "});"
+      "document.activeElement.dispatchEvent("
+      "    new WheelEvent('wheel', {bubbles: true, cancelable: true, ctrlKey: true,"
+      "                             wheelDeltaY: 120, deltaY: -100}));");
+  for (const char* keys : {"alt+Right", "shift+F10", "ctrl+plus", "F5"}) user.PressNamed(keys);
+  EXPECT_EQ(browser().Run("return left.filter(key => !/Alt|Shift|Control/.test(key));"),
+            json({"wheel", "ArrowRight", "F10", "+", "F5"}));
+  EXPECT_EQ(user.Sees(Role::kSlider, "r").value, 0);
 }
 
 TEST_F(PageTest, CopiesAndPastesByTheMenusAsFarAsTheBrowserAllows) {
@@ -85,18 +131,51 @@ TEST_F(PageTest, CopiesAndPastesByTheMenusAsFarAsTheBrowserAllows) {
   user.Choose("Edit/Paste");
   EXPECT_EQ(FieldText(user, "r"), ".5");
   EXPECT_EQ(user.Beeps(), 1);
+  Allow("granted");
+  user.SetClipboard("before");
+  user.PressKey(Key::Command("a"));
+  browser().Run("document.execCommand = () => false;");
+  user.Choose("Edit/Copy");
+  EXPECT_EQ(user.Beeps(), 2);
+  user.Click(Role::kSlider, "r");
+  user.PressKey(Key::Command("c"));
+  EXPECT_EQ(user.Clipboard(), "before") << "neither what has been refused nor nothing";
 }
 
 TEST_F(PageTest, TheMenusAreWorkedByTheKeyboardAlone) {
   PageUser user = InControlWindow();
+  user.Type("5");
   for (const char* key : {"F10", "Right", "Right", "Down", "Down"}) user.PressNamed(key);
   EXPECT_EQ(user.Focused().name, "") << "it is an item that has the focus";
+  for (const char* key : {"End", "BackSpace", "Delete", "Page_Up", "Home"}) user.PressNamed(key);
+  EXPECT_EQ(FieldText(user, "r"), ".5") << "no key goes to the field behind";
   user.PressNamed("Escape");
   EXPECT_EQ(user.Focused().name, "r") << "and the field again";
   for (const char* key : {"F10", "h", "Down", "Return"}) {
     user.PressNamed(key);
   }
   EXPECT_EQ(user.ActiveTitle(), "") << "the splash";
+}
+
+TEST_F(PageTest, AMenuClosesByAPressElsewhereAndIsOpenedByEveryKindOfClick) {
+  PageUser user = InControlWindow();
+  const auto is_open = [&]() -> bool {
+    return browser().Run("return !!document.querySelector('[aria-expanded=true]');");
+  };
+  const auto press = [&](const char* events) {
+    browser().Run(
+        "const title = document.querySelector('[role=menubar] button');"
+        "for (const name of arguments[0].split(' ')) title.dispatchEvent("
+        "    new MouseEvent(name, {bubbles: true, cancelable: true, detail: 0}));",
+        json::array({events}));
+  };
+  for (const char* events : {"click", "mousedown mouseup click"}) {
+    press(events);
+    EXPECT_TRUE(is_open()) << events;
+    user.Click(Role::kText, "N");
+    EXPECT_FALSE(is_open());
+    EXPECT_EQ(user.Focused().name, "N");
+  }
 }
 
 TEST_F(PageTest, TwoCopiesInFramesKeepTheirNumbersAndLetTabThrough) {
@@ -165,6 +244,9 @@ TEST_F(PageTest, FitsPhonesAndTheirFingers) {
     browser().Swipe({{field.x + field.width / 2, field.y + field.height / 2}});
     EXPECT_EQ(user.Focused().name, "N");
     EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "numeric");
+    user.PressNamed("Tab");
+    EXPECT_EQ(browser().Run("return document.activeElement.type;"), "range")
+        << "a tablet may have keys";
   }
 }
 
@@ -244,6 +326,9 @@ TEST_F(PageTest, ComingBackToThePageResetsNothing) {
   Retype(user, "r", ".5");
   const json other = browser().DoOwn("Target.createTarget", {{"url", "about:blank"}});
   browser().DoOwn("Target.closeTarget", other);
+  browser().Run(
+      "for (const name of ['blur', 'focus']) window.dispatchEvent(new Event(name));"
+      "document.dispatchEvent(new Event('visibilitychange'));");
   Retype(user, "N", "31");
   EXPECT_EQ(ResultLine(user), "3.11 | .00418 | +.177 to +.726");
 }
@@ -298,8 +383,9 @@ TEST_F(PageTest, AnErrorIsOneLineAndTheEnd) {
 }
 
 TEST_F(PageTest, SaysWhyItDoesNotRun) {
-  const json added = browser().DoOwn("Page.addScriptToEvaluateOnNewDocument",
-                                     {{"source", "WebAssembly.validate = () => false;"}});
+  const json added =
+      browser().DoOwn("Page.addScriptToEvaluateOnNewDocument",
+                      {{"source", "WebAssembly.Module = function () { throw new Error(); };"}});
   browser().Open(PageAddress());
   browser().DoOwn("Page.removeScriptToEvaluateOnNewDocument", added);
   const std::string visible = "return document.body.innerText.trim();";

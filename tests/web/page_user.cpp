@@ -62,7 +62,7 @@ constexpr std::string_view kLook = R"(
     };
   };
   return [...document.querySelectorAll('.window')].map(frame => {
-    const parts = [...frame.querySelectorAll('.control:not(.groove)')].map(control => look(control, []));
+    const parts = [...frame.querySelectorAll('.control')].map(control => look(control, []));
     const bar = frame.querySelector('[role=menubar]');
     if (bar) {
       parts.unshift(look(bar, [...bar.children].map(menu => look(menu.querySelector('button'),
