@@ -22,18 +22,19 @@ double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-// From the start of the navigation, in milliseconds.
-double FirstPaint(Chromium& browser, const std::string& address) {
+// When something is painted first, and when a text or a picture is, from the start of the
+// navigation, in milliseconds.
+std::pair<double, double> FirstPaints(Chromium& browser, const std::string& address) {
   browser.Open(address);
-  return browser
-      .RunAsync(
-          "const done = arguments[0];"
-          "const look = () => {"
-          "  const paint = performance.getEntriesByName('first-paint')[0];"
-          "  if (paint) done(paint.startTime); else setTimeout(look, 5);"
-          "};"
-          "look();")
-      .get<double>();
+  const json times = browser.RunAsync(
+      "const done = arguments[0];"
+      "const look = () => {"
+      "  const paints = ['first-paint', 'first-contentful-paint']"
+      "    .map(name => performance.getEntriesByName(name)[0]);"
+      "  if (paints[1]) done(paints.map(paint => paint.startTime)); else setTimeout(look, 5);"
+      "};"
+      "look();");
+  return {times.at(0), times.at(1)};
 }
 
 // Opens the page, dismisses the splash and sets N to 30, which the page written by hand has
@@ -86,12 +87,16 @@ int main(int argc, char** argv) {
   const std::string plain = std::string("file://") + argv[2];
   Chromium browser;
   std::vector<double> paints;
+  std::vector<double> splashes;
   std::vector<double> empty_paints;
   for (int i = 0; i < 31; ++i) {
-    paints.push_back(FirstPaint(browser, page));
-    empty_paints.push_back(FirstPaint(browser, "data:text/html,<p>empty"));
+    const auto [ground, splash] = FirstPaints(browser, page);
+    paints.push_back(ground);
+    splashes.push_back(splash);
+    empty_paints.push_back(FirstPaints(browser, "data:text/html,<p>empty").first);
   }
   Print("paint_page", Median(paints));
+  Print("paint_splash", Median(splashes));
   Print("paint_empty", Median(empty_paints));
   std::vector<double> events;
   std::vector<double> plain_events;

@@ -43,7 +43,7 @@ std::string ToCss(const Font& font) {
          std::to_string(font.size) + "px " + family + "system-ui,sans-serif";
 }
 
-std::string_view ToCss(TextAlignment alignment) {
+std::string_view ClassOf(TextAlignment alignment) {
   switch (alignment) {
     case TextAlignment::kCentre:
       return "centre";

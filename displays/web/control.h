@@ -20,7 +20,8 @@ std::string ToCss(Colour colour);
 Colour Legible(Colour colour);
 // The font for `font`, its size in CSS pixels as it is in logical ones.
 std::string ToCss(const Font& font);
-std::string_view ToCss(TextAlignment alignment);
+// The class that the style sheet has for it.
+std::string_view ClassOf(TextAlignment alignment);
 
 // The element of a control: shows the control's state, and reports what the user does to it.
 class WebControl : public ControlView, public PageListener {

@@ -54,7 +54,7 @@ WebLabel::WebLabel(WebWindow& window, Label& label)
   // An output would speak at every step of a drag; the toolkit says what is to be announced. No
   // other element is one that speaks by itself.
   Element().SetAttribute("aria-live", "off");
-  Element().SetAttribute("class", "control text " + std::string(ToCss(label.Alignment())));
+  Element().SetAttribute("class", "control text " + std::string(ClassOf(label.Alignment())));
   Element().SetStyle("color", ToCss(Legible(label.TextColour())));
   SetFont(label.Font());
   Update();

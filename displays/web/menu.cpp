@@ -79,13 +79,13 @@ struct WebMenuBar::Menu {
 };
 
 WebMenuBar::WebMenuBar(WebWindow& window, const PageElement& parent, const MenuBar& bar)
-    : window_(window), bar_(std::make_unique<PageElement>(parent, "div")) {
-  bar_->SetAttribute("role", "menubar");
-  bar_->SetAttribute("aria-label", window.Shown().ListedTitle());
+    : window_(window), bar_(parent, "div") {
+  bar_.SetAttribute("role", "menubar");
+  bar_.SetAttribute("aria-label", window.Shown().ListedTitle());
   for (const DrawnMenu& drawn : DrawnMenus(bar)) {
     const std::size_t number = menus_.size();
     menus_.push_back(std::make_unique<Menu>(
-        *bar_, drawn.text,
+        bar_, drawn.text,
         [this, number](const PageReport& report) { return TakeTitle(number, report); }));
     Menu& menu = *menus_.back();
     for (const Ref<MenuItem>& item : drawn.items) {

@@ -46,7 +46,7 @@ class WebMenuBar {
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
   WebWindow& window_;
-  std::unique_ptr<PageElement> bar_;
+  PageElement bar_;
   std::vector<std::unique_ptr<Menu>> menus_;
   std::size_t open_ = kNone;
 };

@@ -106,6 +106,8 @@ class PageElement {
   void SetStyle(std::string_view name, std::string_view value);
   // The text in it.
   void SetText(std::string_view text);
+  // Shows one of the page's pictures, in an `img`.
+  void ShowPicture(std::string_view name);
 
   // The value of an input, which the user changes too: always set.
   void SetValue(std::string_view value);
@@ -118,8 +120,6 @@ class PageElement {
   bool HasFocus() const;
   void BringToEnd();
   void Flash();
-  // Shows one of the page's pictures, in an `img`.
-  void ShowPicture(std::string_view name);
 
   // What other elements refer to it by.
   std::string Id() const;

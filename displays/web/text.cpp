@@ -147,7 +147,7 @@ void WebText::TakeTyped(const std::string& typed) { Window().Shown().UserTyped(t
 WebField::WebField(WebWindow& window, TextField& field) : WebText(window, field, "input") {
   Element().SetAttribute("type", field.Password() ? "password" : "text");
   Element().SetAttribute("inputmode", InputMode(KeyboardFor(field.Rule())));
-  Element().SetAttribute("class", "control field " + std::string(ToCss(field.Alignment())));
+  Element().SetAttribute("class", "control field " + std::string(ClassOf(field.Alignment())));
   Element().SetFlag("readonly", field.ReadOnly());
   if (!field.Hint().empty()) Element().SetAttribute("placeholder", field.Hint());
   Update();
