@@ -60,15 +60,11 @@ WebControl::WebControl(WebWindow& window, RectControl& control, std::string_view
     : window_(window), control_(control), element_(window.Content(), tag, this) {
   window_.Add(*this);
   element_.SetAttribute("class", "control");
-  Place(element_);
-}
-
-void WebControl::Place(PageElement& element) const {
   const Bounds& box = control_.Bounds();
-  element.SetStyle("--left", std::to_string(box.left));
-  element.SetStyle("--top", std::to_string(box.top));
-  element.SetStyle("--width", std::to_string(box.width));
-  element.SetStyle("--height", std::to_string(box.height));
+  element_.SetStyle("--left", std::to_string(box.left));
+  element_.SetStyle("--top", std::to_string(box.top));
+  element_.SetStyle("--width", std::to_string(box.width));
+  element_.SetStyle("--height", std::to_string(box.height));
 }
 
 WebControl::~WebControl() { window_.Remove(*this); }

@@ -34,7 +34,7 @@ class WebControl : public ControlView, public PageListener {
 
   PageElement& Element() { return element_; }
   // Tells the style sheet where the control lies on a screen that is worked by fingers.
-  virtual void SetFingerTop(const std::string& top) { element_.SetStyle("--finger-top", top); }
+  void SetFingerTop(const std::string& top) { element_.SetStyle("--finger-top", top); }
   RectControl& Control() { return control_; }
   // Makes the toolkit know what the user has selected since it was told last.
   virtual void ReportSelection() {}
@@ -50,8 +50,6 @@ class WebControl : public ControlView, public PageListener {
   // Whether Tab comes here: in the window in front alone, as on the desktop.
   std::string_view TabIndex() const;
   void SetFont(const Font& font);
-  // Lays another element where the control is.
-  void Place(PageElement& element) const;
 
  private:
   WebWindow& window_;

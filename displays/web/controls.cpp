@@ -61,10 +61,7 @@ WebLabel::WebLabel(WebWindow& window, Label& label)
 }
 
 void WebLabel::ShowState() {
-  if (shown_ == label_.Text()) return;
-  shown_ = label_.Text();
-  Element().SetText(*shown_);
-  Fit();
+  if (Element().SetText(label_.Text())) Fit();
 }
 
 // A text that is too wide for its box stands out of it to the right.

@@ -49,8 +49,6 @@ class WebLabel : public WebControl {
   void Fit();
 
   Label& label_;
-  // The text that has been fitted.
-  std::optional<std::string> shown_;
 };
 
 class WebButton : public WebControl {

@@ -117,8 +117,10 @@ void PageElement::SetStyle(std::string_view name, std::string_view value) {
     page_set_style(number_, name.data(), name.size(), value.data(), value.size());
 }
 
-void PageElement::SetText(std::string_view text) {
-  if (Note("#text", text)) page_set_text(number_, text.data(), text.size());
+bool PageElement::SetText(std::string_view text) {
+  const bool is_new = Note("#text", text);
+  if (is_new) page_set_text(number_, text.data(), text.size());
+  return is_new;
 }
 
 void PageElement::SetValue(std::string_view value) {

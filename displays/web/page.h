@@ -104,8 +104,8 @@ class PageElement {
   // An attribute that says yes by being there.
   void SetFlag(std::string_view name, bool on);
   void SetStyle(std::string_view name, std::string_view value);
-  // The text in it.
-  void SetText(std::string_view text);
+  // The text in it. Whether it was another one before.
+  bool SetText(std::string_view text);
   // Shows one of the page's pictures, in an `img`.
   void ShowPicture(std::string_view name);
 
