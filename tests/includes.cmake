@@ -12,9 +12,11 @@ set(displays "toolkit/")
 set(displays/headless "displays/(headless/|user\\.h)|toolkit/")
 set(displays/qt "displays/qt/|toolkit/")
 set(displays/web "displays/web/|toolkit/")
+# It knows what a user sees and does, and nothing of how the program is made.
+set(tests/harness "[a-z_]+\\.h|displays/user\\.h|toolkit/utf8\\.h")
 foreach(room
         toolkit toolkit/object toolkit/runtime toolkit/control toolkit/text toolkit/window
-        stats controlwnd shell displays displays/headless displays/qt displays/web)
+        stats controlwnd shell displays displays/headless displays/qt displays/web tests/harness)
   file(GLOB sources RELATIVE ${ROOT} ${ROOT}/${room}/*.h ${ROOT}/${room}/*.cpp)
   # The programs, which stand above all rooms.
   list(REMOVE_ITEM sources shell/main.cpp shell/web_main.cpp)

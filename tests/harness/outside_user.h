@@ -1,6 +1,6 @@
 // A user who knows only the running program: what is on the screen, and what is read out of it.
-#ifndef VAMO_TOOLS_OUTSIDE_USER_H_
-#define VAMO_TOOLS_OUTSIDE_USER_H_
+#ifndef VAMO_TESTS_HARNESS_OUTSIDE_USER_H_
+#define VAMO_TESTS_HARNESS_OUTSIDE_USER_H_
 
 #include <chrono>
 #include <functional>
@@ -81,4 +81,4 @@ int RunProgramWith(const Environment& settings, const std::function<void(Outside
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_OUTSIDE_USER_H_
+#endif  // VAMO_TESTS_HARNESS_OUTSIDE_USER_H_

@@ -1,6 +1,6 @@
 // What the users of a screen have in common, whatever brings them to it.
-#ifndef VAMO_TOOLS_SCREEN_USER_H_
-#define VAMO_TOOLS_SCREEN_USER_H_
+#ifndef VAMO_TESTS_HARNESS_SCREEN_USER_H_
+#define VAMO_TESTS_HARNESS_SCREEN_USER_H_
 
 #include <algorithm>
 #include <cstdint>
@@ -253,4 +253,4 @@ class ScreenUser : public User {
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_SCREEN_USER_H_
+#endif  // VAMO_TESTS_HARNESS_SCREEN_USER_H_

@@ -1,6 +1,6 @@
 // The ears of a user who works with a screen reader.
-#ifndef VAMO_TOOLS_EARS_H_
-#define VAMO_TOOLS_EARS_H_
+#ifndef VAMO_TESTS_HARNESS_EARS_H_
+#define VAMO_TESTS_HARNESS_EARS_H_
 
 #include <atspi/atspi.h>
 
@@ -38,4 +38,4 @@ class Ears {
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_EARS_H_
+#endif  // VAMO_TESTS_HARNESS_EARS_H_

@@ -1,5 +1,5 @@
-#ifndef VAMO_TOOLS_X_DESKTOP_H_
-#define VAMO_TOOLS_X_DESKTOP_H_
+#ifndef VAMO_TESTS_HARNESS_X_DESKTOP_H_
+#define VAMO_TESTS_HARNESS_X_DESKTOP_H_
 
 #include <functional>
 #include <memory>
@@ -35,4 +35,4 @@ class XDesktop : public Desktop {
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_X_DESKTOP_H_
+#endif  // VAMO_TESTS_HARNESS_X_DESKTOP_H_

@@ -1,6 +1,6 @@
 // A browser that is worked through WebDriver, the standard's interface for it.
-#ifndef VAMO_TOOLS_BROWSER_H_
-#define VAMO_TOOLS_BROWSER_H_
+#ifndef VAMO_TESTS_HARNESS_BROWSER_H_
+#define VAMO_TESTS_HARNESS_BROWSER_H_
 
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -89,4 +89,4 @@ class Firefox : public Browser {
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_BROWSER_H_
+#endif  // VAMO_TESTS_HARNESS_BROWSER_H_

@@ -1,6 +1,6 @@
 // The desktop that a program runs on, as its user has it.
-#ifndef VAMO_TOOLS_DESKTOP_H_
-#define VAMO_TOOLS_DESKTOP_H_
+#ifndef VAMO_TESTS_HARNESS_DESKTOP_H_
+#define VAMO_TESTS_HARNESS_DESKTOP_H_
 
 #include <sys/types.h>
 
@@ -62,4 +62,4 @@ std::unique_ptr<Desktop> OpenDesktop();
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_DESKTOP_H_
+#endif  // VAMO_TESTS_HARNESS_DESKTOP_H_

@@ -1,5 +1,5 @@
-#ifndef VAMO_TOOLS_PLACE_H_
-#define VAMO_TOOLS_PLACE_H_
+#ifndef VAMO_TESTS_HARNESS_PLACE_H_
+#define VAMO_TESTS_HARNESS_PLACE_H_
 
 namespace vamo {
 
@@ -13,4 +13,4 @@ struct Place {
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_PLACE_H_
+#endif  // VAMO_TESTS_HARNESS_PLACE_H_

@@ -1,5 +1,5 @@
-#ifndef VAMO_TOOLS_WAYLAND_DESKTOP_H_
-#define VAMO_TOOLS_WAYLAND_DESKTOP_H_
+#ifndef VAMO_TESTS_HARNESS_WAYLAND_DESKTOP_H_
+#define VAMO_TESTS_HARNESS_WAYLAND_DESKTOP_H_
 
 #include <functional>
 #include <string>
@@ -29,4 +29,4 @@ class WaylandDesktop : public Desktop {
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_WAYLAND_DESKTOP_H_
+#endif  // VAMO_TESTS_HARNESS_WAYLAND_DESKTOP_H_

@@ -1,6 +1,6 @@
 // What assistive technology sees of a program, as a tree of elements.
-#ifndef VAMO_TOOLS_AT_SPI_H_
-#define VAMO_TOOLS_AT_SPI_H_
+#ifndef VAMO_TESTS_HARNESS_AT_SPI_H_
+#define VAMO_TESTS_HARNESS_AT_SPI_H_
 
 #include <atspi/atspi.h>
 
@@ -61,4 +61,4 @@ std::optional<Element> FindApplication(const std::function<bool(const Element&)>
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_AT_SPI_H_
+#endif  // VAMO_TESTS_HARNESS_AT_SPI_H_

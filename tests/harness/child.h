@@ -1,6 +1,6 @@
 // Programs that this one starts.
-#ifndef VAMO_TOOLS_CHILD_H_
-#define VAMO_TOOLS_CHILD_H_
+#ifndef VAMO_TESTS_HARNESS_CHILD_H_
+#define VAMO_TESTS_HARNESS_CHILD_H_
 
 #include <sys/types.h>
 
@@ -55,4 +55,4 @@ bool Await(const std::function<bool()>& so,
 
 }  // namespace vamo
 
-#endif  // VAMO_TOOLS_CHILD_H_
+#endif  // VAMO_TESTS_HARNESS_CHILD_H_
