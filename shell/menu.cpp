@@ -50,6 +50,7 @@ constexpr Row kRows[] = {
 
 Ref<MenuItem> Build(const Row& row) {
   Ref<MenuItem> item = row.make();
+  item->Constructor();
   item->SetName(row.name);
   item->SetAutoEnabled(row.auto_enabled);
   item->SetValue(row.text);
@@ -66,7 +67,8 @@ void AddTopLevelMenu(MenuBar& bar, std::string_view name) {
       inside = row.name == name;
       if (inside) bar.AddMenu(Build(row));
     } else if (inside) {
-      bar.Child(name)->AddMenu(Build(row));
+      const Ref<MenuItem> item = Build(row);
+      bar.Child(name)->AddMenu(item);
     }
   }
 }

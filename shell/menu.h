@@ -14,7 +14,7 @@ class Menu : public MenuBar {
   const ClassInfo* Class() const override { return &kClass; }
 
   // Builds the five menus with their items.
-  void Constructor();
+  void Constructor() override;
   virtual void Untitled0();
   virtual void Untitled1();
   virtual void Untitled2();

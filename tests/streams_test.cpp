@@ -66,7 +66,7 @@ TEST(StreamsTest, EachReachesTheReaderAsItWasDesigned) {
       {"Label", 481, 0x610A32E6561D556C},
       {"Canvas", 322, 0xD323985ABE377867},
       {"Label", 429, 0xA7C1738AC47CC3C6},
-      {"Timer", 31, 0xAD913AE01FBDEC77},
+      {"_wrapper_Timer1", 31, 0xAD913AE01FBDEC77},
       {"InfoWnd.InfoWnd", 371, 0x550E967582C2B3EC},
       {"TextArea", 1592, 0xE6A7C92E620D1740},
   };

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "test_window.h"
+#include "toolkit/window/menu_item.h"
 
 namespace vamo {
 namespace {
@@ -17,6 +18,8 @@ TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   window->Hide();
   EXPECT_TRUE(ImplicitInstance<TestWindow>() == window);
   EXPECT_THROW(ImplicitInstance<OtherWindow>(), IllegalCastException);
+  EXPECT_THROW(window->__New(RectControl::kClass), UnsupportedOperationException);
+  EXPECT_THROW(window->_AddControl("x", New<MenuItem>()), IllegalCastException);
   window->Show();
   program.user().PressKey(Key::Character("x"));
   EXPECT_TRUE(program.runtime().ActiveWindow() == window);

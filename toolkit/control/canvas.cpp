@@ -17,7 +17,8 @@ struct Canvas::Properties {
   };
 };
 
-constinit const ClassInfo Canvas::kClass{"Canvas", &RectControl::kClass, Properties::kRows};
+constinit const ClassInfo Canvas::kClass{
+    "Canvas", &RectControl::kClass, Properties::kRows, {}, Allocate<Canvas>};
 
 Ref<Picture> Picture::_OpenFromApp(std::string_view file_name) {
   _UITrap();

@@ -19,7 +19,8 @@ struct Label::Properties {
   };
 };
 
-constinit const ClassInfo Label::kClass{"Label", &TextControl::kClass, Properties::kRows};
+constinit const ClassInfo Label::kClass{
+    "Label", &TextControl::kClass, Properties::kRows, {}, Allocate<Label>};
 
 const std::string& Label::Text() const {
   _UITrap();

@@ -16,7 +16,8 @@ struct PushButton::Properties {
   };
 };
 
-constinit const ClassInfo PushButton::kClass{"PushButton", &TextControl::kClass, Properties::kRows};
+constinit const ClassInfo PushButton::kClass{
+    "PushButton", &TextControl::kClass, Properties::kRows, {}, Allocate<PushButton>};
 
 bool PushButton::UserPressed(std::int64_t x, std::int64_t y) {
   bool dealt_with = false;

@@ -22,7 +22,8 @@ struct Slider::Properties {
   };
 };
 
-constinit const ClassInfo Slider::kClass{"Slider", &RectControl::kClass, Properties::kRows};
+constinit const ClassInfo Slider::kClass{
+    "Slider", &RectControl::kClass, Properties::kRows, {}, Allocate<Slider>};
 
 std::int64_t Slider::Value() const {
   _UITrap();

@@ -37,7 +37,7 @@ struct Property {
   void (*set)(Object& object, const PropertyValue& value) = nullptr;
 };
 
-// What a class tells about itself at run time. It makes no objects. The tables are constants from
+// What a class tells about itself at run time. The tables are constants from
 // the start (`constinit`), so that no other constant of the program can see one that is still
 // empty.
 struct ClassInfo {
@@ -46,10 +46,18 @@ struct ClassInfo {
   std::span<const Property> properties;
   // The events that the class implements.
   std::span<const std::string_view> events = {};
+  // Allocates an object; null for a class of which a window holds none.
+  Ref<Object> (*allocate)() = nullptr;
 
   // The property of that name in the class or in one of its bases; null where there is none.
   const Property* Find(std::string_view property) const;
 };
+
+// For the table of the class T.
+template <class T>
+Ref<Object> Allocate() {
+  return New<T>();
+}
 
 namespace internal {
 

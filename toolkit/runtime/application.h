@@ -31,7 +31,7 @@ class Application : public Object {
   static void _SetSupportsHiDPI(bool supports);
 
   // Enters the function for the menu item of that name. The first one entered for a name stands.
-  void _AddMenuHandler(std::string_view name, MenuHandler handler);
+  virtual void _AddMenuHandler(std::string_view name, MenuHandler handler);
   const vamo::MenuHandlers& MenuHandlers() const { return menu_handlers_; }
   // Called at the end of the process: a handler may hold this very object as its receiver.
   void ReleaseMenuHandlers() { menu_handlers_.clear(); }

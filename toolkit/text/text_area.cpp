@@ -20,7 +20,8 @@ struct TextArea::Properties {
   };
 };
 
-constinit const ClassInfo TextArea::kClass{"TextArea", &TextEdit::kClass, Properties::kRows};
+constinit const ClassInfo TextArea::kClass{
+    "TextArea", &TextEdit::kClass, Properties::kRows, {}, Allocate<TextArea>};
 
 std::string_view TextArea::TextToCopy() const {
   return SelectedText().empty() ? std::string_view(Text()) : SelectedText();

@@ -19,7 +19,8 @@ struct TextField::Properties {
   };
 };
 
-constinit const ClassInfo TextField::kClass{"TextField", &TextEdit::kClass, Properties::kRows};
+constinit const ClassInfo TextField::kClass{
+    "TextField", &TextEdit::kClass, Properties::kRows, {}, Allocate<TextField>};
 
 namespace {
 

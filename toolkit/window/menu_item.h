@@ -33,12 +33,14 @@ class MenuItem : public Object {
   void SetVisible(bool visible);
 
   // Appends a child. Raises MenuHasParentException where `item` is already in a menu.
-  void AddMenu(const Ref<MenuItem>& item);
-  const std::vector<Ref<MenuItem>>& Children() const { return children_; }
+  virtual void AddMenu(const Ref<MenuItem>& item);
   // The direct child of that name, or nil.
-  Ref<MenuItem> Child(std::string_view name) const;
+  virtual Ref<MenuItem> Child(std::string_view name) const;
+  // Called on a new item before it gets its state.
+  virtual void Constructor() {}
   // The item of that name anywhere below this one, or nil.
-  Ref<MenuItem> _Lookup(std::string_view name) const;
+  virtual Ref<MenuItem> _Lookup(std::string_view name) const;
+  const std::vector<Ref<MenuItem>>& Children() const { return children_; }
 
  private:
   std::string name_;

@@ -16,6 +16,8 @@ struct Timer::Properties {
 };
 
 constinit const ClassInfo Timer::kClass{"Timer", nullptr, Properties::kRows};
+constinit const ClassInfo _wrapper_Timer1::kClass{
+    "_wrapper_Timer1", &Timer::kClass, {}, {}, Allocate<_wrapper_Timer1>};
 
 void Timer::SetRunMode(RunMode run_mode) {
   run_mode_ = run_mode;

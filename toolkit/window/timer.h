@@ -49,6 +49,9 @@ class Timer : public Object {
 // A timer that can be named among a window's controls. It keeps no window alive.
 class _wrapper_Timer1 : public Timer, public _PaneChild {
  public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
   void _SetWindow(const Ref<class Window>& window) override { ownerWindow = WeakRef(window); }
   Ref<class Window> Window() const override { return ownerWindow.Value(); }
   std::int64_t _Index() const override { return Index; }

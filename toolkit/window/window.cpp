@@ -120,10 +120,10 @@ void Window::TakeOffDisplay() {
   view_ = nullptr;
 }
 
-void Window::AddChild(std::string_view name, Ref<Object> object, _PaneChild* child) {
+void Window::_AddControl(std::string_view name, const Ref<Object>& child) {
   _UITrap();
-  child->_SetWindow(Self(this));
-  children_.push_back({std::string(name), std::move(object)});
+  Cast<_PaneChild>(child)->_SetWindow(Self(this));
+  children_.push_back({std::string(name), child});
 }
 
 Ref<Object> Window::_ControlByName(std::string_view name) const {
@@ -131,6 +131,17 @@ Ref<Object> Window::_ControlByName(std::string_view name) const {
   const auto found = std::find_if(children_.begin(), children_.end(),
                                   [&](const Child& child) { return child.name == name; });
   return found == children_.end() ? nullptr : found->object;
+}
+
+Ref<Object> Window::__New(const ClassInfo& child_class) {
+  _UITrap();
+  if (child_class.allocate == nullptr) {
+    throw UnsupportedOperationException("No object is made of the class " +
+                                        std::string(child_class.name) + ".");
+  }
+  Ref<Object> child = child_class.allocate();
+  Cast<_PaneChild>(child)->_SetWindow(Self(this));
+  return child;
 }
 
 std::vector<Ref<RectControl>> Window::Controls() const {

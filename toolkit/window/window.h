@@ -55,48 +55,61 @@ class Window : public Object {
   const ClassInfo* Class() const override { return &kClass; }
   ~Window() override { TakeOffDisplay(); }
 
+  // Raises Close and ends the window: it is live no longer, and none of its timers fires.
+  virtual void Close();
   // Builds the window: its own state, its controls, its part on the display, its menu handlers;
   // then it is live, and comes on the screen where its state says Visible.
-  void Constructor();
-
+  virtual void Constructor();
+  // The controls in the order of their creation; other children are not among them.
+  virtual std::vector<Ref<RectControl>> Controls() const;
+  // Makes the window invisible. It stays live, with its state.
+  virtual void Hide();
+  virtual void SetFocus(const Ref<RectControl>& control);
   // Makes the window visible, brings it to the front and gives it the focus. A window that is
   // visible already stays where it is, minimised perhaps, when a timer shows it: only the user may
   // be taken away from what he is typing into.
-  void Show();
-  // Makes the window invisible. It stays live, with its state.
-  void Hide();
-  // Raises Close and ends the window: it is live no longer, and none of its timers fires.
-  void Close();
+  virtual void Show();
+  // Enters a control, or another child, in the window under its name.
+  virtual void _AddControl(std::string_view name, const Ref<Object>& child);
+  // Enters the function for the menu item of that name. The first one entered for a name stands.
+  virtual void _AddMenuHandler(std::string_view name, MenuHandler handler);
+  // The child of that name, or nil.
+  virtual Ref<Object> _ControlByName(std::string_view name) const;
+  // Allocates a control, or another child, of a class for this window. Its properties and its name
+  // come later.
+  virtual Ref<Object> __New(const ClassInfo& child_class);
+
+  // The events. A class implements one by overriding it; else the toolkit's default stands, which
+  // is to do nothing. `Layout` and `CreateControls` come while the window is constructed; `KeyDown`
+  // for every key but a bare modifier and an enabled item's shortcut, with the empty text for one
+  // that carries no character; True of `KeyDown` and `MouseDown` ends the event.
+  virtual void Layout() {}
+  virtual void CreateControls() {}
+  virtual void AddMenuHandlers(const Ref<Window>& /*window*/) {}
+  virtual void Event_Close() {}
+  virtual void Event_Activate() {}
+  virtual void Event_EnableMenuItems() {}
+  virtual bool Event_KeyDown(std::string /*key*/) { return false; }
+  virtual bool Event_MouseDown(std::int64_t /*x*/, std::int64_t /*y*/) { return false; }
+  // The table that is applied once the controls are there.
+  virtual std::span<const AccessibleText> AccessibleTexts() const { return {}; }
+
   bool IsLive() const { return view_ != nullptr; }
   // Gives up the window's part on the display, without an event, and stops its timers. The run time
   // does so at the program's end.
   void TakeOffDisplay();
 
-  // Makes a control of a class for this window. Its properties and its name come later.
-  template <class ControlClass>
-  Ref<ControlClass> __New() {
-    _UITrap();
-    Ref<ControlClass> control = New<ControlClass>();
-    control->_SetWindow(Self(this));
-    return control;
+  // A child of the class `ChildClass`, allocated or found by its name.
+  template <class ChildClass>
+  Ref<ChildClass> __New() {
+    return Cast<ChildClass>(__New(ChildClass::kClass));
   }
-  // Enters a control, or another child, in the window under its name.
-  template <class Child>
-  void _AddControl(std::string_view name, const Ref<Child>& child) {
-    AddChild(name, child, &*child);
-  }
-  // The child of that name, or nil.
-  Ref<Object> _ControlByName(std::string_view name) const;
-  // The same, checked to be of a class.
-  template <class ControlClass>
-  Ref<ControlClass> ControlNamed(std::string_view name) const {
-    return Cast<ControlClass>(_ControlByName(name));
+  template <class ChildClass>
+  Ref<ChildClass> ControlNamed(std::string_view name) const {
+    return Cast<ChildClass>(_ControlByName(name));
   }
 
-  // Enters the function for the menu item of that name. The first one entered for a name stands.
-  void _AddMenuHandler(std::string_view name, MenuHandler handler);
   const vamo::MenuHandlers& MenuHandlers() const { return menu_handlers_; }
-
   const Ref<class MenuBar>& MenuBar() const;
   void SetMenuBar(Ref<class MenuBar> menu_bar);
 
@@ -146,8 +159,6 @@ class Window : public Object {
   };
   Placement WhereToShow() const;
 
-  // The controls in the order of their creation; other children are not among them.
-  std::vector<Ref<RectControl>> Controls() const;
   // The control in which another one lies, or nil where that lies on the window itself.
   Ref<RectControl> ParentOf(const RectControl& control) const {
     const std::string& name = control.InitialParent();
@@ -155,7 +166,6 @@ class Window : public Object {
   }
   // The control that has the keys while the window is active, or nil.
   const Ref<RectControl>& Focus() const { return focus_; }
-  void SetFocus(const Ref<RectControl>& control);
 
   // What a display reports.
   //
@@ -173,21 +183,6 @@ class Window : public Object {
   // The user has brought the focus to a control, for example with the mouse.
   void UserFocused(const Ref<RectControl>& control);
 
-  // The events. A class implements one by overriding it; else the toolkit's default stands, which
-  // is to do nothing. `Layout` and `CreateControls` come while the window is constructed; `KeyDown`
-  // for every key but a bare modifier and an enabled item's shortcut, with the empty text for one
-  // that carries no character; True of `KeyDown` and `MouseDown` ends the event.
-  virtual void Layout() {}
-  virtual void CreateControls() {}
-  // The table that is applied once the controls are there.
-  virtual std::span<const AccessibleText> AccessibleTexts() const { return {}; }
-  virtual void AddMenuHandlers(const Ref<Window>& /*window*/) {}
-  virtual void Event_Activate() {}
-  virtual void Event_Close() {}
-  virtual void Event_EnableMenuItems() {}
-  virtual bool Event_KeyDown(std::string /*key*/) { return false; }
-  virtual bool Event_MouseDown(std::int64_t /*x*/, std::int64_t /*y*/) { return false; }
-
  private:
   struct Child {
     std::string name;
@@ -195,7 +190,6 @@ class Window : public Object {
   };
 
   struct Properties;
-  void AddChild(std::string_view name, Ref<Object> object, _PaneChild* child);
   void ApplyAccessibleTexts();
   void MakeView();
   bool TakeKey(const Key& key);
