@@ -207,16 +207,17 @@ int page_report(int element, int event, double x, double y, unsigned held, char*
                 std::size_t text_length, char* data, std::size_t data_length) {
   // Of an event that ends with an exception.
   vamo::PageAnswer answer = vamo::PageAnswer::kTakenWhole;
+  // Also where nobody hears of it any more, since the texts are to be taken over.
+  const vamo::PageReport report{.event = static_cast<vamo::PageEvent>(event),
+                                .x = x,
+                                .y = y,
+                                .shift = (held & vamo::kShift) != 0,
+                                .control = (held & vamo::kControl) != 0,
+                                .alt = (held & vamo::kAlt) != 0,
+                                .meta = (held & vamo::kMeta) != 0,
+                                .text = vamo::Taken(text, text_length),
+                                .data = vamo::Taken(data, data_length)};
   vamo::RunEvent([&] {
-    const vamo::PageReport report{.event = static_cast<vamo::PageEvent>(event),
-                                  .x = x,
-                                  .y = y,
-                                  .shift = (held & vamo::kShift) != 0,
-                                  .control = (held & vamo::kControl) != 0,
-                                  .alt = (held & vamo::kAlt) != 0,
-                                  .meta = (held & vamo::kMeta) != 0,
-                                  .text = vamo::Taken(text, text_length),
-                                  .data = vamo::Taken(data, data_length)};
     const auto found = vamo::Page().listeners.find(element);
     if (element < 0) {
       answer = vamo::Page().owner->Take(report);
