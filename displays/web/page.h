@@ -73,7 +73,11 @@ class PageHandler : public PageListener {
  public:
   using Handler = std::function<PageAnswer(const PageReport&)>;
   explicit PageHandler(Handler handler) : handler_(std::move(handler)) {}
-  PageAnswer Take(const PageReport& report) override { return handler_(report); }
+  PageAnswer Take(const PageReport& report) override {
+    // A copy runs, which stays until it has returned.
+    const Handler handler = handler_;
+    return handler(report);
+  }
 
  private:
   const Handler handler_;
