@@ -197,10 +197,19 @@ mergeInto(LibraryManager.library, {
   page_set_owned: function (owned) { Page.owned = owned; },
   page_post: function () { setTimeout(_page_run_posted, 0); },
   page_start_timer: function (timer, period) {
-    Page.timers[timer] = setInterval(function () { _page_fire(timer); }, period);
+    function wait(left) {
+      // A longer wait than 31 bits can say is over at once.
+      var part = Math.min(left, 0x7fffffff);
+      Page.timers[timer] = setTimeout(function () {
+        if (part < left) return wait(left - part);
+        wait(period);
+        _page_fire(timer);
+      }, part);
+    }
+    wait(period);
   },
   page_stop_timer: function (timer) {
-    clearInterval(Page.timers[timer]);
+    clearTimeout(Page.timers[timer]);
     delete Page.timers[timer];
   },
   page_text_width: function (text, length, font, fontLength) {
