@@ -86,12 +86,9 @@ void WebControl::ShowFocus() {
 }
 
 void WebControl::Update() {
-  const auto show = [this](std::string_view attribute, const std::string& text) {
-    if (!text.empty()) element_.SetAttribute(attribute, text);
-  };
-  show("aria-label", control_.AccessibleName());
-  show("aria-description", control_.AccessibleDescription());
-  show("title", control_.Tooltip());
+  element_.SetOptionalAttribute("aria-label", control_.AccessibleName());
+  element_.SetOptionalAttribute("aria-description", control_.AccessibleDescription());
+  element_.SetOptionalAttribute("title", control_.Tooltip());
   element_.SetFlag("hidden", !control_.Visible());
   ShowState();
 }

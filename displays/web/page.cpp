@@ -72,6 +72,15 @@ void RunEvent(const std::function<void()>& event) {
   if (Page().owner != nullptr) Page().owner->RunEvent(event);
 }
 
+// Notes that `name` has that value now. Whether it is new.
+bool Note(std::map<std::string, std::string, std::less<>>& values, std::string_view name,
+          std::string_view value) {
+  const auto known = values.find(name);
+  if (known != values.end() && known->second == value) return false;
+  values[std::string(name)] = value;
+  return true;
+}
+
 constexpr unsigned kShift = 1;
 constexpr unsigned kControl = 2;
 constexpr unsigned kAlt = 4;
@@ -92,35 +101,36 @@ PageElement::~PageElement() {
   page_remove(number_);
 }
 
-bool PageElement::Note(std::string_view name, std::string_view value) {
-  const auto known = shown_.find(name);
-  if (known != shown_.end() && known->second == value) return false;
-  shown_[std::string(name)] = value;
-  return true;
-}
-
 void PageElement::SetAttribute(std::string_view name, std::string_view value) {
-  if (Note(name, value))
+  if (Note(attributes_, name, value))
     page_set_attribute(number_, name.data(), name.size(), value.data(), value.size());
 }
 
-void PageElement::SetFlag(std::string_view name, bool on) {
-  if (on) {
-    SetAttribute(name, "");
-  } else if (shown_.erase(std::string(name)) > 0) {
+void PageElement::RemoveAttribute(std::string_view name) {
+  if (attributes_.erase(std::string(name)) > 0)
     page_remove_attribute(number_, name.data(), name.size());
-  }
+}
+
+void PageElement::SetOptionalAttribute(std::string_view name, std::string_view value) {
+  if (value.empty()) return RemoveAttribute(name);
+  SetAttribute(name, value);
+}
+
+void PageElement::SetFlag(std::string_view name, bool on) {
+  if (!on) return RemoveAttribute(name);
+  SetAttribute(name, "");
 }
 
 void PageElement::SetStyle(std::string_view name, std::string_view value) {
-  if (Note(name, value))
+  if (Note(styles_, name, value))
     page_set_style(number_, name.data(), name.size(), value.data(), value.size());
 }
 
 bool PageElement::SetText(std::string_view text) {
-  const bool is_new = Note("#text", text);
-  if (is_new) page_set_text(number_, text.data(), text.size());
-  return is_new;
+  if (text == text_) return false;
+  text_ = text;
+  page_set_text(number_, text.data(), text.size());
+  return true;
 }
 
 void PageElement::SetValue(std::string_view value) {
@@ -144,7 +154,9 @@ void PageElement::BringToEnd() { page_bring_to_end(number_); }
 void PageElement::Flash() { page_flash(number_); }
 
 void PageElement::ShowPicture(std::string_view name) {
-  if (Note("#picture", name)) page_show_picture(number_, name.data(), name.size());
+  if (name == picture_) return;
+  picture_ = name;
+  page_show_picture(number_, name.data(), name.size());
 }
 
 std::string PageElement::Id() const { return "vamo" + std::to_string(number_); }

@@ -27,7 +27,8 @@ enum class PageEvent {
   kCopy = 8,
   kCut = 9,
   kPaste = 10,
-  kComposing = 11
+  kComposing = 11,
+  kSelected = 12
 };
 
 struct PageReport {
@@ -104,7 +105,12 @@ class PageElement {
   // Each of these leaves the page alone where nothing changes.
   void SetAttribute(std::string_view name, std::string_view value);
   // Whether it has been set here.
-  bool HasAttribute(std::string_view name) const { return shown_.find(name) != shown_.end(); }
+  bool HasAttribute(std::string_view name) const {
+    return attributes_.find(name) != attributes_.end();
+  }
+  void RemoveAttribute(std::string_view name);
+  // An attribute that says something where it has a text, and is not there where it has none.
+  void SetOptionalAttribute(std::string_view name, std::string_view value);
   // An attribute that says yes by being there.
   void SetFlag(std::string_view name, bool on);
   void SetStyle(std::string_view name, std::string_view value);
@@ -129,11 +135,14 @@ class PageElement {
   std::string Id() const;
 
  private:
-  // Whether that is new.
-  bool Note(std::string_view name, std::string_view value);
+  // By name, as the page has them.
+  using Values = std::map<std::string, std::string, std::less<>>;
 
   const int number_;
-  std::map<std::string, std::string, std::less<>> shown_;
+  Values attributes_;
+  Values styles_;
+  std::string text_;
+  std::string picture_;
 };
 
 namespace page {
