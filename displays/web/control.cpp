@@ -20,7 +20,14 @@ double Luminance(Colour colour) {
 
 }  // namespace
 
-std::string Units(double length) { return "calc(var(--unit) * " + std::to_string(length) + ")"; }
+std::string ShortText(double number) {
+  std::string text = std::to_string(number);
+  text.erase(text.find_last_not_of('0') + 1);
+  if (text.back() == '.') text.pop_back();
+  return text;
+}
+
+std::string Units(double length) { return "calc(var(--unit) * " + ShortText(length) + ")"; }
 
 std::string ToCss(Colour colour) {
   const auto part = [](std::uint8_t number) { return std::to_string(number); };

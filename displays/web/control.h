@@ -12,6 +12,8 @@ namespace vamo {
 
 class WebWindow;
 
+// A number to six decimals, without zeros at its end: some screen readers read the text of a value.
+std::string ShortText(double number);
 // A length of the design as CSS has it. The style sheet says how long a unit is on this page.
 std::string Units(double length);
 std::string ToCss(Colour colour);

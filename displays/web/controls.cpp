@@ -113,7 +113,7 @@ WebSlider::WebSlider(WebWindow& window, Slider& slider)
     : WebControl(window, slider, "input"), slider_(slider) {
   Element().SetAttribute("type", "range");
   const auto set = [&](std::string_view name, std::int64_t position) {
-    Element().SetAttribute(name, std::to_string(slider.InUnits(position)));
+    Element().SetAttribute(name, ShortText(slider.InUnits(position)));
   };
   set("min", slider.MinimumValue());
   set("max", slider.MaximumValue());
@@ -124,9 +124,9 @@ WebSlider::WebSlider(WebWindow& window, Slider& slider)
 void WebSlider::ShowState() {
   Element().SetFlag("disabled", !slider_.Enabled());
   Element().SetAttribute("tabindex", TabIndex());
-  std::string value = std::to_string(slider_.InUnits(slider_.Value()));
-  if (shown_ != value) Element().SetValue(value);
-  shown_ = std::move(value);
+  const double value = slider_.InUnits(slider_.Value());
+  if (shown_ != value) Element().SetValue(ShortText(value));
+  shown_ = value;
 }
 
 PageAnswer WebSlider::Take(const PageReport& report) {
@@ -136,7 +136,7 @@ PageAnswer WebSlider::Take(const PageReport& report) {
       return slider_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
     case PageEvent::kInput:
       // What the page shows already may not stand.
-      shown_ = std::to_string(report.x);
+      shown_ = report.x;
       slider_.UserSetByAssistiveTechnology(report.x);
       Update();
       return PageAnswer::kTaken;

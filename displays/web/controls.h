@@ -74,7 +74,7 @@ class WebSlider : public WebControl {
 
   Slider& slider_;
   // The value in the element.
-  std::optional<std::string> shown_;
+  std::optional<double> shown_;
   // What the wheel has turned beyond whole notches.
   double turned_ = 0;
 };
