@@ -78,10 +78,15 @@ void WebDisplay::RunEvent(const std::function<void()>& event) {
 }
 
 PageAnswer WebDisplay::Take(const PageReport& report) {
+  // What the user does now is meant for the window that is about to come in front.
+  ActivateNext();
   if (front_ == nullptr) return PageAnswer::kPassed;
   switch (report.event) {
     case PageEvent::kKey:
       return front_->TakeKey(report);
+    case PageEvent::kSelected:
+      front_->ReportSelection();
+      return PageAnswer::kTaken;
     case PageEvent::kPress:
       front_->BringToFront();
       return PageAnswer::kTaken;
@@ -118,13 +123,12 @@ void WebDisplay::Activate(WebWindow& window) {
 }
 
 void WebDisplay::ComeInFront(WebWindow& window) {
-  Post([this, shown = &window] {
-    const auto found = std::find(windows_.begin(), windows_.end(), shown);
-    if (found != windows_.end() && shown->OnScreen()) Activate(*shown);
-  });
+  next_ = &window;
+  Post([this] { ActivateNext(); });
 }
 
 void WebDisplay::GoFromFront(const WebWindow& window) {
+  if (next_ == &window) next_ = nullptr;
   if (front_ != &window) return;
   front_ = nullptr;
   Post([this] { ActivateNext(); });
@@ -136,9 +140,13 @@ void WebDisplay::Remove(WebWindow& window) {
 }
 
 void WebDisplay::ActivateNext() {
-  const auto next = std::find_if(windows_.rbegin(), windows_.rend(),
-                                 [](const WebWindow* window) { return window->OnScreen(); });
-  if (front_ == nullptr && next != windows_.rend()) Activate(**next);
+  WebWindow* next = std::exchange(next_, nullptr);
+  if (next == nullptr && front_ == nullptr) {
+    const auto last = std::find_if(windows_.rbegin(), windows_.rend(),
+                                   [](const WebWindow* window) { return window->OnScreen(); });
+    if (last != windows_.rend()) next = *last;
+  }
+  if (next != nullptr) Activate(*next);
 }
 
 std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended) {

@@ -65,6 +65,8 @@ class WebDisplay : public Display, public PageOwner {
   // In the order in which they have come in front, the last at the end.
   std::vector<WebWindow*> windows_;
   WebWindow* front_ = nullptr;
+  // What is about to come in front, as it has been shown; null for the one that was there before.
+  WebWindow* next_ = nullptr;
   std::string pasted_;
   bool stopped_ = false;
 };
