@@ -8,6 +8,8 @@ mergeInto(LibraryManager.library, {
     // What the running event is to put on the clipboard.
     copied: null,
     inCopy: false,
+    // Whether a text stands in an element that is not complete.
+    composes: false,
     // Where the mouse has gone down.
     pressed: null,
     // Whether there is somebody to report to.
@@ -106,8 +108,12 @@ mergeInto(LibraryManager.library, {
           Page.report(event, 5, 0, 0, event.inputType,
             event.data || (carried ? carried.getData('text/plain') : ''));
         },
-        compositionstart: function (event) { Page.report(event, 11, 0, 0); },
+        compositionstart: function (event) {
+          Page.composes = true;
+          Page.report(event, 11, 0, 0);
+        },
         compositionend: function (event) {
+          Page.composes = false;
           Page.report(event, 6, 0, 0, event.data);
         },
         wheel: function (event) {
@@ -127,6 +133,13 @@ mergeInto(LibraryManager.library, {
       for (var name in listeners) {
         document.addEventListener(name, listeners[name], { passive: false });
       }
+      // By the mouse, by a finger or by a key: but for sliders, which are moved often. In some browsers
+      // it is an event of the element alone.
+      document.addEventListener('selectionchange', function () {
+        if (!Page.composes && document.activeElement && document.activeElement.type !== 'range') {
+          Page.tell(-1, 12, 0, 0, 0, '', '');
+        }
+      }, true);
     }
   },
   $Page__postset: 'Page.elements[0] = document.getElementById("vamo"); Page.listen();',
