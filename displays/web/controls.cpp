@@ -84,6 +84,8 @@ WebButton::WebButton(WebWindow& window, PushButton& button)
     : WebControl(window, button, "button"), button_(button) {
   Element().SetAttribute("type", "button");
   Element().SetAttribute("tabindex", "-1");
+  if (window.Shown().KeyThatPresses(button) == KeyCode::kHelp)
+    Element().SetAttribute("aria-keyshortcuts", "F1");
   SetFont(button.Font());
   Update();
 }

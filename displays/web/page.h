@@ -36,7 +36,8 @@ struct PageReport {
   // Of a press, its place as a share of the width and the height of the element that hears of it.
   // Of a wheel, what it has turned, in notches to the right and away from the user. Of a click, in
   // `x`, how often the mouse has been clicked; 0 where it was something else that clicked. Of an
-  // input, in `x`, its value where that is a number.
+  // input, in `x`, its value where that is a number. Of an edit, what it is about, as offsets in
+  // UTF-16 code units; -1 where that is what is selected.
   double x = 0;
   double y = 0;
   bool shift = false;

@@ -105,8 +105,9 @@ mergeInto(LibraryManager.library, {
         },
         beforeinput: function (event) {
           var carried = event.dataTransfer;
-          Page.report(event, 5, 0, 0, event.inputType,
-            event.data || (carried ? carried.getData('text/plain') : ''));
+          var ranges = event.getTargetRanges();
+          Page.report(event, 5, ranges.length ? ranges[0].startOffset : -1,
+            ranges.length ? ranges[0].endOffset : -1, event.inputType, event.data || (carried ? carried.getData('text/plain') : ''));
         },
         compositionstart: function (event) {
           Page.composes = true;

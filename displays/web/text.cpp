@@ -26,8 +26,8 @@ constexpr std::array kEditKeys{
     EditKey{"deleteWordForward", kForwardDelete, true},
 };
 
-constexpr std::array<std::string_view, 3> kTyped{"insertText", "insertReplacementText",
-                                                 "insertTranspose"};
+// These are about another part of the text than what is selected.
+constexpr std::array<std::string_view, 2> kCorrecting{"insertReplacementText", "insertTranspose"};
 constexpr std::array<std::string_view, 3> kBrought{"insertFromPaste", "insertFromDrop",
                                                    "insertFromYank"};
 // These cannot be held up; what comes of them is reported when it is complete.
@@ -128,7 +128,8 @@ void WebText::TakeWhole(const std::string& text) {
 PageAnswer WebText::TakeEdit(const PageReport& report) {
   if (Contains(kComposing, report.text)) return PageAnswer::kTaken;
   ReportSelection();
-  if (Contains(kTyped, report.text)) TakeTyped(report.data);
+  if (Contains(kCorrecting, report.text)) return TakeCorrection(report);
+  if (report.text == "insertText") TakeTyped(report.data);
   if (Contains(kBrought, report.text)) text_.UserPasted(report.data);
   if (report.text == "historyUndo") {
     Runtime::Current().Dispatch([this, self = Self(&text_)] { text_.Undo(); });
@@ -139,6 +140,17 @@ PageAnswer WebText::TakeEdit(const PageReport& report) {
     key.word = edit.word;
     Window().Shown().UserPressedKey(key);
   }
+  return PageAnswer::kTakenWhole;
+}
+
+// Without a place for it, to exchange two characters would double them.
+PageAnswer WebText::TakeCorrection(const PageReport& report) {
+  const bool has_place = report.x >= 0 && report.y >= report.x;
+  if (has_place) {
+    text_.UserSelected(ByteOffset(text_.Text(), static_cast<std::size_t>(report.x)),
+                       ByteOffset(text_.Text(), static_cast<std::size_t>(report.y)));
+  }
+  if (has_place || report.text != "insertTranspose") TakeTyped(report.data);
   return PageAnswer::kTakenWhole;
 }
 

@@ -27,6 +27,8 @@ class WebText : public WebControl {
  private:
   void ShowSelection();
   PageAnswer TakeEdit(const PageReport& report);
+  // An edit of a part of the text that need not be selected.
+  PageAnswer TakeCorrection(const PageReport& report);
   // Another text stands in the element.
   void TakeWhole(const std::string& text);
   void TakeTyped(const std::string& typed);

@@ -167,6 +167,9 @@ class Window : public Object {
   // The control that has the keys while the window is active, or nil.
   const Ref<RectControl>& Focus() const { return focus_; }
 
+  // The key that presses a control from anywhere in the window.
+  std::optional<KeyCode> KeyThatPresses(const RectControl& control) const;
+
   // What a display reports.
   //
   // The window has become the one that the user's keys go to, or has ceased to be.

@@ -73,6 +73,13 @@ bool Window::TakeKey(const Key& key) {
   return MoveFocus(key.shift);
 }
 
+std::optional<KeyCode> Window::KeyThatPresses(const RectControl& control) const {
+  for (const AccessibleText& text : AccessibleTexts()) {
+    if (text.control == control.Name()) return text.pressed_by;
+  }
+  return std::nullopt;
+}
+
 bool Window::PressButton(const Key& key) {
   for (const AccessibleText& text : AccessibleTexts()) {
     if (text.pressed_by != key.code || key.shift || key.command) continue;
