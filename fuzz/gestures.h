@@ -13,7 +13,7 @@
 
 #include "displays/headless/user.h"
 #include "displays/headless/window.h"
-#include "target.h"
+#include "input.h"
 #include "toolkit/conversions.h"
 #include "toolkit/runtime/runtime.h"
 #include "toolkit/window/menu_service.h"

@@ -1,7 +1,7 @@
-// Runs a target over kept inputs, or over random ones, in order and without the fuzzer.
+// Runs the target over kept inputs, or over random ones, in order and without the fuzzer.
 //
-// Usage: replay_TARGET FILE-OR-FOLDER...     each file, and each file of each folder
-//        replay_TARGET --random SEED COUNT   so many inputs, one of each seed from SEED on
+// Usage: replay_user FILE-OR-FOLDER...     each file, and each file of each folder
+//        replay_user --random SEED COUNT   so many inputs, one of each seed from SEED on
 //
 // An input is named before it runs, by what replays it alone: the last one named is the one that
 // has ended the process.
@@ -16,7 +16,8 @@
 #include <string_view>
 #include <vector>
 
-#include "target.h"
+// The name by which libFuzzer finds the target.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
 

@@ -6,13 +6,18 @@
 #include <string_view>
 #include <vector>
 
+#include "controlwnd/control_wnd.h"
 #include "displays/headless/user.h"
 #include "displays/headless/window.h"
 #include "gestures.h"
-#include "ledger.h"
+#include "input.h"
 #include "shell/startup.h"
-#include "target.h"
+#include "stats/interval.h"
+#include "stats/significance.h"
+#include "toolkit/conversions.h"
 #include "toolkit/runtime/runtime.h"
+#include "toolkit/text/text_edit.h"
+#include "toolkit/utf8.h"
 
 namespace vamo {
 namespace {
@@ -61,6 +66,14 @@ void CheckWindows(const HeadlessDisplay& display, const std::vector<WeakRef<Obje
           "the splash makes way for the window");
 }
 
+void CheckText(const TextEdit& edit) {
+  const std::string& text = edit.Text();
+  const auto [anchor, caret] = edit.Selection();
+  Require(text == ValidUtf8(text), "valid UTF-8");
+  Require(anchor == CharacterBoundary(text, anchor) && caret == CharacterBoundary(text, caret),
+          "the selection lies between characters");
+}
+
 // What a display shows is the state of the objects: asked anew, each would show the same.
 void CheckShown(const HeadlessDisplay& display) {
   for (HeadlessWindow* view : display.Windows()) {
@@ -73,6 +86,7 @@ void CheckShown(const HeadlessDisplay& display) {
     for (const HeadlessControl* control : view->Controls()) {
       Require(control->Present() == control->Shown(),
               control->Control().Name() + " is shown as it is");
+      if (const auto* edit = dynamic_cast<const TextEdit*>(&control->Control())) CheckText(*edit);
     }
   }
 }
@@ -90,6 +104,52 @@ void CheckHeard(User& user) {
   }
 }
 
+std::string Results(double r, std::int64_t n) {
+  if (n > 1000) return " |  | ";
+  const double t = ComputeT(r, n);
+  const Interval interval = ComputeInterval(r, n);
+  return Format(t, "#####.00") + " | " + Format(ComputeP(t, n), ".00000") + " | " +
+         Format(interval.lo, "+.000") + " to " + Format(interval.hi, "+.000");
+}
+
+// In what order the control window takes what its user sets, told from gesture to gesture.
+class Sequence {
+ public:
+  void Check(class ControlWnd& window, bool activated) {
+    const std::string r_text = window.rEdit()->Text();
+    const std::string n_text = window.nEdit()->Text();
+    const std::string results =
+        window.tText()->Text() + " | " + window.pText()->Text() + " | " + window.ciText()->Text();
+    const double r = Val(r_text);
+    const std::int64_t n = Truncate(Val(n_text));
+    Require(r == std::clamp(r, 0.0, 0.99999), "the text of r is in its limits");
+    const std::string& z = window.zFld()->Text();
+    Require(z == Format(FisherZ(r), "##0.000") || r_text + z == "", "z is that of the text of r");
+    Require(window.nText()->Visible() == (n < 4 || n > 1000) || n_text.empty(), "the warning");
+    const bool same = r_text == r_text_ && n_text == n_text_;
+    if (activated) {
+      Require(window.r == 0 && window.t == 0 && window.N == 4, "the model starts anew");
+      Require(same && results == results_, "behind unchanged controls");
+    } else {
+      // An edit that leaves the text as it was sets r, too.
+      Require(window.r == r || (r_text == r_text_ && window.r == r_), "r is set by its text");
+      Require(window.N == n || (n_text == n_text_ && window.N == n_), "N is set by its text");
+      Require(results == Results(window.r, n) || (same && results == results_),
+              "results are those of r and of the text of N");
+    }
+    r_text_ = r_text;
+    n_text_ = n_text;
+    results_ = results;
+    r_ = window.r;
+    n_ = window.N;
+  }
+
+ private:
+  std::string r_text_, n_text_, results_ = " |  | ";
+  double r_ = 0;
+  std::int64_t n_ = 0;
+};
+
 // One run of the program from its start, until its user ends it or the input is at its end.
 class Program {
  public:
@@ -99,7 +159,6 @@ class Program {
     const bool bars_live_in_windows = input_.OneIn(2);
     const int status = Main(std::make_unique<UserDisplay>([this](HeadlessUser& user) { Use(user); },
                                                           bars_live_in_windows, objects_));
-    ledger_ = nullptr;
     Require(status == 0, "the program ends well");
     Require(!Runtime::Exists(), "the run time ends");
     for (const WeakRef<Object>& object : objects_)
@@ -125,27 +184,23 @@ class Program {
     CheckHeard(user);
     const Ref<class ControlWnd> window = LiveControlWnd();
     if (!window) return;
-    if (!ledger_) {
-      ledger_ = New<Ledger>();
-      ledger_->Watch(*window);
-    }
     const Ref<Window>& active = Runtime::Current().ActiveWindow();
-    if (active == window && active_before.Value() != active) ledger_->TakeActivation();
-    ledger_->Compare(*window);
+    sequence_.Check(*window, active == window && active_before.Value() != active);
   }
 
   Input& input_;
   // All windows and, at the end, what else must go.
   std::vector<WeakRef<Object>> objects_;
-  Ref<Ledger> ledger_;
+  Sequence sequence_;
 };
 
 }  // namespace
-
-void TryInput(Input input) {
-  do {
-    Program(input).Run();
-  } while (!input.AtEnd());
-}
-
 }  // namespace vamo
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  vamo::Input input({reinterpret_cast<const char*>(data), size});
+  do {
+    vamo::Program(input).Run();
+  } while (!input.AtEnd());
+  return 0;
+}

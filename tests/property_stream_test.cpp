@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -101,6 +102,24 @@ TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {
       EXPECT_NE(exception.Message().find(test.offset), std::string::npos) << exception.Message();
     }
     EXPECT_EQ(label->Bounds().top, test.offset == "offset 0" ? 0 : 7);
+  }
+}
+
+// On the heap and not a byte longer, so that the sanitizers see a read past the end.
+TEST(StreamReaderTest, AStreamIsReadToItsEndAtMost) {
+  TestProgram program;
+  const std::string whole =
+      Stored(EncodedStream<640>().Set(property::kTop, 7).Set(property::kTooltip, "tip"));
+  for (std::size_t length = 0; length < whole.size() - 2; ++length) {
+    const auto stream = std::make_unique<char[]>(length + 2);
+    whole.copy(stream.get(), length + 1);
+    const bool complete = length == 0 || length == 12;
+    try {
+      _SetProperties(*New<Label>(), {stream.get(), length});
+      EXPECT_TRUE(complete) << length;
+    } catch (const InvalidArgumentException&) {
+      EXPECT_FALSE(complete) << length;
+    }
   }
 }
 

@@ -1,15 +1,12 @@
-// What the fuzz targets share. A target is one function that takes any bytes.
-#ifndef VAMO_FUZZ_TARGET_H_
-#define VAMO_FUZZ_TARGET_H_
+// What the bytes of a random input stand for.
+#ifndef VAMO_FUZZ_INPUT_H_
+#define VAMO_FUZZ_INPUT_H_
 
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <string>
 #include <string_view>
-
-// The name by which libFuzzer finds the target, and the replay of kept inputs.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace vamo {
 
@@ -25,7 +22,6 @@ class Input {
   bool AtEnd() const { return rest_.empty(); }
   // Up to `count` bytes.
   std::string_view Take(std::size_t count);
-  std::string_view Rest() { return Take(rest_.size()); }
   std::uint8_t Byte();
   std::uint64_t Number(int bytes);
 
@@ -53,9 +49,6 @@ class Input {
   std::string_view rest_;
 };
 
-// What a target does with an input; each defines it.
-void TryInput(Input input);
-
 }  // namespace vamo
 
-#endif  // VAMO_FUZZ_TARGET_H_
+#endif  // VAMO_FUZZ_INPUT_H_

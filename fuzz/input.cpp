@@ -1,5 +1,4 @@
-// What the fuzz targets share: the way in, and what an input's bytes stand for.
-#include "target.h"
+#include "input.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -76,8 +75,3 @@ std::string Input::OddText() {
 }
 
 }  // namespace vamo
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  vamo::TryInput(vamo::Input({reinterpret_cast<const char*>(data), size}));
-  return 0;
-}
