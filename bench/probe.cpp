@@ -1,15 +1,14 @@
 #include "probe.h"
 
 #include <malloc.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QSlider>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
@@ -17,35 +16,29 @@
 #include <ctime>
 #include <fstream>
 #include <limits>
-#include <string>
+
+#include "screen_user.h"
 
 namespace vamo {
 namespace {
 
-// Long enough for the window manager and the input focus to have come to rest.
+using Clock = std::chrono::steady_clock;
+
+// Long enough for the window manager and the focus to have come to rest.
 constexpr std::chrono::milliseconds kRest{300};
 
 // The sample size at which the slider of r is moved: every move changes every result there.
 constexpr int kN = 30;
 
-double Milliseconds(std::chrono::steady_clock::duration time) {
+double Milliseconds(Clock::duration time) {
   return std::chrono::duration<double, std::milli>(time).count();
 }
 
-double ProcessorMilliseconds() {
-  timespec time{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
-// A line of the kernel's account of this process, in KiB.
-long Kibibytes(const std::string& name) {
-  std::ifstream status("/proc/self/status");
-  std::string line;
-  while (std::getline(status, line)) {
-    if (line.starts_with(name + ":")) return std::stol(line.substr(name.size() + 1));
-  }
-  return 0;
+long ResidentKibibytes() {
+  long all = 0;
+  long resident = 0;
+  std::ifstream("/proc/self/statm") >> all >> resident;
+  return resident * sysconf(_SC_PAGESIZE) / 1024;
 }
 
 // The windows are not taken down: what is measured is over.
@@ -62,35 +55,18 @@ QSlider* SliderTo(const QWidget& window, int maximum) {
   return nullptr;
 }
 
-void SendMouse(QWidget& widget, QEvent::Type type, QPoint at) {
-  const bool up = type == QEvent::MouseButtonRelease;
-  QMouseEvent event(type, at, widget.mapToGlobal(at),
-                    type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                    up ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(&widget, &event);
-}
-
-// The middle of the knob at a position.
-QPoint KnobAt(const QSlider& slider, int position) {
-  QStyleOptionSlider option;
-  option.initFrom(&slider);
-  option.minimum = slider.minimum();
-  option.maximum = slider.maximum();
-  option.subControls = QStyle::SC_All;
-  const auto part = [&](QStyle::SubControl which) {
-    return slider.style()->subControlRect(QStyle::CC_Slider, &option, which, &slider);
-  };
-  const QRect groove = part(QStyle::SC_SliderGroove);
-  const QRect knob = part(QStyle::SC_SliderHandle);
-  const int offset = QStyle::sliderPositionFromValue(slider.minimum(), slider.maximum(), position,
-                                                     groove.width() - knob.width());
-  return {groove.left() + offset + knob.width() / 2, knob.center().y()};
+void SendMouse(QSlider& slider, QEvent::Type type, int position) {
+  const QPoint at(KnobAt(position, slider.minimum(), slider.maximum(), slider.width()),
+                  slider.height() / 2);
+  const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+  QMouseEvent event(type, at, slider.mapToGlobal(at), button, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&slider, &event);
 }
 
 }  // namespace
 
-Probe::Probe(int argc, char** argv) : mode_(argc > 1 ? QString::fromLatin1(argv[1]) : QString()) {
-  if (!mode_.isEmpty()) qApp->installEventFilter(this);
+Probe::Probe(int argc, char** argv) : mode_(argc > 1 ? argv[1] : "") {
+  if (!mode_.empty()) qApp->installEventFilter(this);
 }
 
 bool Probe::eventFilter(QObject* watched, QEvent* event) {
@@ -100,10 +76,10 @@ bool Probe::eventFilter(QObject* watched, QEvent* event) {
   auto* widget = static_cast<QWidget*>(watched)->window();
   if (splash_ == nullptr) {
     splash_ = widget;
-    OncePainted([this] { SplashShown(*splash_); });
+    OncePainted([this] { SplashShown(); });
   } else if (window_ == nullptr && widget != splash_) {
     window_ = widget;
-    OncePainted([this] { WindowShown(*window_); });
+    OncePainted([this] { WindowShown(); });
   }
   return false;
 }
@@ -115,86 +91,73 @@ void Probe::OncePainted(const std::function<void()>& then) {
   });
 }
 
-void Probe::SplashShown(QWidget& /*splash*/) {
-  if (mode_ == QStringLiteral("splash")) {
+void Probe::SplashShown() {
+  if (mode_ == "splash") {
     std::printf("%.3f\n", Milliseconds(Clock::now().time_since_epoch()));
     End(true);
   }
-  QTimer::singleShot(kRest, this, [this] { PressKey(); });
+  QTimer::singleShot(kRest, this, [this] {
+    key_pressed_ = Clock::now();
+    QApplication::postEvent(splash_, new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier,
+                                                   QStringLiteral(" ")));
+  });
 }
 
-void Probe::PressKey() {
-  key_pressed_ = Clock::now();
-  QApplication::postEvent(
-      splash_, new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" ")));
-}
-
-void Probe::WindowShown(QWidget& window) {
-  if (mode_ == QStringLiteral("window")) {
+void Probe::WindowShown() {
+  if (mode_ == "window") {
     std::printf("%.3f\n", Milliseconds(Clock::now() - key_pressed_));
     End(true);
   }
-  QTimer::singleShot(kRest, this, [this, &window] {
-    SliderTo(window, 1000)->setValue(kN);
-    slider_ = SliderTo(window, 99);
+  QTimer::singleShot(kRest, this, [this] {
+    SliderTo(*window_, 1000)->setValue(kN);
+    slider_ = SliderTo(*window_, 99);
     Paint();
-    if (mode_ == QStringLiteral("slide")) MeasureSlide();
-    if (mode_ == QStringLiteral("memory")) MeasureMemory();
-    if (mode_ == QStringLiteral("growth")) MeasureGrowth();
-    if (mode_ == QStringLiteral("texts")) PrintTexts();
+    if (mode_ == "slide") MeasureSlide();
+    if (mode_ == "memory") MeasureMemory();
+    if (mode_ == "growth") MeasureGrowth();
+    if (mode_ == "texts") PrintTexts();
     End(true);
   });
 }
 
 void Probe::MeasureSlide() {
   Slide(100, 1);
-  const double before = ProcessorMilliseconds();
+  const std::clock_t before = std::clock();
   Slide(1000, 1);
-  std::printf("%.3f\n", ProcessorMilliseconds() - before);
+  std::printf("%.3f\n", static_cast<double>(std::clock() - before) * 1e3 / CLOCKS_PER_SEC);
 }
 
 void Probe::MeasureMemory() {
   Slide(1000, 1);
-  std::printf("%ld\n", Kibibytes("VmHWM"));
-}
-
-void Probe::MeasureGrowth() {
-  int moves = 0;
-  for (const int until : {1000, 100'000, 1'000'000}) {
-    SlideAndPaintSeldom(until - moves);
-    PrintMemoryOfAThousand();
-    moves = until + 1000;
-  }
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  std::printf("%ld\n", usage.ru_maxrss);
 }
 
 // A million moves would take long with a painting each. The rhythm is the same all through, since
-// Qt keeps the room for the longest queue that it has had.
-void Probe::SlideAndPaintSeldom(int moves) { Slide(moves, 100); }
-
-// Of the heap the least of ten readings: what just waits for its turn does not count.
-void Probe::PrintMemoryOfAThousand() {
-  std::size_t heap = std::numeric_limits<std::size_t>::max();
-  for (int i = 0; i < 10; ++i) {
-    SlideAndPaintSeldom(100);
-    heap = std::min(heap, mallinfo2().uordblks);
+// Qt keeps the room for the longest queue that it has had. Of the heap the least of ten readings
+// counts: what just waits for its turn does not.
+void Probe::MeasureGrowth() {
+  for (const int moves : {1000, 998'000}) {
+    Slide(moves, 100);
+    double heap = std::numeric_limits<double>::max();
+    for (int i = 0; i < 10; ++i) {
+      Slide(100, 100);
+      heap = std::min(heap, static_cast<double>(mallinfo2().uordblks) / 1024);
+    }
+    std::printf("%.2f %ld\n", heap, ResidentKibibytes());
   }
-  std::printf("%zu %ld\n", heap, Kibibytes("VmRSS"));
 }
 
 void Probe::PrintTexts() {
-  for (int position = 0; position <= slider_->maximum(); ++position) {
-    if (position > 0) {
-      DragTo(position);
-      Paint();
-    }
-    QStringList texts;
-    for (const QLabel* label : window_->findChildren<QLabel*>()) texts += label->text();
-    for (const QLineEdit* field : window_->findChildren<QLineEdit*>()) texts += field->text();
-    // What shows a picture has no text.
-    texts.removeAll(QString());
-    texts.sort();
-    std::printf("%s\n", qPrintable(texts.join(u'|')));
-  }
+  Slide(37, 1);
+  QStringList texts;
+  for (const QLabel* label : window_->findChildren<QLabel*>()) texts += label->text();
+  for (const QLineEdit* field : window_->findChildren<QLineEdit*>()) texts += field->text();
+  // What shows a picture has no text.
+  texts.removeAll(QString());
+  texts.sort();
+  std::printf("%s\n", qPrintable(texts.join(u'|')));
 }
 
 void Probe::Slide(int moves, int moves_a_paint) {
@@ -208,10 +171,8 @@ void Probe::Slide(int moves, int moves_a_paint) {
 }
 
 void Probe::DragTo(int position) {
-  if (!slider_->isSliderDown()) {
-    SendMouse(*slider_, QEvent::MouseButtonPress, KnobAt(*slider_, slider_->value()));
-  }
-  SendMouse(*slider_, QEvent::MouseMove, KnobAt(*slider_, position));
+  if (!slider_->isSliderDown()) SendMouse(*slider_, QEvent::MouseButtonPress, slider_->value());
+  SendMouse(*slider_, QEvent::MouseMove, position);
   if (slider_->value() == position) return;
   std::fputs("The knob does not follow the mouse.\n", stderr);
   End(false);

@@ -4,12 +4,11 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QString>
+#include <QSlider>
+#include <QWidget>
 #include <chrono>
 #include <functional>
-
-class QSlider;
-class QWidget;
+#include <string>
 
 namespace vamo {
 
@@ -22,8 +21,8 @@ namespace vamo {
 //   window   milliseconds from a key on the splash to the next window on the screen
 //   slide    milliseconds of processor time of a thousand moves of the first slider, each repainted
 //   memory   the peak of the resident memory after such a session, in KiB
-//   growth   bytes of the heap in use, KiB resident: after a thousand, 100,000 and a million moves
-//   texts    what the fields and labels read at each position of the slider
+//   growth   KiB of the heap in use, and resident: after a thousand and a million moves
+//   texts    what the fields and labels read after some moves
 class Probe : public QObject {
  public:
   Probe(int argc, char** argv);
@@ -31,19 +30,15 @@ class Probe : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  using Clock = std::chrono::steady_clock;
-
   // Calls a function when what is being painted is on the screen.
   void OncePainted(const std::function<void()>& then);
-  void SplashShown(QWidget& splash);
-  void WindowShown(QWidget& window);
-  void PressKey();
+  // Has the window in front settle, measures and ends the process.
+  void SplashShown();
+  void WindowShown();
 
   void MeasureSlide();
   void MeasureMemory();
   void MeasureGrowth();
-  void SlideAndPaintSeldom(int moves);
-  void PrintMemoryOfAThousand();
   void PrintTexts();
 
   // Takes the knob through the whole range and back, over and over, for so many moves. The window
@@ -52,11 +47,11 @@ class Probe : public QObject {
   void DragTo(int position);
   void Paint();
 
-  const QString mode_;
+  const std::string mode_;
   QPointer<QWidget> splash_;
   QPointer<QWidget> window_;
   QPointer<QSlider> slider_;
-  Clock::time_point key_pressed_;
+  std::chrono::steady_clock::time_point key_pressed_;
   bool painted_ = false;
   int step_ = 1;
 };

@@ -1,0 +1,88 @@
+// Times one slider event on the program without pixels beside the same written flat, in
+// nanoseconds.
+#include <chrono>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "controlwnd/control_wnd.h"
+#include "displays/headless/user.h"
+#include "median.h"
+#include "shell/startup.h"
+#include "stats/interval.h"
+#include "stats/significance.h"
+#include "toolkit/conversions.h"
+
+namespace vamo {
+namespace {
+
+// What one move of the slider of r comes to without controls, events and a display: all that the
+// program computes and formats for it, both calculations included.
+class FlatWindow {
+ public:
+  explicit FlatWindow(std::string n_edit) : n_edit_(std::move(n_edit)) {}
+
+  void MoveR(std::int64_t position) {
+    r_edit_ = Format(static_cast<double>(position) / 100.0, ".000");
+    // The field reads r back from its text, and the slider's own handler calculates once more.
+    const double r = Val(r_edit_);
+    DoIt(r);
+    z_field_ = Format(FisherZ(r), "##0.000");
+    DoIt(r);
+  }
+  std::string Texts() const { return r_edit_ + t_text_ + p_text_ + ci_text_ + z_field_; }
+
+ private:
+  void DoIt(double r) {
+    const std::int64_t n = Truncate(Val(n_edit_));
+    const double t = ComputeT(r, n);
+    t_text_ = Format(t, "#####.00");
+    p_text_ = Format(ComputeP(t, n), ".00000");
+    const Interval interval = ComputeInterval(r, n);
+    ci_text_ = Format(interval.lo, "+.000") + " to " + Format(interval.hi, "+.000");
+  }
+
+  std::string n_edit_, r_edit_, t_text_, p_text_, ci_text_, z_field_;
+};
+
+// Of one move; the slider goes over its whole range and back to the start, over and over.
+template <class Move>
+double Nanoseconds(const Move& move) {
+  constexpr int kMoves = 10'000;
+  const auto start = std::chrono::steady_clock::now();
+  for (int i = 1; i <= kMoves; ++i) move(i % 100);
+  return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start)
+             .count() /
+         kMoves;
+}
+
+void Compare(const std::string& n) {
+  const auto window = Cast<class ControlWnd>(ControlWnd());
+  const Ref<Slider> slider = window->rSlider();
+  window->nEdit()->SetText(n);
+  FlatWindow flat(n);
+  std::vector<double> events, flat_events;
+  for (int round = 0; round < 21; ++round) {
+    events.push_back(Nanoseconds([&](int position) { slider->UserMovedTo(position); }));
+    flat_events.push_back(Nanoseconds([&](int position) { flat.MoveR(position); }));
+  }
+  slider->UserMovedTo(50);
+  flat.MoveR(50);
+  if (flat.Texts() != window->rEdit()->Text() + window->tText()->Text() + window->pText()->Text() +
+                          window->ciText()->Text() + window->zFld()->Text()) {
+    throw std::runtime_error("the results differ from those written flat");
+  }
+  PrintMedian("event_" + n, events);
+  PrintMedian("event_" + n + "_flat", flat_events);
+}
+
+}  // namespace
+}  // namespace vamo
+
+int main() {
+  return vamo::Main(std::make_unique<vamo::HeadlessDisplay>([](vamo::HeadlessUser& user) {
+    user.Type(" ");
+    for (const char* n : {"1000", "30"}) vamo::Compare(n);
+  }));
+}
