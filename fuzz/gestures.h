@@ -73,8 +73,8 @@ class Gestures {
   void PressCharacter() {
     using std::string_view_literals::operator""sv;
     static constexpr std::string_view kCharacters[] = {
-        "a"sv,  "-"sv,    ","sv,    " "sv,  "é"sv,  "\u6F22"sv, "\U0001F600"sv, "\b"sv,
-        "\b"sv, "\x7F"sv, "\x7F"sv, "\t"sv, "\r"sv, "\x1B"sv,   "\x10"sv,       "\0"sv};
+        "a"sv,  "-"sv, ","sv, " "sv,  "é"sv,  "\u6F22"sv, "\U0001F600"sv, "\b"sv,
+        "\b"sv, "0"sv, ","sv, "\t"sv, "\r"sv, "\x1B"sv,   "\x10"sv,       "\0"sv};
     Key key = Key::Character(std::string(input_.Pick(kCharacters)));
     key.shift = input_.OneIn(4);
     key.word = input_.OneIn(2);

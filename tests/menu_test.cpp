@@ -78,6 +78,7 @@ TEST_F(MenuTest, ADisabledItemsShortcutDoesNothing) {
 TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {
   window_->field()->SetText("text");
   program_.user().Click(Role::kText, "field");
+  program_.user().Select("field", 2, 2);
   EXPECT_FALSE(program_.user().CanChoose("Edit/EditCopy"));
   program_.user().Select("field", 0, 2);
   EXPECT_TRUE(program_.user().Choose("Edit/EditCopy"));

@@ -35,9 +35,25 @@ TEST(QtDisplayTest, AnInputMethodsTextIsTakenAsKeys) {
     QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &event);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
     EXPECT_EQ(user.Beeps(), 1);
+    // Arabic digits, and the decimal keys of a keypad and of a keyboard on the screen.
+    Retype(user, "r", "");
+    QTest::sendKeyEvent(QTest::Click, &Named<QLineEdit>("r"), Qt::Key_Comma, QStringLiteral(","),
+                        Qt::KeypadModifier);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".");
+    event.setCommitString("\u0663");
+    QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &event);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".3");
+    for (const char16_t* text : {u",", u"0,57"}) {
+      Retype(user, "r", "");
+      event.setCommitString(QString::fromUtf16(text));
+      QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &event);
+    }
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
+    const int beeps = user.Beeps();
     QInputMethodEvent refused;
     refused.setCommitString("x", /*replaceFrom=*/-1, /*replaceLength=*/1);
     QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &refused);
+    EXPECT_EQ(user.Beeps(), beeps + 1);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
     EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, "");
   });

@@ -9,6 +9,7 @@
 #include "toolkit/control/properties.h"
 #include "toolkit/object/property_stream.h"
 #include "toolkit/runtime/key.h"
+#include "toolkit/text/received_text.h"
 #include "toolkit/text/text_area.h"
 #include "toolkit/text/typing_rule.h"
 #include "toolkit/utf8.h"
@@ -52,6 +53,21 @@ TEST(Utf8Test, EachByteOfABrokenSequenceBecomesAReplacementCharacter) {
   const std::string kBad = "\xEF\xBF\xBD";
   EXPECT_EQ(ValidUtf8("aé漢😀\x80z\xC0\xAF\xC3"), "aé漢😀" + kBad + "z" + kBad + kBad + kBad);
   EXPECT_EQ(ValidUtf8(std::string_view("a\0b", 3)).size(), 3U);
+}
+
+TEST(ReceivedTextTest, DigitsSpacesAndADecimalCommaBecomePlain) {
+  EXPECT_EQ(WithAsciiDigits("٠٫٣٧ ०९ ４ 𝟗𝟘𝟿 é²"), "0.37 09 4 909 é²");
+  EXPECT_EQ(WithPlainSpaces("a\tb\u00A0c\u202Fd\u3000e\u200Bf"), "a b c d e\u200Bf");
+  for (const auto& [text, number] : {std::pair{"0,5", "0.5"},
+                                     {"  -,37 ", "  -.37 "},
+                                     {"1,", "1."},
+                                     {",", ","},
+                                     {"1,2,3", "1,2,3"},
+                                     {"1.2,3", "1.2,3"},
+                                     {"r = 0,5", "r = 0,5"},
+                                     {"0 ,5", "0 ,5"}}) {
+    EXPECT_EQ(WithDecimalPoint(text), number);
+  }
 }
 
 class TextFieldTest : public testing::Test {
@@ -135,6 +151,45 @@ TEST_F(TextFieldTest, AHandlerThatFailsLeavesAFieldThatGoesOn) {
   EXPECT_FALSE(field_->CanUndo()) << "a write outside of the user's edit is not undone";
 }
 
+// Whoever types "0,5" means ".5", whether a filter refuses the comma or the mask does.
+TEST_F(TextFieldTest, ADigitAfterACommaAfterZerosTakesTheirPlace) {
+  _SetProperties(*field_, EncodedStream<640>().Set(property::kValidationMask, ".###"));
+  const auto typed = [&](std::string_view keys) {
+    field_->SetText("");
+    for (const char key : keys) {
+      if (key == '<' || key == '|') {
+        field_->TakeKey({KeyCode::kLeft});
+        if (key == '|') field_->UserSelected(0, 0);
+        field_->UserSelected(field_->Text().size(), field_->Text().size());
+      } else {
+        Press(std::string(1, key));
+      }
+    }
+    return field_->Text();
+  };
+  for (const auto& [keys, text] : {std::pair{"0,5", ".5"},
+                                   {"000,5", ".5"},
+                                   {"0,,5", ".5"},
+                                   {"0,0,5", ".05"},
+                                   {"0,05", ".05"},
+                                   {",5", ".5"},
+                                   {".0,5", ".05"},
+                                   {"1,5", ".15"},
+                                   {"0,<5", ".05"},
+                                   {"0|,5", ".05"},
+                                   {"0,x5", ".05"},
+                                   {"0,0\b5", ".5"}}) {
+    EXPECT_EQ(typed(keys), text) << keys;
+  }
+  field_->KeyDown = Delegate<bool(Ref<TextField>, std::string)>(
+      +[](Ref<TextField>, std::string key) { return key == ","; });
+  EXPECT_EQ(typed("0,5"), ".5");
+  _SetProperties(*field_, EncodedStream<640>().Set(property::kValidationMask, "#.##"));
+  EXPECT_EQ(typed("0,5"), "0.5");
+  _SetProperties(*field_, EncodedStream<640>().Set(property::kValidationMask, "####"));
+  EXPECT_EQ(typed("0,5"), "05");
+}
+
 TEST_F(TextFieldTest, DeletingTakesWholeCharactersOrTheSelection) {
   field_->SetText("aé漢b");
   Press("\b");
@@ -142,33 +197,35 @@ TEST_F(TextFieldTest, DeletingTakesWholeCharactersOrTheSelection) {
   EXPECT_EQ(field_->Text(), "aé");
   field_->UserSelected(0, 2);  // inside the second character: moved to its start
   EXPECT_EQ(field_->SelectedText(), "a");
-  Press("\x7F");
+  field_->TakeKey({KeyCode::kDelete});
   EXPECT_EQ(field_->Text(), "é");
-  Press("\x7F");
+  field_->TakeKey({KeyCode::kDelete});
   EXPECT_EQ(field_->Text(), "");
   const std::size_t changes = recorder_->changes.size();
   Press("\b");
-  Press("\x7F");
+  field_->TakeKey({KeyCode::kDelete});
+  field_->Delete();
   EXPECT_EQ(recorder_->changes.size(), changes) << "nothing was deleted";
   field_->UserPasted("");
   EXPECT_EQ(recorder_->changes.size(), changes);
 }
 
 TEST_F(TextFieldTest, DeletingAWordTakesTheBlanksOnTheWay) {
-  const auto after = [&](char control, std::size_t caret) {
+  const Key kBackwards = Key::Character("\b");
+  const Key kForwards{KeyCode::kDelete};
+  const auto after = [&](Key key, std::size_t caret) {
     field_->SetText("one  two ");
     field_->UserSelected(caret, caret);
-    Key key = Key::Character(std::string(1, control));
     key.word = true;
     field_->TakeKey(key);
     return field_->Text();
   };
-  EXPECT_EQ(after(kBackspace, 9), "one  ");
-  EXPECT_EQ(after(kBackspace, 5), "two ");
-  EXPECT_EQ(after(kBackspace, 0), "one  two ");
-  EXPECT_EQ(after(kForwardDelete, 0), "  two ");
-  EXPECT_EQ(after(kForwardDelete, 3), "one ");
-  EXPECT_EQ(after(kForwardDelete, 8), "one  two");
+  EXPECT_EQ(after(kBackwards, 9), "one  ");
+  EXPECT_EQ(after(kBackwards, 5), "two ");
+  EXPECT_EQ(after(kBackwards, 0), "one  two ");
+  EXPECT_EQ(after(kForwards, 0), "  two ");
+  EXPECT_EQ(after(kForwards, 3), "one ");
+  EXPECT_EQ(after(kForwards, 8), "one  two");
 }
 
 TEST_F(TextFieldTest, AReadOnlyOrDisabledFieldKeepsItsText) {

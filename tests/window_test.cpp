@@ -55,7 +55,7 @@ TEST(WindowTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
       ++keys;
       program.runtime().ActiveWindow()->Close();
     };
-    program.user().Type(text);
+    program.user().Dictate(text);
     EXPECT_EQ(keys, 1) << "the rest has no window to go to";
   }
   EXPECT_TRUE(program.runtime().LiveWindows().empty());
@@ -74,6 +74,43 @@ TEST(WindowTest, ActivationIsRaisedWhenTheWindowBecomesTheActiveOne) {
   window->Hide();
   window->UserActivated();
   EXPECT_EQ(window->activations, 2) << "a hidden window is not active";
+}
+
+TEST(WindowTest, APressActivatesItsWindowBeforeItActs) {
+  TestProgram program;
+  const auto window = ImplicitInstance<TestWindow>();
+  EXPECT_TRUE(window->UserBeginsPress(false));
+  EXPECT_EQ(window->activations, 1);
+  EXPECT_TRUE(window->UserBeginsPress(false));
+  window->UserActivated();
+  EXPECT_EQ(window->activations, 1) << "what the platform reports later is no other activation";
+}
+
+// A double click that dismisses the splash, and a key that is held down on it.
+TEST(WindowTest, TheRestOfAGestureThatHasDismissedAWindowIsIgnored) {
+  TestProgram program;
+  const auto dismissed = New<TestWindow>();
+  dismissed->Constructor();
+  const auto next = New<TestWindow>();
+  next->Constructor();
+  Key held = Key::Character("5");
+  EXPECT_TRUE(dismissed->UserBeginsPress(false));
+  dismissed->UserPressedKey(held);
+  held.repeat = true;
+  EXPECT_TRUE(next->UserBeginsPress(true)) << "beside it, the gesture goes on";
+  dismissed->Hide();
+  int keys = 0;
+  next->at_key = [&] { ++keys; };
+  EXPECT_FALSE(next->UserBeginsPress(true));
+  EXPECT_TRUE(next->UserPressedKey(held));
+  EXPECT_EQ(keys, 0);
+  held.repeat = false;
+  next->UserPressedKey(held);
+  held.repeat = true;
+  next->UserPressedKey(held);
+  EXPECT_EQ(keys, 2);
+  EXPECT_TRUE(next->UserBeginsPress(false));
+  EXPECT_TRUE(next->UserBeginsPress(true));
 }
 
 TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {

@@ -33,6 +33,7 @@ std::size_t MovedCaret(std::string_view text, std::size_t caret, KeyCode code) {
 
 void MoveCaret(TextEdit& text, const Key& key) {
   if (key.command && key.text == "a") return text.UserSelected(0, text.Text().size());
+  if (key.code == KeyCode::kDelete && key.shift) return text.Cut();
   if (key.code == KeyCode::kCharacter) return;
   const auto [anchor, caret] = text.Selection();
   const std::size_t moved = MovedCaret(text.Text(), caret, key.code);
@@ -61,6 +62,14 @@ void HeadlessUser::PressKey(const Key& key) {
 }
 
 void HeadlessUser::Type(std::string_view text) {
+  for (std::size_t at = 0; at < text.size() && display_.Running();) {
+    const std::size_t next = NextCharacter(text, at);
+    PressKey(Key::Character(std::string(text.substr(at, next - at))));
+    at = next;
+  }
+}
+
+void HeadlessUser::Dictate(std::string_view text) {
   display_.Do([&] { display_.ActiveWindow().Window().UserTyped(text); });
 }
 
@@ -83,10 +92,15 @@ void HeadlessUser::ClickDescribed(std::string_view description) {
 void HeadlessUser::ClickOn(const HeadlessControl& control) {
   RectControl& target = control.Control();
   vamo::Window& window = control.Window().Window();
+  if (!window.UserBeginsPress(/*repeat=*/false)) return;
   if (auto* button = dynamic_cast<PushButton*>(&target)) {
     button->UserPressed(1, 1);
   } else if (target.CanTakeFocus()) {
     window.UserFocused(Self(&target));
+    // The caret goes to the end, since there are no places here.
+    auto* text = dynamic_cast<TextEdit*>(&target);
+    if (text != nullptr) text->UserSelected(text->Text().size(), text->Text().size());
+    window.UserClicked(Self(&target));
   } else {
     window.UserPressedMouse(target.Bounds().left, target.Bounds().top);
   }

@@ -47,6 +47,8 @@ class HeadlessUser : public User {
 
   // What only this display's user does and knows.
   void Drop(Role role, std::string_view name, std::string_view text);
+  // Text from an input method, as a whole.
+  void Dictate(std::string_view text);
   void Select(std::string_view field, std::size_t anchor, std::size_t caret);
   void ClickDescribed(std::string_view description);
   // A click on another program's window.

@@ -17,10 +17,9 @@ struct ControlCode {
   char code;
 };
 constexpr std::array kControlCodes{
-    ControlCode{Qt::Key_Backspace, kBackspace},  ControlCode{Qt::Key_Tab, kTab},
-    ControlCode{Qt::Key_Backtab, kTab},          ControlCode{Qt::Key_Return, kReturn},
-    ControlCode{Qt::Key_Enter, kReturn},         ControlCode{Qt::Key_Escape, kEscape},
-    ControlCode{Qt::Key_Delete, kForwardDelete},
+    ControlCode{Qt::Key_Backspace, kBackspace}, ControlCode{Qt::Key_Tab, kTab},
+    ControlCode{Qt::Key_Backtab, kTab},         ControlCode{Qt::Key_Return, kReturn},
+    ControlCode{Qt::Key_Enter, kReturn},        ControlCode{Qt::Key_Escape, kEscape},
 };
 
 struct CodedKey {
@@ -33,6 +32,7 @@ constexpr std::array kCodedKeys{
     CodedKey{Qt::Key_PageUp, KeyCode::kPageUp}, CodedKey{Qt::Key_PageDown, KeyCode::kPageDown},
     CodedKey{Qt::Key_Home, KeyCode::kHome},     CodedKey{Qt::Key_End, KeyCode::kEnd},
     CodedKey{Qt::Key_F1, KeyCode::kHelp},       CodedKey{Qt::Key_Help, KeyCode::kHelp},
+    CodedKey{Qt::Key_Delete, KeyCode::kDelete},
 };
 
 constexpr std::array kModifiers{
@@ -49,13 +49,22 @@ constexpr bool kAltMakesCharacters = false;
 #endif
 
 bool IsBareModifier(int key) {
-  const bool dead = key >= Qt::Key_Dead_Grave && key <= Qt::Key_Dead_Longsolidusoverlay;
-  return dead || std::find(kModifiers.begin(), kModifiers.end(), key) != kModifiers.end();
+  return std::find(kModifiers.begin(), kModifiers.end(), key) != kModifiers.end();
 }
 
+bool IsDead(int key) { return key >= Qt::Key_Dead_Grave && key <= Qt::Key_Dead_Longsolidusoverlay; }
+
 bool CarriesPrintable(const QKeyEvent& event) {
+  constexpr char16_t kRubout = 127;
   const QString text = event.text();
-  return !text.isEmpty() && text[0].unicode() >= ' ' && text[0].unicode() != kForwardDelete;
+  return !text.isEmpty() && text[0].unicode() >= ' ' && text[0].unicode() != kRubout;
+}
+
+// What a key types. The decimal key of a keypad is a comma on many layouts, and the program knows
+// the point alone.
+std::string Typed(const QKeyEvent& event) {
+  const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
+  return keypad && event.text() == QStringLiteral(",") ? "." : ToUtf8(event.text());
 }
 
 bool IsCommand(const QKeyEvent& event) {
@@ -72,34 +81,44 @@ bool IsMnemonic(const QKeyEvent& event) {
 Key ControlCharacter(const ControlCode& found, const QKeyEvent& event) {
   Key key = Key::Character(std::string(1, found.code));
   key.shift = event.modifiers().testFlag(Qt::ShiftModifier) || found.key == Qt::Key_Backtab;
-  const bool deletes = found.code == kBackspace || found.code == kForwardDelete;
-  key.command = !deletes && IsCommand(event);
-  key.word = event.matches(QKeySequence::DeleteStartOfWord) ||
-             event.matches(QKeySequence::DeleteEndOfWord);
+  key.word = event.matches(QKeySequence::DeleteStartOfWord);
+  key.command = found.code != kBackspace && IsCommand(event);
+  return key;
+}
+
+// A key that carries no character.
+Key CodedKeyOf(const CodedKey& found, const QKeyEvent& event) {
+  Key key{found.code, "", event.modifiers().testFlag(Qt::ShiftModifier), IsCommand(event)};
+  key.word = event.matches(QKeySequence::DeleteEndOfWord);
+  return key;
+}
+
+Key WithoutRepeat(const QKeyEvent& event) {
+  const int pressed = event.key();
+  for (const ControlCode& control : kControlCodes) {
+    if (control.key == pressed) return ControlCharacter(control, event);
+  }
+  for (const CodedKey& coded : kCodedKeys) {
+    if (coded.key == pressed) return CodedKeyOf(coded, event);
+  }
+  Key key = CodedKeyOf({pressed, KeyCode::kOther}, event);
+  if (key.command && pressed >= Qt::Key_Space && pressed <= Qt::Key_AsciiTilde) {
+    key.code = KeyCode::kCharacter;
+    const bool capital = pressed >= Qt::Key_A && pressed <= Qt::Key_Z;
+    key.text = std::string(1, static_cast<char>(capital ? pressed - Qt::Key_A + 'a' : pressed));
+  } else if (!key.command && !IsDead(pressed) && !IsMnemonic(event) && CarriesPrintable(event)) {
+    key.code = KeyCode::kCharacter;
+    key.text = Typed(event);
+  }
   return key;
 }
 
 }  // namespace
 
 std::optional<Key> ToKey(const QKeyEvent& event) {
-  const int pressed = event.key();
-  if (IsBareModifier(pressed)) return std::nullopt;
-  for (const ControlCode& control : kControlCodes) {
-    if (control.key == pressed) return ControlCharacter(control, event);
-  }
-  Key key{KeyCode::kOther, "", event.modifiers().testFlag(Qt::ShiftModifier), IsCommand(event)};
-  for (const CodedKey& coded : kCodedKeys) {
-    if (coded.key == pressed) key.code = coded.code;
-  }
-  if (key.code != KeyCode::kOther) return key;
-  if (key.command && pressed >= Qt::Key_Space && pressed <= Qt::Key_AsciiTilde) {
-    key.code = KeyCode::kCharacter;
-    const bool capital = pressed >= Qt::Key_A && pressed <= Qt::Key_Z;
-    key.text = std::string(1, static_cast<char>(capital ? pressed - Qt::Key_A + 'a' : pressed));
-  } else if (!key.command && !IsMnemonic(event) && CarriesPrintable(event)) {
-    key.code = KeyCode::kCharacter;
-    key.text = ToUtf8(event.text());
-  }
+  if (IsBareModifier(event.key())) return std::nullopt;
+  Key key = WithoutRepeat(event);
+  key.repeat = event.isAutoRepeat();
   return key;
 }
 

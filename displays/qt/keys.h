@@ -11,8 +11,7 @@ namespace vamo {
 
 class WindowWidget;
 
-// The key that an event carries; nothing for a bare modifier and for a key that only begins a
-// character.
+// The key that an event carries; nothing for a bare modifier.
 std::optional<Key> ToKey(const QKeyEvent& event);
 
 // Takes the keys of all widgets of one window before the widgets see them and gives them to the

@@ -55,9 +55,12 @@ QKeySequence::StandardKey PlatformKey(EditAction action) {
     case EditAction::kCopy:
       return QKeySequence::Copy;
     case EditAction::kPaste:
+      return QKeySequence::Paste;
+    // The toolkit's own.
+    case EditAction::kDelete:
       break;
   }
-  return QKeySequence::Paste;
+  return QKeySequence::UnknownKey;
 }
 
 void Do(const EditCommand& command, TextEdit& text) {

@@ -191,6 +191,8 @@ void FieldWidget::mouseReleaseEvent(QMouseEvent* event) {
   const QClipboard* clipboard = QGuiApplication::clipboard();
   if (event->button() != Qt::MiddleButton) {
     QLineEdit::mouseReleaseEvent(event);
+    const bool clicked = event->button() == Qt::LeftButton && rect().contains(event->pos());
+    if (clicked && IsUsersDoing()) TheControl().Window()->UserClicked(Self(&TheControl()));
   } else if (IsUsersDoing() && clipboard->supportsSelection()) {
     ReportPaste(clipboard->text(QClipboard::Selection));
   }

@@ -15,9 +15,9 @@ struct ControlCode {
   char code;
 };
 constexpr std::array kControlCodes{
-    ControlCode{"Backspace", kBackspace},  ControlCode{"Tab", kTab},
-    ControlCode{"Enter", kReturn},         ControlCode{"Escape", kEscape},
-    ControlCode{"Delete", kForwardDelete},
+    ControlCode{"Tab", kTab},
+    ControlCode{"Enter", kReturn},
+    ControlCode{"Escape", kEscape},
 };
 
 struct CodedKey {
@@ -61,13 +61,17 @@ std::optional<Key> ToKey(const PageReport& report, bool on_mac) {
   if (std::find(kModifiers.begin(), kModifiers.end(), name) != kModifiers.end())
     return std::nullopt;
   Key key{KeyCode::kOther, "", report.shift, IsCommand(report, on_mac)};
+  if (name == "Backspace" || name == "Delete") {
+    key.word = on_mac ? report.alt : key.command;
+    key.command = false;
+    key.code = name == "Delete" ? KeyCode::kDelete : KeyCode::kCharacter;
+    if (name == "Backspace") key.text = std::string(1, kBackspace);
+    return key;
+  }
   for (const auto& [control_name, code] : kControlCodes) {
     if (control_name != name) continue;
     key.code = KeyCode::kCharacter;
     key.text = std::string(1, code);
-    if (code != kBackspace && code != kForwardDelete) return key;
-    key.word = on_mac ? report.alt : key.command;
-    key.command = false;
     return key;
   }
   // With Alt a key is the browser's. On a Mac that makes other characters and goes by words, and

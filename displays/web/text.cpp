@@ -14,16 +14,14 @@ namespace {
 // An edit that the browser is about to make, and the key that means the same.
 struct EditKey {
   std::string_view kind;
+  // A control code; 0 for a forward delete.
   char code;
   bool word;
 };
 constexpr std::array kEditKeys{
-    EditKey{"insertLineBreak", kReturn, false},
-    EditKey{"insertParagraph", kReturn, false},
-    EditKey{"deleteContentBackward", kBackspace, false},
-    EditKey{"deleteContentForward", kForwardDelete, false},
-    EditKey{"deleteWordBackward", kBackspace, true},
-    EditKey{"deleteWordForward", kForwardDelete, true},
+    EditKey{"insertLineBreak", kReturn, false},          EditKey{"insertParagraph", kReturn, false},
+    EditKey{"deleteContentBackward", kBackspace, false}, EditKey{"deleteContentForward", 0, false},
+    EditKey{"deleteWordBackward", kBackspace, true},     EditKey{"deleteWordForward", 0, true},
 };
 
 // These are about another part of the text than what is selected.
@@ -136,7 +134,8 @@ PageAnswer WebText::TakeEdit(const PageReport& report) {
   }
   for (const EditKey& edit : kEditKeys) {
     if (edit.kind != report.text) continue;
-    Key key = Key::Character(std::string(1, edit.code));
+    Key key{KeyCode::kDelete};
+    if (edit.code != 0) key = Key::Character(std::string(1, edit.code));
     key.word = edit.word;
     Window().Shown().UserPressedKey(key);
   }

@@ -7,7 +7,10 @@ namespace {
 
 std::string NameOfCharacter(const std::string& character) {
   static const std::map<std::string, std::string> kNames{
-      {"\b", "BackSpace"}, {"\t", "Tab"}, {"\r", "Return"}, {"\x1b", "Escape"}, {"\x7f", "Delete"},
+      {"\b", "BackSpace"},
+      {"\t", "Tab"},
+      {"\r", "Return"},
+      {"\x1b", "Escape"},
   };
   const auto found = kNames.find(character);
   return found == kNames.end() ? "" : found->second;
@@ -17,9 +20,11 @@ std::string NameOfCharacter(const std::string& character) {
 
 std::string NameOf(const Key& key) {
   static const std::map<KeyCode, std::string> kCoded{
-      {KeyCode::kLeft, "Left"}, {KeyCode::kRight, "Right"},    {KeyCode::kUp, "Up"},
-      {KeyCode::kDown, "Down"}, {KeyCode::kPageUp, "Page_Up"}, {KeyCode::kPageDown, "Page_Down"},
-      {KeyCode::kHome, "Home"}, {KeyCode::kEnd, "End"},        {KeyCode::kHelp, "F1"},
+      {KeyCode::kLeft, "Left"},      {KeyCode::kRight, "Right"},
+      {KeyCode::kUp, "Up"},          {KeyCode::kDown, "Down"},
+      {KeyCode::kPageUp, "Page_Up"}, {KeyCode::kPageDown, "Page_Down"},
+      {KeyCode::kHome, "Home"},      {KeyCode::kEnd, "End"},
+      {KeyCode::kHelp, "F1"},        {KeyCode::kDelete, "Delete"},
       {KeyCode::kOther, "F5"},
   };
   static const std::map<std::string, std::string> kSigns{{"+", "plus"}, {"-", "minus"}};

@@ -92,8 +92,12 @@ class RectControl : public Control {
   // Called by the window when a key comes while this control has the focus. True: the key has been
   // dealt with. False: it is free for the window, and then for the display.
   virtual bool TakeKey(const Key& /*key*/) { return false; }
-  // Called by the window when Tab has brought the focus here.
+  // Called by the window when Tab has brought the focus here, or a click that was no drag.
   virtual void EnteredByTab() {}
+  virtual void EnteredByClick() {}
+  // Called by the window with a text that an input method has typed as a whole, in valid UTF-8: the
+  // characters that are then typed one by one.
+  virtual std::string Typed(std::string_view text) const { return std::string(text); }
 
   // Called once by the window: makes the control's part on the display, by the one call of
   // `window_view` that is for controls of this class.

@@ -19,6 +19,8 @@ enum class KeyCode {
   kHome,
   kEnd,
   kHelp,
+  // Deletes forward. Like an arrow key it is a command to the text, so no key filter sees it.
+  kDelete,
   kOther
 };
 
@@ -27,15 +29,14 @@ inline constexpr char kBackspace = 8;
 inline constexpr char kTab = 9;
 inline constexpr char kReturn = 13;
 inline constexpr char kEscape = 27;
-inline constexpr char kForwardDelete = 127;
 
-// One press of a key that is not a bare modifier. A display makes it; the toolkit decides what it
-// does.
+// One press of a key that is not a bare modifier; a dead key is one without a character. A display
+// makes it; the toolkit decides what it does.
 struct Key {
   KeyCode code = KeyCode::kCharacter;
   // The character, as UTF-8: printable, or one of the control codes above. Empty where `code` is
   // something else than kCharacter.
-  std::string text;
+  std::string text = {};
   bool shift = false;
   // Held with the platform's command key: Cmd on macOS, Ctrl elsewhere. `text` is then the bare
   // letter in lower case.
@@ -43,6 +44,8 @@ struct Key {
   // A backspace or forward delete that takes a word, as the platform has it: with Option on macOS,
   // with Ctrl elsewhere.
   bool word = false;
+  // The key is held down and repeats by itself.
+  bool repeat = false;
 
   static Key Character(std::string text) { return {KeyCode::kCharacter, std::move(text)}; }
   static Key Command(std::string letter) {

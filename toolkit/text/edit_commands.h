@@ -9,7 +9,7 @@
 
 namespace vamo {
 
-enum class EditAction { kUndo, kCut, kCopy, kPaste };
+enum class EditAction { kUndo, kCut, kCopy, kPaste, kDelete };
 
 struct EditCommand {
   EditAction action;
@@ -26,6 +26,8 @@ inline constexpr std::array kEditCommands{
     EditCommand{EditAction::kCut, "EditCut", "Cut", &TextEdit::CanCut, &TextEdit::Cut},
     EditCommand{EditAction::kCopy, "EditCopy", "Copy", &TextEdit::CanCopy, &TextEdit::Copy},
     EditCommand{EditAction::kPaste, "EditPaste", "Paste", &TextEdit::CanPaste, &TextEdit::Paste},
+    EditCommand{EditAction::kDelete, "EditClear", "Delete", &TextEdit::CanDelete,
+                &TextEdit::Delete},
 };
 
 }  // namespace vamo

@@ -6,6 +6,7 @@
 
 #include "toolkit/control/properties.h"
 #include "toolkit/runtime/runtime.h"
+#include "toolkit/text/received_text.h"
 #include "toolkit/utf8.h"
 
 namespace vamo {
@@ -74,6 +75,7 @@ void TextEdit::SetText(std::string_view text) {
   if (!in_users_edit_) history_.clear();
   text_ = std::move(valid);
   selection_ = {CaretAfterWrite(), CaretAfterWrite()};
+  ++revision_;
   Changed();
   RaiseTextChange();
 }
@@ -100,6 +102,10 @@ void TextEdit::Cut() {
   ReplaceSelection("");
 }
 
+void TextEdit::Delete() {
+  if (CanDelete()) ReplaceSelection("");
+}
+
 void TextEdit::Copy() {
   if (CanCopy())
     Runtime::Current().Display().SetClipboardText(WithLineBreaksAs('\n', TextToCopy()));
@@ -116,15 +122,19 @@ void TextEdit::UserSelected(std::size_t anchor, std::size_t caret) {
   const vamo::Selection selected{CharacterBoundary(text_, anchor), CharacterBoundary(text_, caret)};
   if (selected == selection_) return;
   selection_ = selected;
+  ++revision_;
   Changed();
 }
 
 void TextEdit::UserPasted(std::string_view text) {
   Runtime::Current().Dispatch([this, self = Self(this), text] {
-    if (read_only_ || !Enabled()) return;
-    // So that two numbers do not become one.
-    ReplaceSelection(WithLineBreaksAs(' ', ValidUtf8(text)));
+    if (!read_only_ && Enabled()) ReplaceSelection(Received(ValidUtf8(text)));
   });
+}
+
+// A line break becomes a space, so that two numbers do not become one.
+std::string TextEdit::Received(std::string_view text) const {
+  return WithPlainSpaces(WithLineBreaksAs(' ', text));
 }
 
 void TextEdit::ReplaceSelection(std::string_view text) {
@@ -162,6 +172,7 @@ void TextEdit::DeleteTo(std::size_t end) {
 void TextEdit::Restore(State state) {
   text_ = std::move(state.text);
   selection_ = state.selection;
+  ++revision_;
   Changed();
   const ScopedFlag users_edit(in_users_edit_);
   RaiseTextChange();

@@ -2,6 +2,7 @@
 #define VAMO_TOOLKIT_TEXT_TEXT_EDIT_H_
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,24 +42,30 @@ class TextEdit : public TextControl {
   TextAlignment Alignment() const { return alignment_; }
   bool HasBorder() const { return has_border_; }
 
-  // The Edit commands. One that cannot act does nothing.
+  // The Edit commands. One that cannot act does nothing. Delete takes the selection alone.
   bool CanUndo() const { return !read_only_ && !history_.empty(); }
   bool CanCut() const { return !read_only_ && !SelectedText().empty(); }
   bool CanCopy() const { return !TextToCopy().empty(); }
   bool CanPaste() const;
+  bool CanDelete() const { return CanCut(); }
   void Undo();
   void Cut();
   void Copy();
   void Paste();
+  void Delete();
 
   // The user has moved the caret or selected text. Offsets that lie past the end or inside a
   // character are moved to the boundary before.
   void UserSelected(std::size_t anchor, std::size_t caret);
-  // The user has pasted or dropped a text over the selection. It goes in as it is, but for broken
-  // UTF-8 and for line breaks, which become a blank each; no filter, mask or limit holds.
+  // The user has pasted or dropped a text over the selection, or assistive technology has set it.
+  // It goes in as `Received` gives it; no filter, mask or limit holds.
   void UserPasted(std::string_view text);
 
  protected:
+  // What becomes of a pasted text: spaces, tabs and line breaks of all kinds are plain spaces.
+  virtual std::string Received(std::string_view text) const;
+  // Counts the changes of text and selection.
+  std::uint64_t Revision() const { return revision_; }
   // What Copy takes; with line ends of any kind.
   virtual std::string_view TextToCopy() const { return SelectedText(); }
   virtual std::size_t CaretAfterWrite() const { return text_.size(); }
@@ -85,6 +92,7 @@ class TextEdit : public TextControl {
   std::string text_;
   vamo::Selection selection_;
   std::vector<State> history_;
+  std::uint64_t revision_ = 0;
   bool in_users_edit_ = false;
   bool read_only_ = false;
   Colour text_colour_;

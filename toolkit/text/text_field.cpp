@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <utility>
 
 #include "toolkit/control/properties.h"
 #include "toolkit/runtime/runtime.h"
+#include "toolkit/text/received_text.h"
 #include "toolkit/utf8.h"
 
 namespace vamo {
@@ -41,20 +43,39 @@ std::size_t WordAfter(std::string_view text, std::size_t at) {
 }  // namespace
 
 bool TextField::TakeKey(const Key& key) {
-  if (key.code != KeyCode::kCharacter || key.text.empty()) return false;
-  if (KeyDown && KeyDown.Invoke(Self(this), key.text)) return true;
-  const auto code = static_cast<unsigned char>(key.text[0]);
-  if (code == kTab) return false;
-  if (ReadOnly()) return true;
-  const std::size_t caret = Selection().caret;
-  if (code == kBackspace) {
-    DeleteTo(key.word ? WordBefore(Text(), caret) : PreviousCharacter(Text(), caret));
-  } else if (code == kForwardDelete) {
-    DeleteTo(key.word ? WordAfter(Text(), caret) : NextCharacter(Text(), caret));
-  } else if (code >= ' ') {
-    Type(key.text);
+  if (Revision() != last_revision_) typist_.Forget();
+  bool taken = false;
+  if (key.code == KeyCode::kCharacter && !key.text.empty()) {
+    taken = TakeCharacter(key);
+  } else {
+    typist_.Forget();
+    // With shift it is the platform's key for Cut.
+    taken = key.code == KeyCode::kDelete && !key.shift;
+    if (taken && !ReadOnly()) {
+      const std::size_t caret = Selection().caret;
+      DeleteTo(key.word ? WordAfter(Text(), caret) : NextCharacter(Text(), caret));
+    }
   }
-  return true;
+  last_revision_ = Revision();
+  return taken;
+}
+
+bool TextField::TakeCharacter(const Key& key) {
+  if (KeyDown && KeyDown.Invoke(Self(this), key.text)) {
+    typist_.Refused(key.text);
+    return true;
+  }
+  const auto code = static_cast<unsigned char>(key.text[0]);
+  if (code >= ' ' && !ReadOnly()) {
+    Type(key.text);
+    return true;
+  }
+  typist_.Forget();
+  if (code == kBackspace && !ReadOnly()) {
+    const std::size_t caret = Selection().caret;
+    DeleteTo(key.word ? WordBefore(Text(), caret) : PreviousCharacter(Text(), caret));
+  }
+  return code != kTab;
 }
 
 void TextField::Type(std::string_view character) {
@@ -62,12 +83,28 @@ void TextField::Type(std::string_view character) {
   const std::string_view text = Text();
   const std::size_t end = std::max(anchor, caret);
   const auto typed =
-      Typed(text.substr(0, std::min(anchor, caret)), text.substr(end), character, rule_);
+      typist_.Type(text.substr(0, std::min(anchor, caret)), text.substr(end), character, rule_);
   if (typed.has_value()) {
     Replace(0, end, *typed);
   } else {
     Beep();
   }
+}
+
+void TextField::EnteredByClick() {
+  if (SelectedText().empty()) EnteredByTab();
+}
+
+std::string TextField::Received(std::string_view text) const {
+  std::string received = TextEdit::Received(text);
+  if (HasDigits(rule_)) received = WithAsciiDigits(received);
+  return HasPoint(rule_) ? WithDecimalPoint(std::move(received)) : received;
+}
+
+// The decimal key of a keyboard on the screen may be a comma, since it does not know the field.
+std::string TextField::Typed(std::string_view text) const {
+  if (HasPoint(rule_) && text == ",") return ".";
+  return Received(text);
 }
 
 void TextField::RaiseTextChange() {

@@ -1,6 +1,7 @@
 #ifndef VAMO_TOOLKIT_TEXT_TEXT_FIELD_H_
 #define VAMO_TOOLKIT_TEXT_TEXT_FIELD_H_
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -28,18 +29,28 @@ class TextField : public TextEdit {
   bool Password() const { return password_; }
 
   bool TakeKey(const Key& key) override;
+  // Selects all, so that the next key begins a new number; a double click has selected already.
   void EnteredByTab() override { UserSelected(0, Text().size()); }
+  void EnteredByClick() override;
+  std::string Typed(std::string_view text) const override;
 
  protected:
   std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
   bool TakesKeys() const override { return true; }
   void RaiseTextChange() override;
+  // In a field whose mask wants digits those of all scripts are digits; in one that wants a point,
+  // a decimal comma is one.
+  std::string Received(std::string_view text) const override;
 
  private:
   struct Properties;
+  bool TakeCharacter(const Key& key);
   void Type(std::string_view character);
 
   TypingRule rule_;
+  Typist typist_;
+  // The revision after the last key.
+  std::uint64_t last_revision_ = 0;
   std::string hint_;
   bool password_ = false;
 };

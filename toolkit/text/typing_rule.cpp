@@ -8,6 +8,7 @@ namespace vamo {
 namespace {
 
 constexpr std::string_view kDigitPlace = "#";
+constexpr std::string_view kPoint = ".";
 
 bool IsDigit(std::string_view character) {
   return character.size() == 1 && character[0] >= '0' && character[0] <= '9';
@@ -71,6 +72,30 @@ std::optional<std::string> Typed(std::string_view before, std::string_view after
   if (rule.maximum_characters > 0 && CharacterCount(whole) > maximum) return std::nullopt;
   return typed;
 }
+
+std::optional<std::string> Typist::Type(std::string_view before, std::string_view after,
+                                        std::string_view character, const TypingRule& rule) {
+  const bool continues_zeros = before.empty() || typed_ == LastTyped::kWholeZeros;
+  const bool after_comma = typed_ == LastTyped::kCommaAfterZeros && IsDigit(character);
+  const auto with_point = after_comma ? Typed(before, after, kPoint, rule) : std::nullopt;
+  std::optional<std::string> typed =
+      Typed(with_point.value_or(std::string(before)), after, character, rule);
+  if (!typed.has_value()) {
+    Refused(character);
+  } else {
+    typed_ = continues_zeros && character == "0" ? LastTyped::kWholeZeros : LastTyped::kOther;
+  }
+  return typed;
+}
+
+void Typist::Refused(std::string_view character) {
+  const bool is_comma = character == "," && typed_ != LastTyped::kOther;
+  typed_ = is_comma ? LastTyped::kCommaAfterZeros : LastTyped::kOther;
+}
+
+bool HasDigits(const TypingRule& rule) { return rule.mask.find(kDigitPlace) != std::string::npos; }
+
+bool HasPoint(const TypingRule& rule) { return rule.mask.find(kPoint) != std::string::npos; }
 
 KeyboardKind KeyboardFor(const TypingRule& rule) {
   constexpr std::string_view kNumberPlaces = "#.-";

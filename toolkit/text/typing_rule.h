@@ -27,6 +27,30 @@ struct TypingRule {
 std::optional<std::string> Typed(std::string_view before, std::string_view after,
                                  std::string_view character, const TypingRule& rule);
 
+// Types one character after the other, and knows what the last ones mean together. In a field with
+// a point, who types "0,5" means ".5", although a comma is refused: once nothing but zeros stands
+// before the caret, typed as whole digits, a digit after the comma goes in as if the comma had been
+// the point.
+class Typist {
+ public:
+  // As the function `Typed` above.
+  std::optional<std::string> Type(std::string_view before, std::string_view after,
+                                  std::string_view character, const TypingRule& rule);
+  // A key filter has refused the character.
+  void Refused(std::string_view character);
+  // The text or the caret has changed otherwise, or another key has come.
+  void Forget() { typed_ = LastTyped::kOther; }
+
+ private:
+  enum class LastTyped { kOther, kWholeZeros, kCommaAfterZeros };
+
+  LastTyped typed_ = LastTyped::kOther;
+};
+
+// Whether the mask wants digits, and a decimal point.
+bool HasDigits(const TypingRule& rule);
+bool HasPoint(const TypingRule& rule);
+
 // What a keyboard on the screen has to offer for a field: all characters, those of numbers, with
 // point and sign, or digits alone.
 enum class KeyboardKind { kAll, kNumber, kDigits };

@@ -65,9 +65,9 @@ class Window : public Object {
   // Makes the window invisible. It stays live, with its state.
   virtual void Hide();
   virtual void SetFocus(const Ref<RectControl>& control);
-  // Makes the window visible, brings it to the front and gives it the focus. A window that is
-  // visible already stays where it is, minimised perhaps, when a timer shows it: only the user may
-  // be taken away from what he is typing into.
+  // Makes the window visible, brings it to the front and gives it the focus. When a timer shows it,
+  // a window that is visible already stays where it is, minimised perhaps, and one that is not gets
+  // the focus only from another window of this program.
   virtual void Show();
   // Enters a control, or another child, in the window under its name.
   virtual void _AddControl(std::string_view name, const Ref<Object>& child);
@@ -178,13 +178,24 @@ class Window : public Object {
   // The close button, or what stands for it.
   void UserAskedToClose();
   // A key. True: it has been dealt with. False: the display may do what its platform does with it.
+  // The repeats of a key that has dismissed another window do nothing.
   bool UserPressedKey(const Key& key);
-  // Text that came as a whole, for example from an input method: taken as keys, one by one.
+  // Text from an input method, from dictation or from a keyboard on the screen: taken as keys, one
+  // by one.
   void UserTyped(std::string_view text);
+  // A press of any mouse button, or of a finger, begins somewhere in the window; to be reported
+  // before all that comes of it. `repeat`: it follows another press as in a double click. The
+  // window becomes the active one first, so that the press acts on an active window, whichever the
+  // platform reports first. False: the press before has dismissed another window, and the display
+  // ignores this one.
+  bool UserBeginsPress(bool repeat);
   // The mouse has gone down, on no enabled control that takes it. Window coordinates.
   void UserPressedMouse(std::int64_t x, std::int64_t y);
   // The user has brought the focus to a control, for example with the mouse.
   void UserFocused(const Ref<RectControl>& control);
+  // A press on a control has ended there. The press that has brought the focus enters the control
+  // as Tab does.
+  void UserClicked(const Ref<RectControl>& control);
 
  private:
   struct Child {
@@ -206,6 +217,8 @@ class Window : public Object {
   bool has_been_shown_ = false;
   std::vector<Child> children_;
   Ref<RectControl> focus_;
+  // Whether the present press has brought the focus to `focus_`.
+  bool entered_by_press_ = false;
   Ref<class MenuBar> menu_bar_;
   vamo::MenuHandlers menu_handlers_;
   Announcer announcer_{*this};

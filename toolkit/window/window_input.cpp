@@ -4,16 +4,35 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "toolkit/control/push_button.h"
 #include "toolkit/runtime/runtime.h"
+#include "toolkit/text/received_text.h"
 #include "toolkit/utf8.h"
 #include "toolkit/window/menu_service.h"
 #include "toolkit/window/window.h"
 
 namespace vamo {
+
+// The windows in which the present gestures of mouse and keyboard have begun. What is left of a
+// gesture that has dismissed its window is not meant for the window that comes up behind it.
+struct GestureFields {
+  WeakRef<Window> pressed;
+  WeakRef<Window> typed;
+};
+
 namespace {
+
+// Whether an act on `window` counts. `begun_in` is where its gesture began.
+bool Continues(WeakRef<Window>& begun_in, const Ref<Window>& window, bool repeat) {
+  if (!repeat) begun_in = WeakRef(window);
+  const Ref<Window> first = begun_in.Value();
+  return first && (first == window || first->Visible());
+}
+
+GestureFields& Gestures() { return Runtime::Current().ModuleFields<GestureFields>(); }
 
 bool ClosesWindow(const Key& key) {
   return key.command ? key.text == "w" : key.text == std::string_view(&kEscape, 1);
@@ -41,15 +60,19 @@ void Window::UserAskedToClose() {
 }
 
 bool Window::UserPressedKey(const Key& key) {
+  if (!Continues(Gestures().typed, Self(this), key.repeat)) return true;
   bool dealt_with = false;
-  Runtime::Current().Dispatch([&, self = Self(this)] { dealt_with = TakeKey(key); });
+  Key received = key;
+  received.text = WithAsciiDigits(key.text);
+  Runtime::Current().Dispatch([&, self = Self(this)] { dealt_with = TakeKey(received); });
   return dealt_with;
 }
 
 void Window::UserTyped(std::string_view text) {
   // A key may close the window; then the rest of the text has nowhere to go.
   const Ref<Window> self = Self(this);
-  const std::string valid = ValidUtf8(text);
+  std::string valid = ValidUtf8(text);
+  if (focus_) valid = focus_->Typed(valid);
   for (std::size_t at = 0; at < valid.size() && IsLive();) {
     const std::size_t next = NextCharacter(valid, at);
     UserPressedKey(Key::Character(valid.substr(at, next - at)));
@@ -119,12 +142,27 @@ void Window::SetFocus(const Ref<RectControl>& control) {
   if (view_ != nullptr) view_->UpdateFocus();
 }
 
+bool Window::UserBeginsPress(bool repeat) {
+  const Ref<Window> self = Self(this);
+  if (!Continues(Gestures().pressed, self, repeat)) return false;
+  Runtime& runtime = Runtime::Current();
+  entered_by_press_ = runtime.ActiveWindow() != self;
+  UserActivated();
+  return true;
+}
+
 void Window::UserPressedMouse(std::int64_t x, std::int64_t y) {
   Runtime::Current().Dispatch([&, self = Self(this)] { Event_MouseDown(x, y); });
 }
 
 void Window::UserFocused(const Ref<RectControl>& control) {
-  if (control->CanTakeFocus()) SetFocus(control);
+  if (!control->CanTakeFocus() || focus_ == control) return;
+  entered_by_press_ = true;
+  SetFocus(control);
+}
+
+void Window::UserClicked(const Ref<RectControl>& control) {
+  if (std::exchange(entered_by_press_, false) && focus_ == control) control->EnteredByClick();
 }
 
 }  // namespace vamo
