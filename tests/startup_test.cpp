@@ -292,6 +292,12 @@ TEST_F(ProgramTest, TheSplashGoesThroughItsStates) {
     EXPECT_FALSE(AboutWnd() == about);
   });
   InProgram([](HeadlessUser& user) {
+    user.SwitchAway();
+    user.LetTimePass(4000ms);
+    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
+    EXPECT_EQ(user.ActiveTitle(), "") << "the user types into another program";
+  });
+  InProgram([](HeadlessUser& user) {
     user.PressKey(Key::Character("x"));
     user.Choose("Window/About Vamo");
     user.LetTimePass(3999ms);

@@ -90,8 +90,9 @@ std::unique_ptr<ControlView> HeadlessWindow::CreateControl(TextField& field) {
                                            [&](ShownControl& shown) { CopyText(field, shown); });
 }
 
-void HeadlessWindow::Show() {
+void HeadlessWindow::Show(bool activate) {
   on_screen_ = true;
+  if (!activate) return;
   // A screen activates a window when it comes around to it, not while the program asks for it.
   display_.Post([&display = display_, window = WeakRef(Self(&window_))] {
     const Ref<vamo::Window> shown = window.Value();

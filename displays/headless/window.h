@@ -51,7 +51,7 @@ class HeadlessWindow : public WindowView {
   std::unique_ptr<ControlView> CreateControl(Slider& slider) override;
   std::unique_ptr<ControlView> CreateControl(TextArea& area) override;
   std::unique_ptr<ControlView> CreateControl(TextField& field) override;
-  void Show() override;
+  void Show(bool activate) override;
   void Hide() override { on_screen_ = false; }
   void UpdateFocus() override;
 

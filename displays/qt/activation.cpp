@@ -23,6 +23,11 @@ Activation::Activation() {
   QObject::connect(&patience_, &QTimer::timeout, [this] { GiveUp(); });
 }
 
+void Activation::Pressed(WindowWidget& window) {
+  if (awaited_ != &window) awaited_ = nullptr;
+  if (!window.isActiveWindow()) window.activateWindow();
+}
+
 void Activation::Await(WindowWidget& window) {
   if (window.isActiveWindow()) {
     Activated(window);

@@ -16,6 +16,9 @@ class Activation {
  public:
   Activation();
 
+  // A press has begun in the window, which the toolkit takes for the active one by now. Where no
+  // window manager does it, the program itself must make it so.
+  void Pressed(WindowWidget& window);
   // The window has been brought up and is to have the keys.
   void Await(WindowWidget& window);
   // What the platform says.

@@ -49,7 +49,8 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
       zoom_(zoom),
       factor_(zoom.Factor()),
       content_(new ContentWidget(*this)),
-      keys_(*this) {
+      keys_(*this),
+      presses_(*this, activation) {
   setWindowTitle(ToQString(window.ListedTitle()));
   setObjectName(ToQString(window.Class()->name));
   auto* layout = new QVBoxLayout(this);
@@ -106,12 +107,14 @@ void WindowWidget::Add(ControlWidget& widget) {
   keys_.Watch(widget.AsWidget());
 }
 
-void WindowWidget::BringToFront() {
+void WindowWidget::PutOnScreen(bool activate) {
   if (window_ != nullptr) Place(*this, window_->WhereToShow());
   if (!isVisible()) just_placed_ = true;
   ShowFocus();
   setWindowState(windowState() & ~Qt::WindowMinimized);
+  setAttribute(Qt::WA_ShowWithoutActivating, !activate);
   show();
+  if (!activate) return;
   raise();
   activateWindow();
   // Qt can take a window for active all through a quick Hide and Show, and then reports no change.
@@ -144,6 +147,7 @@ bool WindowWidget::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate && std::exchange(just_placed_, false)) {
     KeepOnScreen(*this);
   }
+  if (event->type() == QEvent::WinIdChange) presses_.WatchPlatformWindow();
   if (event->type() == QEvent::WindowActivate) activation_.Activated(*this);
   if (event->type() == QEvent::WindowDeactivate) activation_.Deactivated(*this);
   return QWidget::event(event);
@@ -209,9 +213,9 @@ std::unique_ptr<ControlView> QtWindowView::CreateControl(TextField& field) {
   return Create<FieldWidget>(field);
 }
 
-void QtWindowView::Show() {
-  widget_->BringToFront();
-  activation_.Await(*widget_);
+void QtWindowView::Show(bool activate) {
+  widget_->PutOnScreen(activate);
+  if (activate) activation_.Await(*widget_);
 }
 
 }  // namespace vamo

@@ -9,6 +9,7 @@
 #include "displays/qt/activation.h"
 #include "displays/qt/content.h"
 #include "displays/qt/keys.h"
+#include "displays/qt/presses.h"
 #include "displays/qt/zoom.h"
 #include "toolkit/runtime/display.h"
 
@@ -39,7 +40,8 @@ class WindowWidget : public QWidget {
   ContentWidget& Content() { return *content_; }
   // Adds a control's new widget, whose parent is the content.
   void Add(ControlWidget& widget);
-  void BringToFront();
+  // Puts the window on the screen; with `activate` in front and with the focus.
+  void PutOnScreen(bool activate);
   void TakeAway();
   // Sends the keys where the toolkit has its focus.
   void ShowFocus();
@@ -61,6 +63,7 @@ class WindowWidget : public QWidget {
   double factor_;
   ContentWidget* content_;
   KeyRouter keys_;
+  PressRouter presses_;
   QMenuBar* menu_bar_ = nullptr;
   bool just_placed_ = false;
 };
@@ -81,7 +84,7 @@ class QtWindowView : public WindowView {
   std::unique_ptr<ControlView> CreateControl(Slider& slider) override;
   std::unique_ptr<ControlView> CreateControl(TextArea& area) override;
   std::unique_ptr<ControlView> CreateControl(TextField& field) override;
-  void Show() override;
+  void Show(bool activate) override;
   void Hide() override { widget_->TakeAway(); }
   void UpdateFocus() override { widget_->ShowFocus(); }
 

@@ -117,7 +117,8 @@ void WebWindow::PlaceForFingers() {
   content_.SetStyle("--finger-height", std::to_string(rows.pitch));
 }
 
-void WebWindow::Show() {
+// Another window of the page is always active, so this one may be.
+void WebWindow::Show(bool /*activate*/) {
   if (!std::exchange(has_been_shown_, true)) {
     LinkCaptions();
     PlaceForFingers();

@@ -28,7 +28,7 @@ class WebWindow : public WindowView {
   std::unique_ptr<ControlView> CreateControl(Slider& slider) override;
   std::unique_ptr<ControlView> CreateControl(TextArea& area) override;
   std::unique_ptr<ControlView> CreateControl(TextField& field) override;
-  void Show() override;
+  void Show(bool activate) override;
   void Hide() override;
   void UpdateFocus() override;
 

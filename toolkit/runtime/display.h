@@ -54,9 +54,10 @@ class WindowView {
   virtual std::unique_ptr<ControlView> CreateControl(TextArea& area) = 0;
   virtual std::unique_ptr<ControlView> CreateControl(TextField& field) = 0;
 
-  // Called by Window::Show: must bring the window on the screen, in front, as the active window,
-  // and report the activation with Window::UserActivated once it has taken place.
-  virtual void Show() = 0;
+  // Called by Window::Show: must bring the window on the screen. With `activate`, in front and as
+  // the active window, and must report the activation with Window::UserActivated once it has taken
+  // place. Without, the keyboard focus stays with the program that has it.
+  virtual void Show(bool activate) = 0;
 
   // Called by Window::Hide: must take the window off the screen and keep it for a later Show.
   virtual void Hide() = 0;

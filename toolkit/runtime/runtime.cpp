@@ -59,6 +59,7 @@ void Runtime::DeregisterFileType(const FileType& type) {
 
 void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
   const Cause outer = std::exchange(event_cause_, cause);
+  const bool outer_had = std::exchange(had_active_window_, static_cast<bool>(active_window_));
   try {
     if (const std::exception_ptr exception = exception_helper_(event)) TakeException(exception);
   } catch (...) {
@@ -67,6 +68,7 @@ void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
     End(1);
   }
   event_cause_ = outer;
+  had_active_window_ = outer_had;
 }
 
 void Runtime::TakeException(const std::exception_ptr& exception) {

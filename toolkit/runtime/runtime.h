@@ -97,6 +97,9 @@ class Runtime {
   void Dispatch(const std::function<void()>& event, Cause cause = Cause::kUser);
   // The cause of the event that runs; the user where none does.
   Cause EventCause() const { return event_cause_; }
+  // Whether the event that runs may give a window the keyboard focus. One that a timer has caused
+  // may not take the focus from another program, which the user is typing into.
+  bool MayActivate() const { return event_cause_ == Cause::kUser || had_active_window_; }
 
   // Takes the user's events until End, as the display has it; returns at once where End has been
   // called already.
@@ -125,6 +128,8 @@ class Runtime {
   ExceptionHelper exception_helper_;
   std::exception_ptr raised_again_;
   Cause event_cause_ = Cause::kUser;
+  // Whether a window of this program was the active one when the event began.
+  bool had_active_window_ = false;
   bool supports_hidpi_ = false;
   bool ending_ = false;
   std::int32_t exit_code_ = 0;

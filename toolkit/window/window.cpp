@@ -81,9 +81,10 @@ std::string Window::ListedTitle() const {
 void Window::Show() {
   _UITrap();
   if (!IsLive()) return;
-  if (visible_ && Runtime::Current().EventCause() != Runtime::Cause::kUser) return;
+  const Runtime& runtime = Runtime::Current();
+  if (visible_ && runtime.EventCause() != Runtime::Cause::kUser) return;
   visible_ = true;
-  view_->Show();
+  view_->Show(runtime.MayActivate());
   has_been_shown_ = true;
 }
 
