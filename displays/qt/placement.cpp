@@ -1,6 +1,7 @@
 #include "displays/qt/placement.h"
 
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
 #include <algorithm>
 
@@ -16,7 +17,19 @@ QWidget* WidgetOf(const Ref<Window>& window) {
   return nullptr;
 }
 
-QRect Available(const QWidget& window) { return window.screen()->availableGeometry(); }
+// What the platform draws around a window, as far as it has said.
+QMargins FrameOf(const QWidget& window) {
+  const bool framed = !window.windowFlags().testFlag(Qt::FramelessWindowHint);
+  return framed && window.windowHandle() != nullptr ? window.windowHandle()->frameMargins()
+                                                    : QMargins();
+}
+
+// Of the screen on which the middle of a window lies. The window system may still name another one
+// for a window that has just been placed.
+QRect Available(const QWidget& window) {
+  const QScreen* at = window.screen()->virtualSiblingAt(window.geometry().center());
+  return (at == nullptr ? window.screen() : at)->availableGeometry();
+}
 
 QRect MovedInto(const QRect& screen, QRect frame) {
   frame.moveRight(std::min(frame.right(), screen.right()));
@@ -26,27 +39,32 @@ QRect MovedInto(const QRect& screen, QRect frame) {
   return frame;
 }
 
+// Puts a window with a frame around it there, as far as both then lie on the screen.
+void PutInto(const QRect& screen, QWidget& window, const QRect& place, const QMargins& frame) {
+  const QRect moved = MovedInto(screen, place.marginsAdded(frame)).marginsRemoved(frame);
+  if (moved != window.geometry()) window.setGeometry(moved);
+}
+
 void PlaceOver(QWidget& window, const QPoint& middle, const QRect& screen) {
   QRect place(QPoint(), window.size());
   place.moveCenter(middle);
-  // Without the frame, of which nothing is known before the window is on the screen.
-  window.setGeometry(MovedInto(screen, place));
+  PutInto(screen, window, place, FrameOf(window));
 }
 
 void PlaceBeside(QWidget& window, const QWidget& other) {
-  const QRect neighbour = other.frameGeometry();
   const QRect screen = Available(other);
   // Its frame will be like that of the other one.
-  QRect place(neighbour.topLeft(), window.size() + neighbour.size() - other.size());
-  if (neighbour.right() + place.width() <= screen.right()) {
+  const QMargins frame = FrameOf(other);
+  const QRect neighbour = other.geometry().marginsAdded(frame);
+  QRect place(neighbour.topLeft(), window.size().grownBy(frame));
+  const int room_right = screen.right() - neighbour.right();
+  const int room_left = neighbour.left() - screen.left();
+  if (room_right >= std::min(place.width(), room_left)) {
     place.moveLeft(neighbour.right() + 1);
-  } else if (neighbour.left() - place.width() >= screen.left()) {
-    place.moveRight(neighbour.left() - 1);
   } else {
-    return;
+    place.moveRight(neighbour.left() - 1);
   }
-  const QPoint in_frame = other.geometry().topLeft() - neighbour.topLeft();
-  window.setGeometry(QRect(MovedInto(screen, place).topLeft() + in_frame, window.size()));
+  PutInto(screen, window, place.marginsRemoved(frame), frame);
 }
 
 // The platform's end of a window, which is made for it where there is none yet.
@@ -63,27 +81,30 @@ void Place(QWidget& window, const Window::Placement& placement) {
   Handle(window)->setTransientParent(placement.stays_with_other && other != nullptr ? Handle(*other)
                                                                                     : nullptr);
   if (placement.rule == Rule::kMiddleOfScreen) {
-    PlaceOver(window, Available(window).center(), Available(window));
+    const QRect screen = window.screen()->availableGeometry();
+    PlaceOver(window, screen.center(), screen);
   } else if (placement.rule == Rule::kOver && other != nullptr) {
-    PlaceOver(window, other->frameGeometry().center(), Available(*other));
+    PlaceOver(window, other->geometry().center(), Available(*other));
   } else if (placement.rule == Rule::kBeside && other != nullptr) {
     PlaceBeside(window, *other);
   }
 }
 
 bool RoomFor(const QWidget& window, const QSize& size) {
-  const QSize frame = window.frameGeometry().size() - window.size();
-  const QSize room = Available(window).size();
-  return (size + frame).boundedTo(room) == size + frame;
+  QMargins frame = FrameOf(window);
+  const bool framed = !window.windowFlags().testFlag(Qt::FramelessWindowHint);
+  // Nothing is known of it before the window is on the screen, nor when a compositor draws it.
+  if (framed && frame.isNull()) {
+    frame.setTop(window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+  }
+  const QSize needed = size.grownBy(frame);
+  return needed.boundedTo(Available(window).size()) == needed;
 }
 
 void MoveMiddle(QWidget& window, const QPoint& middle) {
-  QRect frame = window.frameGeometry();
-  frame.moveCenter(middle);
-  const QPoint place = MovedInto(Available(window), frame).topLeft();
-  if (place != window.pos()) window.move(place);
+  PlaceOver(window, middle, Available(window));
 }
 
-void KeepOnScreen(QWidget& window) { MoveMiddle(window, window.frameGeometry().center()); }
+void KeepOnScreen(QWidget& window) { MoveMiddle(window, window.geometry().center()); }
 
 }  // namespace vamo

@@ -18,7 +18,7 @@ void Place(QWidget& window, const Window::Placement& placement);
 // it.
 bool RoomFor(const QWidget& window, const QSize& size);
 
-// Moves the middle of a window there, as far as all of it then lies on its screen, with what the
+// Moves the middle of a window there, as far as all of it then lies on the screen, with what the
 // platform draws around it. Of one that is too large the top left corner does.
 void MoveMiddle(QWidget& window, const QPoint& middle);
 

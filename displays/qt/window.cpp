@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 #include <vector>
 
@@ -40,6 +41,9 @@ int Maximum(std::int64_t length, int extra) {
   return std::min(ToInt(length), QWIDGETSIZE_MAX - extra) + extra;
 }
 
+// How long a window manager may take to draw its frame. Qt does not say when it has.
+constexpr std::chrono::milliseconds kFrameIsDrawn{300};
+
 }  // namespace
 
 WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
@@ -58,6 +62,8 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
   layout->addWidget(content_);
   AddMenuBar();
   SetSizes(DesignedSize());
+  settle_.setSingleShot(true);
+  connect(&settle_, &QTimer::timeout, this, [this] { Settle(); });
 }
 
 void WindowWidget::AddMenuBar() {
@@ -109,7 +115,7 @@ void WindowWidget::Add(ControlWidget& widget) {
 
 void WindowWidget::PutOnScreen(bool activate) {
   if (window_ != nullptr) Place(*this, window_->WhereToShow());
-  if (!isVisible()) just_placed_ = true;
+  if (!isVisible()) settle_.start(kFrameIsDrawn);
   ShowFocus();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   setAttribute(Qt::WA_ShowWithoutActivating, !activate);
@@ -126,9 +132,9 @@ void WindowWidget::TakeAway() {
   QWindow* stays_with = windowHandle() == nullptr ? nullptr : windowHandle()->transientParent();
   // Before it goes: a window manager that loses the active window may choose any other one.
   if (stays_with != nullptr && isActiveWindow()) stays_with->requestActivate();
-  const QPoint at = pos();
+  const QRect at = geometry();
   hide();
-  move(at);
+  setGeometry(at);
 }
 
 void WindowWidget::ShowFocus() {
@@ -142,10 +148,12 @@ void WindowWidget::ShowFocus() {
   widget->setFocus(Qt::OtherFocusReason);
 }
 
+void WindowWidget::Settle() { KeepOnScreen(*this); }
+
 bool WindowWidget::event(QEvent* event) {
-  // By now the window manager has drawn its frame, or has itself chosen the place.
-  if (event->type() == QEvent::WindowActivate && std::exchange(just_placed_, false)) {
-    KeepOnScreen(*this);
+  if (event->type() == QEvent::WindowActivate && settle_.isActive()) {
+    // Many window managers have drawn their frame by now, and a later jump would be seen.
+    QMetaObject::invokeMethod(this, &WindowWidget::Settle, Qt::QueuedConnection);
   }
   if (event->type() == QEvent::WinIdChange) presses_.WatchPlatformWindow();
   if (event->type() == QEvent::WindowActivate) activation_.Activated(*this);

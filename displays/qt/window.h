@@ -2,6 +2,7 @@
 #define VAMO_DISPLAYS_QT_WINDOW_H_
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 #include <memory>
 #include <vector>
@@ -55,6 +56,8 @@ class WindowWidget : public QWidget {
   void AddMenuBar();
   QSize DesignedSize() const;
   void SetSizes(const QSize& content);
+  // Makes sure that all of a window is on the screen, with the frame that it has by now.
+  void Settle();
 
   Window* window_;
   Activation& activation_;
@@ -65,7 +68,8 @@ class WindowWidget : public QWidget {
   KeyRouter keys_;
   PressRouter presses_;
   QMenuBar* menu_bar_ = nullptr;
-  bool just_placed_ = false;
+  // Runs while the frame of a window that has just come up may still be missing.
+  QTimer settle_;
 };
 
 // The program's windows, hidden ones and those that go at the end of an event among them.

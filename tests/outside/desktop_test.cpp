@@ -133,7 +133,10 @@ TEST(Desktop, WindowsOpenWhereTheUserLooks) {
     user.Close("Info");
     user.MoveWindow("Vamo", user.ScreenWidth() / 2 - 250, 0);
     user.Click(Role::kButton, "Info");
-    ExpectOnScreen(user, user.WindowTitled("Info"));
+    info = user.WindowTitled("Info");
+    ExpectOnScreen(user, info);
+    EXPECT_EQ(info.x + info.width + info.frame_right, user.ScreenWidth())
+        << "as far to the right as the screen allows";
   });
 }
 

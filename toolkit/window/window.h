@@ -149,7 +149,8 @@ class Window : public Object {
       kMiddleOfScreen,
       // Its middle where the other window has or, if that is hidden by now, had its own.
       kOver,
-      // Right of the other window, else left of it, where the screen has the room.
+      // Right of the other window, else left of it, where the screen has the room; else as far to
+      // the freer side as it has.
       kBeside
     };
     Rule rule = Rule::kAnywhere;
