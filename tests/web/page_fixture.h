@@ -1,0 +1,53 @@
+// What the tests of the page have in common.
+#ifndef VAMO_TESTS_WEB_PAGE_FIXTURE_H_
+#define VAMO_TESTS_WEB_PAGE_FIXTURE_H_
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "browser.h"
+#include "web/page_user.h"
+
+namespace vamo {
+
+// One for all tests, since it takes long to start.
+inline Chromium& TheChromium() {
+  static Chromium browser;
+  return browser;
+}
+
+class PageTest : public testing::Test {
+ protected:
+  // Opens the page and dismisses the splash.
+  PageUser InControlWindow() {
+    PageUser user(browser(), PageAddress());
+    user.PressKey(Key::Character("x"));
+    return user;
+  }
+  Chromium& browser() { return TheChromium(); }
+  void Allow(const char* state) {
+    for (const char* name : {"clipboard-read", "clipboard-write"}) {
+      browser().DoOwn("Browser.setPermission",
+                      {{"permission", {{"name", name}}}, {"setting", state}});
+    }
+  }
+  // A screen of that size that is worked by fingers.
+  void BecomePhone(int width, int height) {
+    browser().DoOwn(
+        "Emulation.setDeviceMetricsOverride",
+        {{"width", width}, {"height", height}, {"deviceScaleFactor", 2}, {"mobile", true}});
+    browser().DoOwn("Emulation.setTouchEmulationEnabled", {{"enabled", true}});
+  }
+  void TearDown() override {
+    browser().DoOwn("Emulation.clearDeviceMetricsOverride", nlohmann::json::object());
+    browser().DoOwn("Emulation.setTouchEmulationEnabled", {{"enabled", false}});
+    browser().DoOwn("Emulation.setEmulatedMedia", {{"features", nlohmann::json::array()}});
+    browser().DoOwn("Emulation.setScriptExecutionDisabled", {{"value", false}});
+    Allow("granted");
+  }
+};
+
+}  // namespace vamo
+
+#endif  // VAMO_TESTS_WEB_PAGE_FIXTURE_H_
