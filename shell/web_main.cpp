@@ -19,4 +19,5 @@ void Start() {
 
 }  // namespace
 
-int main() { Start(); }
+// As an event of its own, whose errors the page takes for the end.
+int main() { vamo::page::Post(Start); }

@@ -143,8 +143,9 @@ PageAnswer WebSlider::Take(const PageReport& report) {
       Update();
       return PageAnswer::kTaken;
     case PageEvent::kWheel:
-      // The browser makes the page larger by it.
-      if (report.control) return PageAnswer::kTaken;
+      // With the key the browser makes the page larger, and what the user has not come to lets the
+      // page around scroll.
+      if (report.control || !Element().HasFocus()) return PageAnswer::kTaken;
       TakeWheel(report.y != 0 ? report.y : report.x);
       return PageAnswer::kTakenWhole;
     default:

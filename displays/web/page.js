@@ -12,6 +12,10 @@ mergeInto(LibraryManager.library, {
     composes: false,
     // Where the mouse has gone down.
     pressed: null,
+    // Whether the user has pressed something in the page.
+    used: false,
+    // What gets the focus when the page has it.
+    waiting: null,
     // Whether there is somebody to report to.
     owned: 0,
     // A text is its first byte and its length. The short ones are nearly all in ASCII, and a decoder
@@ -58,10 +62,22 @@ mergeInto(LibraryManager.library, {
       if (answer === 2) cause.preventDefault();
     },
     tell: function (number, event, x, y, held, text, data) {
-      var first = Page.give(text);
-      var second = Page.give(data);
-      return _page_report(number, event, x, y, held, first.at, first.length, second.at,
-        second.length);
+      return Page.enter(function () {
+        var first = Page.give(text);
+        var second = Page.give(data);
+        return _page_report(number, event, x, y, held, first.at, first.length, second.at,
+          second.length);
+      });
+    },
+    // An error in the program is its end. What else goes wrong on the page is not the program's.
+    enter: function (entry) {
+      try {
+        return entry();
+      } catch (error) {
+        Page.owned = 0;
+        sayInstead('Vamo has stopped because of an error. Load this page again to start it anew.');
+        throw error;
+      }
     },
     copy: function (event, number) {
       if (Page.copied === null) {
@@ -75,11 +91,13 @@ mergeInto(LibraryManager.library, {
       }
       Page.copied = null;
     },
+    begin: function () {
+      Page.elements[0] = document.getElementById('vamo');
+      // A saved copy of the page still has the windows that were open.
+      Page.elements[0].textContent = '';
+      Page.listen();
+    },
     listen: function () {
-      // Safari on a phone enlarges the page for a field that has the focus, and leaves it so.
-      if (CSS.supports('-webkit-touch-callout', 'none')) {
-        document.querySelector('[name=viewport]').content += ', maximum-scale=1';
-      }
       var listeners = {
         keydown: function (event) {
           // What is being composed comes when it has been; Safari's last key of it by its number.
@@ -134,6 +152,19 @@ mergeInto(LibraryManager.library, {
       for (var name in listeners) {
         document.addEventListener(name, listeners[name], { passive: false });
       }
+      // A press that the program takes whole leaves the focus around a frame.
+      document.addEventListener('mousedown', function () {
+        Page.used = true;
+        if (!document.hasFocus()) window.focus();
+      }, true);
+      document.addEventListener('keydown', function () { Page.used = true; }, true);
+      window.addEventListener('focus', function () {
+        var element = Page.waiting;
+        Page.waiting = null;
+        if (element && window.parent === window && document.activeElement === document.body) {
+          element.focus({ preventScroll: true });
+        }
+      });
       // By the mouse, by a finger or by a key: but for sliders, which are moved often. In some browsers
       // it is an event of the element alone.
       document.addEventListener('selectionchange', function () {
@@ -143,7 +174,7 @@ mergeInto(LibraryManager.library, {
       }, true);
     }
   },
-  $Page__postset: 'Page.elements[0] = document.getElementById("vamo"); Page.listen();',
+  $Page__postset: 'Page.begin();',
 
   page_create__deps: ['$Page', 'malloc'],
   page_create: function (parent, tag, length, listens) {
@@ -153,6 +184,7 @@ mergeInto(LibraryManager.library, {
     element.id = 'vamo' + element.vamo;
     Page.elements.push(element);
     Page.elements[parent].appendChild(element);
+    document.getElementById('waiting').hidden = true;
     return element.vamo;
   },
   page_remove: function (number) {
@@ -171,9 +203,11 @@ mergeInto(LibraryManager.library, {
   },
   page_set_text: function (number, text, length) {
     var element = Page.elements[number];
-    // To write into a text is cheaper than to replace it.
-    if (length && element.firstChild) {
-      element.firstChild.data = Page.read(text, length);
+    var first = element.firstChild;
+    // To write into a text is cheaper than to replace it. A translator may have put something around
+    // or beside it.
+    if (length && first && first.nodeType === 3 && !first.nextSibling) {
+      first.data = Page.read(text, length);
     } else {
       element.textContent = Page.read(text, length);
     }
@@ -195,11 +229,21 @@ mergeInto(LibraryManager.library, {
     return element.selectionDirection === 'backward' ? element.selectionStart :
       element.selectionEnd;
   },
-  page_focus: function (number) { Page.elements[number].focus({ preventScroll: true }); },
+  // The keys are not taken from what is around: another page, or the one that has this in a frame.
+  page_focus: function (number) {
+    var element = Page.elements[number];
+    if (document.hasFocus() && (Page.used || window.parent === window)) {
+      element.focus({ preventScroll: true });
+    } else {
+      Page.waiting = element;
+    }
+  },
   page_come_into_view: function (number) {
     Page.elements[number].scrollIntoView({ block: 'nearest', inline: 'nearest' });
   },
-  page_has_focus: function (number) { return document.activeElement === Page.elements[number]; },
+  page_has_focus: function (number) {
+    return document.activeElement === Page.elements[number] && document.hasFocus();
+  },
   page_bring_to_end: function (number) {
     Page.elements[number].parentNode.appendChild(Page.elements[number]);
   },
@@ -209,7 +253,7 @@ mergeInto(LibraryManager.library, {
       150);
   },
   page_set_owned: function (owned) { Page.owned = owned; },
-  page_post: function () { setTimeout(_page_run_posted, 0); },
+  page_post: function () { setTimeout(function () { Page.enter(_page_run_posted); }, 0); },
   page_start_timer: function (timer, period) {
     function wait(left) {
       // A longer wait than 31 bits can say is over at once.
@@ -217,7 +261,7 @@ mergeInto(LibraryManager.library, {
       Page.timers[timer] = setTimeout(function () {
         if (part < left) return wait(left - part);
         wait(period);
-        _page_fire(timer);
+        Page.enter(function () { _page_fire(timer); });
       }, part);
     }
     wait(period);
@@ -244,8 +288,10 @@ mergeInto(LibraryManager.library, {
   },
   page_read_clipboard: function () {
     function give(allowed, text) {
-      var given = Page.give(text);
-      _page_give_clipboard(allowed, given.at, given.length);
+      Page.enter(function () {
+        var given = Page.give(text);
+        _page_give_clipboard(allowed, given.at, given.length);
+      });
     }
     if (!navigator.clipboard || !navigator.clipboard.readText) {
       setTimeout(function () { give(0, ''); }, 0);
@@ -263,10 +309,18 @@ mergeInto(LibraryManager.library, {
     // A phone suspends it.
     if (Page.audio.state !== 'running') Page.audio.resume().catch(function () {});
     var tone = Page.audio.createOscillator();
+    var strength = Page.audio.createGain();
+    var start = Page.audio.currentTime;
     tone.frequency.value = 800;
-    tone.connect(Page.audio.destination);
+    // Without a ramp it clicks.
+    strength.gain.setValueAtTime(0, start);
+    strength.gain.linearRampToValueAtTime(0.15, start + 0.01);
+    strength.gain.setValueAtTime(0.15, start + 0.08);
+    strength.gain.linearRampToValueAtTime(0, start + 0.1);
+    tone.connect(strength);
+    strength.connect(Page.audio.destination);
     tone.start();
-    tone.stop(Page.audio.currentTime + 0.1);
+    tone.stop(start + 0.1);
   },
   page_has_picture: function (name, length) {
     return document.getElementById(Page.read(name, length)) !== null;

@@ -12,6 +12,11 @@
 #include "displays/web/text.h"
 
 namespace vamo {
+namespace {
+
+bool IsText(WebControl* control) { return dynamic_cast<WebText*>(control) != nullptr; }
+
+}  // namespace
 
 WebWindow::WebWindow(WebDisplay& display, Window& window)
     : display_(display),
@@ -156,7 +161,8 @@ void WebWindow::ShowFocus() {
 // The user has moved it by a key.
 void WebWindow::UpdateFocus() {
   GiveFocus();
-  if (WebControl* control = FocusedControl()) control->Element().ComeIntoView();
+  WebControl* control = FocusedControl();
+  if (control != nullptr && control->Element().HasFocus()) control->Element().ComeIntoView();
 }
 
 void WebWindow::GiveFocus() {
@@ -208,8 +214,10 @@ PageAnswer WebWindow::TakeKey(const PageReport& report) {
     menu_bar_->Focus();
     return PageAnswer::kTakenWhole;
   }
+  // There is nothing else to select on the page.
+  const bool selects_all = with_command && key->text == "a" && !IsText(FocusedControl());
   const bool types = key->code == KeyCode::kCharacter && !key->command && key->text[0] != kTab;
-  return types ? PageAnswer::kTakenWhole : PageAnswer::kPassed;
+  return types || selects_all ? PageAnswer::kTakenWhole : PageAnswer::kPassed;
 }
 
 void WebWindow::TakeCommand(std::string_view letter) {

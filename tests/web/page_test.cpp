@@ -102,6 +102,14 @@ TEST_F(PageTest, LeavesTheBrowserItsOwnKeysAndItsWheel) {
   EXPECT_EQ(browser().Run("return left.filter(key => !/Alt|Shift|Control/.test(key));"),
             json({"wheel", "ArrowRight", "F10", "+", "F5"}));
   EXPECT_EQ(user.Sees(Role::kSlider, "r").value, 0);
+  const Place slider = user.Find(Role::kSlider, "N").Extents();
+  browser().Run("left = [];");
+  browser().TurnWheel(slider.x + 50, slider.y + slider.height / 2, -40);
+  EXPECT_EQ(browser().Run("return left;"), json({"wheel"})) << "what has no focus scrolls the page";
+  EXPECT_EQ(FieldText(user, "N"), "30");
+  for (const char* keys : {"Tab", "ctrl+a"}) user.PressNamed(keys);
+  EXPECT_EQ(browser().Run("return left.filter(key => key === 'a');"), json::array())
+      << "there is nothing to select beside a slider";
 }
 
 TEST_F(PageTest, CopiesAndPastesByTheMenusAsFarAsTheBrowserAllows) {

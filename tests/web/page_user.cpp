@@ -123,8 +123,9 @@ Place SeenElement::Extents() const {
           Rounded(look_->at("height"))};
 }
 
-void SeenElement::Do(std::string_view /*action*/) const {
-  user_->TheBrowser().Run("arguments[0].click();", json::array({look_->at("element")}));
+void SeenElement::Do(std::string_view action) const {
+  user_->TheBrowser().Run(action == "Focus" ? "arguments[0].focus();" : "arguments[0].click();",
+                          json::array({look_->at("element")}));
 }
 
 PageUser::PageUser(Browser& browser, const std::string& address) : browser_(browser) {
@@ -180,6 +181,13 @@ void PageUser::Scroll(int notches) {
     browser_.TurnWheel(pointer_.first, pointer_.second,
                        notches > 0 ? -kPixelsPerNotch : kPixelsPerNotch);
   }
+}
+
+void PageUser::TurnWheel(std::string_view slider, std::int64_t notches) {
+  if (Focused().name != slider || Focused().role != Role::kSlider) {
+    Find(Role::kSlider, slider).Do("Focus");
+  }
+  ScreenUser::TurnWheel(slider, notches);
 }
 
 void PageUser::SetClipboard(std::string_view text) {

@@ -59,6 +59,8 @@ class PageUser : public ScreenUser<SeenElement> {
 
   void PressKey(const Key& key) override;
   void SetClipboard(std::string_view text) override;
+  // A wheel over a slider that has no focus is the page's.
+  void TurnWheel(std::string_view slider, std::int64_t notches) override;
   void Close(std::string_view title) override;
   void ActivateWindow(std::string_view title) override;
   void LetTimePass(std::chrono::milliseconds time) override;
