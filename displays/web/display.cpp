@@ -87,6 +87,8 @@ PageAnswer WebDisplay::Take(const PageReport& report) {
     case PageEvent::kSelected:
       front_->ReportSelection();
       return PageAnswer::kTaken;
+    case PageEvent::kPressBegins:
+      return front_->BeginPress(report);
     case PageEvent::kPress:
       front_->BringToFront();
       return PageAnswer::kTaken;

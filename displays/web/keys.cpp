@@ -32,8 +32,8 @@ constexpr std::array kCodedKeys{
     CodedKey{"F1", KeyCode::kHelp},        CodedKey{"Help", KeyCode::kHelp},
 };
 
-constexpr std::array<std::string_view, 15> kModifiers{
-    "Alt",   "AltGraph", "CapsLock", "Compose",    "Control", "Dead",   "Fn",        "FnLock",
+constexpr std::array<std::string_view, 14> kModifiers{
+    "Alt",   "AltGraph", "CapsLock", "Compose",    "Control", "Fn",     "FnLock",
     "Hyper", "Meta",     "NumLock",  "ScrollLock", "Shift",   "Symbol", "SymbolLock"};
 
 bool IsPrintable(std::string_view name) { return CharacterCount(name) == 1; }
@@ -61,6 +61,7 @@ std::optional<Key> ToKey(const PageReport& report, bool on_mac) {
   if (std::find(kModifiers.begin(), kModifiers.end(), name) != kModifiers.end())
     return std::nullopt;
   Key key{KeyCode::kOther, "", report.shift, IsCommand(report, on_mac)};
+  key.repeat = report.repeat;
   if (name == "Backspace" || name == "Delete") {
     key.word = on_mac ? report.alt : key.command;
     key.command = false;
@@ -84,6 +85,8 @@ std::optional<Key> ToKey(const PageReport& report, bool on_mac) {
   if (key.code != KeyCode::kOther || !IsPrintable(name)) return key;
   key.code = KeyCode::kCharacter;
   key.text = key.command ? std::string(1, CommandLetter(report)) : name;
+  // A comma on many layouts, and the program knows the point alone.
+  if (report.data == "NumpadDecimal" && !key.command) key.text = ".";
   return key;
 }
 

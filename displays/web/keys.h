@@ -9,7 +9,7 @@
 namespace vamo {
 
 // The key of a report, with the command and word keys of the browser's platform; nothing for a bare
-// modifier or a dead key.
+// modifier.
 std::optional<Key> ToKey(const PageReport& report, bool on_mac);
 
 // Of a letter of ASCII. The C library's would depend on the locale.

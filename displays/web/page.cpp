@@ -85,6 +85,7 @@ constexpr unsigned kShift = 1;
 constexpr unsigned kControl = 2;
 constexpr unsigned kAlt = 4;
 constexpr unsigned kMeta = 8;
+constexpr unsigned kRepeat = 16;
 
 }  // namespace
 
@@ -227,6 +228,7 @@ int page_report(int element, int event, double x, double y, unsigned held, char*
                                 .control = (held & vamo::kControl) != 0,
                                 .alt = (held & vamo::kAlt) != 0,
                                 .meta = (held & vamo::kMeta) != 0,
+                                .repeat = (held & vamo::kRepeat) != 0,
                                 .text = vamo::Taken(text, text_length),
                                 .data = vamo::Taken(data, data_length)};
   vamo::RunEvent([&] {

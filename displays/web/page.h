@@ -28,12 +28,17 @@ enum class PageEvent {
   kCut = 9,
   kPaste = 10,
   kComposing = 11,
-  kSelected = 12
+  kSelected = 12,
+  // A press of any button begins, before it is reported itself: by kPress where the button is the
+  // main one, else by kOtherPress.
+  kPressBegins = 13,
+  kOtherPress = 14
 };
 
 struct PageReport {
   PageEvent event = PageEvent::kKey;
-  // Of a press, its place as a share of the width and the height of the element that hears of it.
+  // Of a press that begins, in `x`, whether it follows another one as in a double click. Of a
+  // press, its place as a share of the width and the height of the element that hears of it.
   // Of a wheel, what it has turned, in notches to the right and away from the user. Of a click, in
   // `x`, how often the mouse has been clicked; 0 where it was something else that clicked. Of an
   // input, in `x`, its value where that is a number. Of an edit, what it is about, as offsets in
@@ -44,6 +49,8 @@ struct PageReport {
   bool control = false;
   bool alt = false;
   bool meta = false;
+  // Of a key, whether it is held down and repeats by itself.
+  bool repeat = false;
   // The name of a key, the kind of an edit, what has been composed or pasted, the value of an input
   // that is no number.
   std::string text = {};

@@ -12,6 +12,8 @@ mergeInto(LibraryManager.library, {
     composes: false,
     // Where the mouse has gone down.
     pressed: null,
+    // Whether that press does not count, nor then the click that comes of it.
+    ignored: false,
     // Whether the user has pressed something in the page.
     used: false,
     // What gets the focus when the page has it.
@@ -46,12 +48,12 @@ mergeInto(LibraryManager.library, {
     // each of them.
     report: function (cause, event, x, y, text, data) {
       var held = (cause.shiftKey ? 1 : 0) + (cause.ctrlKey ? 2 : 0) + (cause.altKey ? 4 : 0) +
-        (cause.metaKey ? 8 : 0);
+        (cause.metaKey ? 8 : 0) + (cause.repeat ? 16 : 0);
       var answer = 0;
       if (!Page.owned) return;
       for (var element = cause.target; element && !answer; element = element.parentNode) {
         if (!element.listens) continue;
-        if (event === 1) {
+        if (event === 1 || event === 14) {
           var box = element.getBoundingClientRect();
           x = (cause.clientX - box.left) / box.width;
           y = (cause.clientY - box.top) / box.height;
@@ -60,6 +62,7 @@ mergeInto(LibraryManager.library, {
       }
       if (!answer) answer = Page.tell(-1, event, x, y, held, text, data);
       if (answer === 2) cause.preventDefault();
+      return answer;
     },
     tell: function (number, event, x, y, held, text, data) {
       return Page.enter(function () {
@@ -100,18 +103,23 @@ mergeInto(LibraryManager.library, {
     listen: function () {
       var listeners = {
         keydown: function (event) {
-          // What is being composed comes when it has been; Safari's last key of it by its number.
-          if (event.isComposing || event.keyCode === 229 || event.key === 'Unidentified') return;
+          // What is composed in a text comes when it has been; Safari's last key of it by its number.
+          var composes = event.isComposing || event.keyCode === 229 || event.key === 'Unidentified';
+          if (composes && typeof event.target.selectionStart === 'number') return;
           Page.report(event, 0, 0, 0, event.key, event.code);
         },
         mousedown: function (event) {
-          if (event.button !== 0) return;
+          Page.pressed = null;
+          Page.ignored = Page.report(event, 13, event.detail > 1 ? 1 : 0, 0) === 2;
+          if (Page.ignored) return;
+          if (event.button !== 0) return Page.report(event, 14, 0, 0);
           Page.pressed = event.target;
           Page.report(event, 1, 0, 0);
         },
         click: function (event) {
           var ends = Page.pressed === event.target;
           Page.pressed = null;
+          if (Page.ignored) return event.preventDefault();
           Page.report(event, 2, ends ? 1 : 0, 0);
         },
         focusin: function (event) { Page.report(event, 3, 0, 0); },

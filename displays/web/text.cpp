@@ -107,6 +107,14 @@ PageAnswer WebText::Take(const PageReport& report) {
       ShowSelection();
       TakeTyped(report.text);
       return PageAnswer::kTakenWhole;
+    case PageEvent::kKey:
+      // What a keyboard on the screen types comes as an edit, too, and as a text.
+      return report.data.empty() && CharacterCount(report.text) == 1 ? PageAnswer::kTaken : answer;
+    case PageEvent::kClick:
+      if (report.x == 0) return answer;
+      ReportSelection();
+      Window().Shown().UserClicked(Self(&text_));
+      return PageAnswer::kTaken;
     case PageEvent::kPress:
       // It places the caret.
       return text_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;

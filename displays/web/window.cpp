@@ -22,6 +22,7 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
     : display_(display),
       window_(window),
       touched_([this](const PageReport& report) {
+        if (report.event == PageEvent::kPressBegins) return BeginPress(report);
         if (report.event != PageEvent::kPress) return PageAnswer::kPassed;
         BringToFront();
         // What has the keys keeps them.
@@ -225,14 +226,22 @@ void WebWindow::TakeCommand(std::string_view letter) {
   window_.UserPressedKey(Key::Command(std::string(letter)));
 }
 
+PageAnswer WebWindow::BeginPress(const PageReport& report) {
+  const Ref<Window> window = Self(&window_);
+  if (!window->UserBeginsPress(report.x != 0)) return PageAnswer::kTakenWhole;
+  if (window->IsLive() && OnScreen()) display_.Activate(*this);
+  return PageAnswer::kTaken;
+}
+
 PageAnswer WebWindow::TakePress(const PageReport& report) {
-  if (report.event != PageEvent::kPress) return PageAnswer::kPassed;
+  const bool by_other_button = report.event == PageEvent::kOtherPress;
+  if (report.event != PageEvent::kPress && !by_other_button) return PageAnswer::kPassed;
   BringToFront();
   const Window::State& state = window_.InitialState();
   window_.UserPressedMouse(std::llround(report.x * static_cast<double>(state.width)),
                            std::llround(report.y * static_cast<double>(state.height)));
-  // What has the keys keeps them.
-  return PageAnswer::kTakenWhole;
+  // The other buttons are the browser's as well; by the main one, what has the keys keeps them.
+  return by_other_button ? PageAnswer::kTaken : PageAnswer::kTakenWhole;
 }
 
 }  // namespace vamo

@@ -45,6 +45,8 @@ class WebWindow : public WindowView {
   void ShowFocus();
   bool IsShowingFocus() const { return showing_focus_; }
   PageAnswer TakeKey(const PageReport& report);
+  // A press that does not count is taken whole.
+  PageAnswer BeginPress(const PageReport& report);
   // The command key with that letter.
   void TakeCommand(std::string_view letter);
   void ReportSelection();

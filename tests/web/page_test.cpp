@@ -46,6 +46,42 @@ TEST_F(PageTest, TakesWhatIsComposedOrComesFromAKeyboardOnTheScreen) {
   EXPECT_EQ(FieldText(user, "N"), "27") << "a correction is about a part of the text";
 }
 
+// Synthetic, since no tool has a layout with dead keys or a decimal comma.
+TEST_F(PageTest, TellsTheKeysAndPressesOfAllKinds) {
+  const auto press = [&](const char* event, const json& what) {
+    browser().Run(
+        "const [name, what] = arguments;"
+        "const target = document.activeElement || document.body;"
+        "target.dispatchEvent(name === 'keydown' ? new KeyboardEvent(name, what) :"
+        "    name === 'mousedown' ? new MouseEvent(name, what) : new InputEvent(name, what));",
+        json::array({event, what}));
+  };
+  const auto key = [](const char* name, const char* code, bool repeat) {
+    return json{
+        {"key", name}, {"code", code}, {"repeat", repeat}, {"bubbles", true}, {"cancelable", true}};
+  };
+  for (const auto& [event, what] :
+       {std::pair{"keydown", key("Dead", "BracketLeft", false)},
+        {"mousedown", json{{"button", 2}, {"bubbles", true}, {"cancelable", true}}}}) {
+    PageUser user(browser(), PageAddress());
+    browser().Run(
+        "const [name, what] = arguments;"
+        "document.querySelector('.window .control').dispatchEvent("
+        "    name === 'keydown' ? new KeyboardEvent(name, what) : new MouseEvent(name, what));",
+        json::array({event, what}));
+    user.LetTimePass({});
+    EXPECT_EQ(user.ActiveTitle(), "Vamo") << event;
+    press("keydown", key("5", "Digit5", true));
+    EXPECT_EQ(FieldText(user, "r"), "") << "a key that is still held is not meant for it";
+  }
+  PageUser user = InControlWindow();
+  press("keydown", key(",", "NumpadDecimal", false));
+  press("keydown", key("٥", "Digit5", false));
+  EXPECT_EQ(FieldText(user, "r"), ".5");
+  press("keydown", key(",", "", false));
+  EXPECT_EQ(user.Beeps(), 0) << "a keyboard on the screen sends an edit, too";
+}
+
 TEST_F(PageTest, KeepsCaretAndKeysFromOneWindowToTheNext) {
   PageUser user = InControlWindow();
   Retype(user, "N", "12");
