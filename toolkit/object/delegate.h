@@ -3,36 +3,14 @@
 #ifndef VAMO_TOOLKIT_OBJECT_DELEGATE_H_
 #define VAMO_TOOLKIT_OBJECT_DELEGATE_H_
 
-#include <cstdint>
 #include <functional>
 #include <memory>
-#include <string>
-#include <string_view>
-#include <type_traits>
 #include <utility>
 
 #include "toolkit/object/object.h"
 #include "toolkit/object/ui_trap.h"
 
 namespace vamo {
-
-// A type's name in a delegate's signature; for a reference, the name of its class.
-template <class T>
-struct TypeText {
-  static std::string_view Get() { return T::Target::kClass.name; }
-};
-template <>
-struct TypeText<bool> {
-  static std::string_view Get() { return "Boolean"; }
-};
-template <>
-struct TypeText<std::int64_t> {
-  static std::string_view Get() { return "Integer"; }
-};
-template <>
-struct TypeText<std::string> {
-  static std::string_view Get() { return "String"; }
-};
 
 // Whether a delegate keeps its receiver alive.
 enum class ReceiverFlag { kStrong = 0, kWeak = 1 };
@@ -81,23 +59,15 @@ class Delegate<Result(Arguments...)> {
     return (*running)(std::move(arguments)...);
   }
 
-  // The signature as a text, such as "( TextField, String ) as Boolean"; "(  )" for none of either.
-  static std::string Signature() {
-    std::string text;
-    ((text += (text.empty() ? "" : ", "), text += TypeText<Arguments>::Get()), ...);
-    text = "( " + text + " )";
-    if constexpr (!std::is_void_v<Result>) (text += " as ") += TypeText<Result>::Get();
-    return text;
-  }
-
  private:
   using Function = std::function<Result(Arguments...)>;
 
   std::shared_ptr<const Function> function_;
 };
 
-// Binds a method of a window to one event of one of its controls. The control does not keep the
-// window alive: the window holds the control.
+// Binds a method of a window to one event of one of its controls. The event's type is its
+// signature: a method with another one does not compile. The control does not keep the window
+// alive: the window holds the control.
 template <class Receiver, class Result, class... Arguments>
 void AddHandler(Delegate<Result(Arguments...)>& event, Receiver* receiver,
                 Result (Receiver::*method)(Arguments...)) {

@@ -31,8 +31,6 @@ class Object : public std::enable_shared_from_this<Object> {
 template <class T>
 class Ref {
  public:
-  using Target = T;
-
   Ref() = default;
   Ref(std::nullptr_t) {}  // NOLINT(google-explicit-constructor)
   explicit Ref(std::shared_ptr<T> object) : object_(std::move(object)) {}
