@@ -10,7 +10,8 @@ constexpr std::string_view kEvents[] = {"EnableMenuItems"};
 
 }  // namespace
 
-constinit const ClassInfo HandleAboutMenu::kClass{"HandleAboutMenu", nullptr, {}, kEvents};
+constinit const ClassInfo HandleAboutMenu::kClass{
+    "HandleAboutMenu", &Application::kClass, {}, kEvents};
 
 Ref<HandleAboutMenu> App() { return Cast<HandleAboutMenu>(_GetAppObject()); }
 

@@ -1,13 +1,17 @@
-// References and delegates.
+// References, class tables and delegates.
 #include "toolkit/object/object.h"
 
 #include <gtest/gtest.h>
 
+#include "shell/handle_about_menu.h"
+#include "toolkit/control/canvas.h"
 #include "toolkit/control/label.h"
 #include "toolkit/control/push_button.h"
+#include "toolkit/control/rectangle.h"
 #include "toolkit/control/slider.h"
 #include "toolkit/object/delegate.h"
-#include "toolkit/runtime/application.h"
+#include "toolkit/runtime/file_type.h"
+#include "toolkit/text/text_area.h"
 #include "toolkit/text/text_field.h"
 #include "toolkit/window/timer.h"
 
@@ -31,14 +35,21 @@ TEST(RefTest, NilAndWrongCastsRaiseBeforeAnythingIsTouched) {
   EXPECT_FALSE(weak.Value());
 }
 
-TEST(DelegateTest, TheSignatureIsSpelledOut) {
-  EXPECT_EQ((Delegate<bool(Ref<TextField>, std::string)>::Signature()),
-            "( TextField, String ) as Boolean");
-  EXPECT_EQ((Delegate<void(Ref<Slider>)>::Signature()), "( Slider )");
-  EXPECT_EQ((Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)>::Signature()),
-            "( PushButton, Integer, Integer ) as Boolean");
-  EXPECT_EQ((Delegate<void(Ref<Timer>)>::Signature()), "( Timer )");
-  EXPECT_EQ(MenuHandler::Signature(), "(  ) as Boolean");
+TEST(ClassInfoTest, TheClassesAreDerivedAsDesigned) {
+  std::string tree;
+  for (const ClassInfo* info :
+       {&RectControl::kClass, &TextEdit::kClass, &TextField::kClass, &TextArea::kClass,
+        &Label::kClass, &Slider::kClass, &PushButton::kClass, &Canvas::kClass, &Rectangle::kClass,
+        &_wrapper_Timer1::kClass, &Picture::kClass, &FileType::kClass, &MenuBar::kClass,
+        &HandleAboutMenu::kClass}) {
+    (tree += info->name) += info->base == nullptr ? "" : ":" + std::string(info->base->name);
+    tree += ' ';
+  }
+  EXPECT_EQ(tree,
+            "RectControl:Control TextEdit:RectControl TextField:TextEdit TextArea:TextEdit "
+            "Label:RectControl Slider:RectControl PushButton:RectControl Canvas:RectControl "
+            "Rectangle:RectControl _wrapper_Timer1:Timer Picture FileType MenuBar:MenuItem "
+            "HandleAboutMenu:Application ");
 }
 
 TEST(DelegateTest, OnlyAStrongReceiverIsKeptAlive) {

@@ -11,6 +11,7 @@
 #include "test_program.h"
 #include "toolkit/control/label.h"
 #include "toolkit/control/properties.h"
+#include "toolkit/control/rectangle.h"
 #include "toolkit/control/slider.h"
 
 namespace vamo {
@@ -75,6 +76,10 @@ TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
   EXPECT_EQ(label->Font().size, 9.0F) << "the later one stands";
   EXPECT_EQ(label->TextColour(), (Colour{0xFF, 0x80, 0}));
   EXPECT_FALSE(label->Visible());
+  const auto tab_stop = EncodedStream<640>().Set(property::kTabStop, false);
+  _SetProperties(*label, tab_stop);
+  EXPECT_FALSE(label->TabStop());
+  EXPECT_THROW(_SetProperties(*New<Rectangle>(), tab_stop), InvalidArgumentException);
 }
 
 TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {

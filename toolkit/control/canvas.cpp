@@ -10,6 +10,7 @@ namespace vamo {
 
 struct Canvas::Properties {
   static constexpr std::array kRows{
+      Sets<&Canvas::SetTabStop>(property::kTabStop),
       Skipped(property::kAllowFocusRing),
       Skipped(property::kAllowFocus),
       Skipped(property::kAllowTabs),
@@ -17,6 +18,7 @@ struct Canvas::Properties {
   };
 };
 
+constinit const ClassInfo Picture::kClass{"Picture"};
 constinit const ClassInfo Canvas::kClass{
     "Canvas", &RectControl::kClass, Properties::kRows, {}, Allocate<Canvas>};
 

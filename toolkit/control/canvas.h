@@ -13,6 +13,9 @@ namespace vamo {
 // An image that the display has decoded. It cannot be drawn into.
 class Picture : public Object {
  public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
   explicit Picture(std::shared_ptr<DisplayPicture> image) : image_(std::move(image)) {}
 
   // The image of that file name among the application's resources; nil where there is none or it

@@ -26,7 +26,6 @@ struct RectControl::Properties {
       Sets<&RectControl::locks_, &vamo::Locks::bottom>(property::kLockBottom),
       Sets<&RectControl::tab_index_>(property::kTabIndex),
       Skipped(property::kTabPanelIndex),
-      Sets<&RectControl::tab_stop_>(property::kTabStop),
       Skipped(property::kAllowAutoDeactivate),
       Sets<&RectControl::SetEnabled>(property::kEnabled),
       Sets<&RectControl::tooltip_>(property::kTooltip),
@@ -36,22 +35,8 @@ struct RectControl::Properties {
   };
 };
 
-struct TextControl::Properties {
-  static constexpr std::array kRows{
-      Sets<&TextControl::font_, &vamo::Font::name>(property::kFontName),
-      Sets<&TextControl::font_, &vamo::Font::size>(property::kFontSize),
-      Skipped(property::kFontUnit),
-      Sets<&TextControl::font_, &vamo::Font::bold>(property::kBold),
-      Sets<&TextControl::font_, &vamo::Font::italic>(property::kItalic),
-      Sets<&TextControl::font_, &vamo::Font::underline>(property::kUnderline),
-  };
-};
-
 constinit const ClassInfo Control::kClass{"Control", nullptr, Properties::kRows};
 constinit const ClassInfo RectControl::kClass{"RectControl", &Control::kClass, Properties::kRows};
-constinit const ClassInfo TextControl::kClass{"TextControl", &RectControl::kClass,
-                                              Properties::kRows};
-
 void RectControl::SetVisible(bool visible) {
   _UITrap();
   if (visible_ == visible) return;
@@ -64,6 +49,11 @@ void RectControl::SetEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;
   Changed();
+}
+
+void RectControl::SetTabStop(bool tab_stop) {
+  _UITrap();
+  tab_stop_ = tab_stop;
 }
 
 void RectControl::SetAccessibleName(std::string_view name) {

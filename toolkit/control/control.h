@@ -76,6 +76,7 @@ class RectControl : public Control {
 
   std::int64_t TabIndex() const { return tab_index_; }
   bool TabStop() const { return tab_stop_; }
+  void SetTabStop(bool tab_stop);
   // Whether the control can have the keys at all, now.
   bool CanTakeFocus() const { return TakesKeys() && enabled_ && visible_; }
 
@@ -130,20 +131,6 @@ class RectControl : public Control {
   WeakRef<Label> labelled_by_;
   std::unique_ptr<ControlView> view_;
   std::function<void()> observer_;
-};
-
-// A control that shows a text in a font of its own.
-class TextControl : public RectControl {
- public:
-  static const ClassInfo kClass;
-  const ClassInfo* Class() const override { return &kClass; }
-
-  const vamo::Font& Font() const { return font_; }
-
- private:
-  struct Properties;
-
-  vamo::Font font_;
 };
 
 }  // namespace vamo

@@ -8,7 +8,8 @@
 namespace vamo {
 
 struct Label::Properties {
-  static constexpr std::array kRows{
+  static constexpr std::array kOwn{
+      Sets<&Label::SetTabStop>(property::kTabStop),
       Skipped(property::kMultiline),
       Skipped(property::kSelectable),
       Sets<&Label::alignment_>(property::kTextAlignment),
@@ -17,10 +18,11 @@ struct Label::Properties {
       Skipped(property::kDataSource),
       Skipped(property::kDataField),
   };
+  static constexpr auto kRows = Joined(FontRows<&Label::font_>(), kOwn);
 };
 
 constinit const ClassInfo Label::kClass{
-    "Label", &TextControl::kClass, Properties::kRows, {}, Allocate<Label>};
+    "Label", &RectControl::kClass, Properties::kRows, {}, Allocate<Label>};
 
 const std::string& Label::Text() const {
   _UITrap();

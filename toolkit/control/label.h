@@ -11,7 +11,7 @@ namespace vamo {
 
 // A text that the user can read and not change. A text that is wider than the label is left to
 // the display, which draws it narrower, never cut off.
-class Label : public TextControl {
+class Label : public RectControl {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
@@ -19,6 +19,7 @@ class Label : public TextControl {
   const std::string& Text() const;
   void SetText(std::string_view text);
 
+  const vamo::Font& Font() const { return font_; }
   Colour TextColour() const { return text_colour_; }
   TextAlignment Alignment() const { return alignment_; }
 
@@ -28,6 +29,7 @@ class Label : public TextControl {
  private:
   struct Properties;
 
+  vamo::Font font_;
   std::string text_;
   Colour text_colour_;
   TextAlignment alignment_ = TextAlignment::kDefault;

@@ -3,6 +3,7 @@
 #ifndef VAMO_TOOLKIT_CONTROL_PROPERTIES_H_
 #define VAMO_TOOLKIT_CONTROL_PROPERTIES_H_
 
+#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -119,6 +120,18 @@ inline constexpr Text kValue{"Value"};
 inline constexpr Integer kPosition{"Value"};
 
 }  // namespace property
+
+// The rows of a class that keeps its font in the member `kFont`.
+template <auto kFont>
+constexpr std::array<Property, 6> FontRows() {
+  return {Sets<kFont, &Font::name>(property::kFontName),
+          Sets<kFont, &Font::size>(property::kFontSize),
+          Skipped(property::kFontUnit),
+          Sets<kFont, &Font::bold>(property::kBold),
+          Sets<kFont, &Font::italic>(property::kItalic),
+          Sets<kFont, &Font::underline>(property::kUnderline)};
+}
+
 }  // namespace vamo
 
 #endif  // VAMO_TOOLKIT_CONTROL_PROPERTIES_H_

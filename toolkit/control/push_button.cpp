@@ -8,16 +8,18 @@
 namespace vamo {
 
 struct PushButton::Properties {
-  static constexpr std::array kRows{
+  static constexpr std::array kOwn{
+      Sets<&PushButton::SetTabStop>(property::kTabStop),
       Skipped(property::kMacButtonStyle),
       Skipped(property::kCancel),
       Sets<&PushButton::caption_>(property::kCaption),
       Sets<&PushButton::default_>(property::kDefault),
   };
+  static constexpr auto kRows = Joined(FontRows<&PushButton::font_>(), kOwn);
 };
 
 constinit const ClassInfo PushButton::kClass{
-    "PushButton", &TextControl::kClass, Properties::kRows, {}, Allocate<PushButton>};
+    "PushButton", &RectControl::kClass, Properties::kRows, {}, Allocate<PushButton>};
 
 bool PushButton::UserPressed(std::int64_t x, std::int64_t y) {
   bool dealt_with = false;

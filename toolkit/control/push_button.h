@@ -12,12 +12,13 @@ namespace vamo {
 
 // A button for the mouse and for assistive technology. It never has the keys: Space and Return do
 // nothing to it.
-class PushButton : public TextControl {
+class PushButton : public RectControl {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
   const std::string& Caption() const { return caption_; }
+  const vamo::Font& Font() const { return font_; }
   bool Default() const { return default_; }
 
   // Raised when the mouse goes down on the button, with the place in the button's own coordinates.
@@ -36,6 +37,7 @@ class PushButton : public TextControl {
  private:
   struct Properties;
 
+  vamo::Font font_;
   std::string caption_;
   bool default_ = false;
 };

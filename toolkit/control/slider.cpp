@@ -12,6 +12,7 @@ namespace vamo {
 
 struct Slider::Properties {
   static constexpr std::array kRows{
+      Sets<&Slider::SetTabStop>(property::kTabStop),
       Sets<&Slider::value_>(property::kPosition),
       Sets<&Slider::minimum_>(property::kMinimumValue),
       Sets<&Slider::maximum_>(property::kMaximumValue),

@@ -2,6 +2,8 @@
 #ifndef VAMO_TOOLKIT_OBJECT_CLASS_INFO_H_
 #define VAMO_TOOLKIT_OBJECT_CLASS_INFO_H_
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -43,7 +45,7 @@ struct Property {
 struct ClassInfo {
   std::string_view name;
   const ClassInfo* base = nullptr;
-  std::span<const Property> properties;
+  std::span<const Property> properties = {};
   // The events that the class implements.
   std::span<const std::string_view> events = {};
   // Allocates an object; null for a class of which a window holds none.
@@ -122,6 +124,15 @@ constexpr Property Sets(const PropertyName<T>& name) {
 template <class T>
 constexpr Property Skipped(const PropertyName<T>& name) {
   return internal::MakeProperty(name, nullptr);
+}
+
+// Several tables in one.
+template <std::size_t... kSizes>
+constexpr auto Joined(const std::array<Property, kSizes>&... tables) {
+  std::array<Property, (kSizes + ...)> joined;
+  auto* out = joined.data();
+  ((out = std::copy(tables.begin(), tables.end(), out)), ...);
+  return joined;
 }
 
 }  // namespace vamo

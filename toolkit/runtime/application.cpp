@@ -6,6 +6,8 @@
 
 namespace vamo {
 
+constinit const ClassInfo Application::kClass{"Application"};
+
 void Application::_SetSupportsHiDPI(bool supports) {
   Runtime::Current().SetSupportsHiDPI(supports);
 }

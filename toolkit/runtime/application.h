@@ -9,6 +9,7 @@
 #include <string_view>
 #include <thread>
 
+#include "toolkit/object/class_info.h"
 #include "toolkit/object/delegate.h"
 #include "toolkit/object/object.h"
 
@@ -27,6 +28,9 @@ using MenuHandlers = std::map<std::string, MenuHandler, std::less<>>;
 // does.
 class Application : public Object {
  public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
   // Called first in start-up, before there is an application object.
   static void _SetSupportsHiDPI(bool supports);
 

@@ -4,6 +4,8 @@
 
 namespace vamo {
 
+constinit const ClassInfo FileType::kClass{"FileType"};
+
 void FileType::Register() {
   if (registered_) return;
   Runtime::Current().RegisterFileType(Self(this));

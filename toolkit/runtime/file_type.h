@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "toolkit/object/class_info.h"
 #include "toolkit/object/object.h"
 
 namespace vamo {
@@ -12,6 +13,9 @@ namespace vamo {
 // registration back, since it no longer says what is registered.
 class FileType : public Object {
  public:
+  static const ClassInfo kClass;
+  const ClassInfo* Class() const override { return &kClass; }
+
   const std::string& Name() const { return name_; }
   const std::string& Extensions() const { return extensions_; }
   const std::string& MacType() const { return mac_type_; }

@@ -44,7 +44,8 @@ std::string WithLineBreaksAs(char line_break, std::string_view text) {
 }  // namespace
 
 struct TextEdit::Properties {
-  static constexpr std::array kRows{
+  static constexpr std::array kOwn{
+      Sets<&TextEdit::SetTabStop>(property::kTabStop),
       Sets<&TextEdit::background_colour_>(property::kBackgroundColor),
       Sets<&TextEdit::has_border_>(property::kHasBorder),
       Skipped(property::kFormat),
@@ -58,9 +59,10 @@ struct TextEdit::Properties {
       Skipped(property::kDataSource),
       Skipped(property::kDataField),
   };
+  static constexpr auto kRows = Joined(FontRows<&TextEdit::font_>(), kOwn);
 };
 
-constinit const ClassInfo TextEdit::kClass{"TextEdit", &TextControl::kClass, Properties::kRows};
+constinit const ClassInfo TextEdit::kClass{"TextEdit", &RectControl::kClass, Properties::kRows};
 
 const std::string& TextEdit::Text() const {
   _UITrap();

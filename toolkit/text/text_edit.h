@@ -21,7 +21,7 @@ struct Selection {
 // What the text controls have in common: the text, the selection in it, the Edit commands and the
 // undo history. It knows no keys, and it does not move the caret: a display does, as its platform
 // wants it.
-class TextEdit : public TextControl {
+class TextEdit : public RectControl {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
@@ -37,6 +37,7 @@ class TextEdit : public TextControl {
   std::string_view SelectedText() const;
 
   bool ReadOnly() const { return read_only_; }
+  const vamo::Font& Font() const { return font_; }
   Colour TextColour() const { return text_colour_; }
   Colour BackgroundColour() const { return background_colour_; }
   TextAlignment Alignment() const { return alignment_; }
@@ -94,6 +95,7 @@ class TextEdit : public TextControl {
   std::vector<State> history_;
   std::uint64_t revision_ = 0;
   bool in_users_edit_ = false;
+  vamo::Font font_;
   bool read_only_ = false;
   Colour text_colour_;
   Colour background_colour_;
