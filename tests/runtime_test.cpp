@@ -1,6 +1,7 @@
 // The guard against threads, and who is asked about an exception that leaves an event.
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <thread>
 
@@ -103,3 +104,14 @@ TEST(EventTest, AnEndExceptionEndsTheEventAloneAndTheApplicationCanTakeTheOthers
 
 }  // namespace
 }  // namespace vamo
+TEST(EventTest, OfTwoNestedExceptionsBothAreReported) {
+  TestProgram program;
+  testing::internal::CaptureStderr();
+  program.runtime().Dispatch([&] {
+    program.runtime().Dispatch([] { throw std::runtime_error("the inner one"); });
+    throw std::logic_error("the outer one");
+  });
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "vamo: the inner one\n");
+  EXPECT_THROW(program.runtime().RaiseAgain(), std::logic_error);
+}
+

@@ -63,7 +63,9 @@ void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
   try {
     if (const std::exception_ptr exception = exception_helper_(event)) TakeException(exception);
   } catch (...) {
-    // A display's event loop need not let an exception through, so it goes around the loop.
+    // A display's event loop need not let an exception through, so it goes around the loop. There
+    // is room for one: that of an event inside this one is reported now.
+    if (raised_again_ != nullptr) _UnhandledException(raised_again_);
     raised_again_ = std::current_exception();
     End(1);
   }
