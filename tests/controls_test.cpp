@@ -22,6 +22,9 @@ TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
   const auto log = New<Log>();
   slider->ValueChanged = Delegate<void(Ref<Slider>)>(log, &Log::Note, ReceiverFlag::kStrong);
   for (const std::int64_t position : {3, 3, 200, 100, -5, 0}) slider->UserMovedTo(position);
+  slider->SetEnabled(false);
+  slider->UserMovedTo(3);
+  slider->UserSetByAssistiveTechnology(3);
   EXPECT_EQ(log->entries, (std::vector<std::string>{"3", "100", "0"}));
 }
 

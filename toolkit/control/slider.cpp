@@ -35,6 +35,7 @@ std::int64_t Slider::Value() const {
 
 void Slider::UserMovedTo(std::int64_t position) {
   Runtime::Current().Dispatch([this, self = Self(this), position] {
+    if (!Enabled()) return;
     const std::int64_t reached = std::max(minimum_, std::min(position, maximum_));
     if (reached == Value()) return;
     value_ = reached;
