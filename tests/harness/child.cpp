@@ -95,7 +95,10 @@ Ended RunToEnd(const std::vector<std::string>& command, std::string_view input,
   const pid_t id = Start(command, settings, &files);
   posix_spawn_file_actions_destroy(&files);
   int status = 0;
-  waitpid(id, &status, 0);
+  if (!Await([&] { return waitpid(id, &status, WNOHANG) == id; }, std::chrono::minutes(1))) {
+    kill(id, SIGKILL);
+    waitpid(id, &status, 0);
+  }
   return {Decode(status), Contents(out.get()), Contents(err.get())};
 }
 

@@ -42,7 +42,7 @@ struct Ended {
   std::string out;
   std::string err;
 };
-// Runs a program whose standard input is `input`.
+// Runs a program whose standard input is `input`, and kills it if it takes more than a minute.
 Ended RunToEnd(const std::vector<std::string>& command, std::string_view input = {},
                const Environment& settings = {});
 // What a program says on its standard output. Throws where it fails.
