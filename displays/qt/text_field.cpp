@@ -59,12 +59,9 @@ void FieldWidget::ShowLook() {
   setEchoMode(field.Password() ? QLineEdit::Password : QLineEdit::Normal);
   setInputMethodHints(inputMethodHints() | HintsFor(KeyboardFor(field.Rule())));
   setPlaceholderText(ToQString(field.Hint()));
-  const QColor background = ToQColor(field.BackgroundColour());
   QPalette colours = palette();
   colours.setColor(QPalette::Text, ToQColor(field.TextColour()));
-  colours.setColor(QPalette::Base, background);
-  // A little darker shows that nothing can be typed here; the text stays as legible as any.
-  colours.setColor(QPalette::Disabled, QPalette::Base, background.darker(104));
+  colours.setColor(QPalette::Base, ToQColor(field.BackgroundColour()));
   setPalette(colours);
 }
 
