@@ -1,7 +1,8 @@
 // How windows find each other and the menu bar: by name, without their classes.
 //
-// The control window and the About window use each other. Both include this header alone for it;
-// where the accessors are defined, above this layer, the classes are known.
+// The control window and the About window use each other. The control window includes this header
+// alone for it: the classes of the other windows and of the bar are known where their accessors are
+// defined, above this layer.
 #ifndef VAMO_CONTROLWND_ACCESSORS_H_
 #define VAMO_CONTROLWND_ACCESSORS_H_
 
@@ -18,8 +19,12 @@ namespace vamo {
 // header it is written `class AboutWnd`; inside the class itself the accessor is
 // `vamo::AboutWnd()`.
 Ref<Window> AboutWnd();
-Ref<Window> ControlWnd();
 Ref<Window> InfoWnd();
+#pragma GCC diagnostic push
+// The class must be named before the accessor that hides its name.
+#pragma GCC diagnostic ignored "-Wshadow"
+Ref<class ControlWnd> ControlWnd();
+#pragma GCC diagnostic pop
 
 // The one menu bar of the program, made at the first use and never replaced.
 Ref<MenuBar> Menu();

@@ -12,6 +12,8 @@ constexpr std::int64_t kInitialN = 4;
 
 }  // namespace
 
+Ref<class ControlWnd> ControlWnd() { return ImplicitInstance<class ControlWnd>(); }
+
 bool ControlWnd::IsEventImplemented(std::string_view event) const {
   return _RuntimeIsEventHandled(*this, kClass.name, event, /*user=*/true);
 }

@@ -1,6 +1,7 @@
 #include "shell/about_wnd.h"
 
 #include "controlwnd/chart_small.h"
+#include "controlwnd/control_wnd.h"
 #include "controlwnd/streams.h"
 #include "shell/rights.h"
 #include "toolkit/runtime/runtime.h"

@@ -22,7 +22,7 @@ class ControlWndTest : public testing::Test {
   }
 
   TestProgram program_;
-  Ref<class ControlWnd> window_ = Cast<class ControlWnd>(ControlWnd());
+  Ref<class ControlWnd> window_ = ControlWnd();
 };
 
 TEST_F(ControlWndTest, HasItsControlsInOrderWithTheirParents) {
@@ -169,7 +169,7 @@ TEST_F(ControlWndTest, ThePictureIsLoadedOnceAndShared) {
               Cast<class AboutWnd>(AboutWnd())->Canvas1()->Backdrop());
   TestProgram without;
   without.display().RemovePictures();
-  const auto window = Cast<class ControlWnd>(ControlWnd());
+  const auto window = ControlWnd();
   EXPECT_FALSE(window->Canvas3()->Backdrop());
   window->nEdit()->SetText("30");
   EXPECT_EQ(window->pText()->Text(), ".99999");

@@ -120,7 +120,7 @@ TEST(StartupTest, AHandlerThatFailsInTheMiddleOfADragEndsTheProgramInOrder) {
     const Outcome outcome = RunFailingAt("", [&](HeadlessUser& user) {
       user.PressKey(Key::Character("x"));
       for (const auto& window : Runtime::Current().LiveWindows()) windows.emplace_back(window);
-      Cast<class ControlWnd>(ControlWnd())->rSlider()->ValueChanged =
+      ControlWnd()->rSlider()->ValueChanged =
           Delegate<void(Ref<Slider>)>(handler, &FailingHandler::Take, ReceiverFlag::kStrong);
       user.DragSlider("r", {12, 50, 37});
       EXPECT_FALSE(user.Display().Running());
@@ -222,7 +222,7 @@ TEST_F(ProgramTest, TheMenuTreeStands) {
         "WindowMenu:Window ControlMenuItem=Control() AboutMenuItem=About Vamo() UntitledMenu6=() "
         "AboutKEL=About Vamo() UntitledMenu5=()\n"
         "UntitledMenu4:\n");
-    const auto window = Cast<class ControlWnd>(ControlWnd());
+    const auto window = ControlWnd();
     EXPECT_TRUE(window->AboutKEL() == AboutKEL());
     EXPECT_TRUE(window->FileQuit() == Menu()->_Lookup("FileQuit"));
     EXPECT_TRUE(Cast<class InfoWnd>(InfoWnd())->UntitledMenu5() == window->UntitledMenu5());
@@ -239,8 +239,7 @@ TEST_F(ProgramTest, ClassesTellTheEventsThatTheyImplement) {
       }
       return events;
     };
-    EXPECT_EQ(implemented(Cast<class ControlWnd>(ControlWnd())),
-              "Layout CreateControls Activate Close EnableMenuItems ");
+    EXPECT_EQ(implemented(ControlWnd()), "Layout CreateControls Activate Close EnableMenuItems ");
     EXPECT_EQ(implemented(Cast<class AboutWnd>(AboutWnd())),
               "Layout CreateControls KeyDown MouseDown ");
     EXPECT_EQ(implemented(Cast<class InfoWnd>(InfoWnd())),
@@ -256,7 +255,7 @@ TEST_F(ProgramTest, ClassesTellTheEventsThatTheyImplement) {
 
 TEST_F(ProgramTest, EachHandlerPassesItsEventOn) {
   InProgram([](HeadlessUser&) {
-    const auto window = Cast<class ControlWnd>(ControlWnd());
+    const auto window = ControlWnd();
     for (const auto* handlers : {&window->MenuHandlers(), &App()->MenuHandlers()}) {
       EXPECT_EQ(handlers->size(), 2U);
       for (const auto& [name, handler] : *handlers) EXPECT_FALSE(handler.Invoke()) << name;
