@@ -22,7 +22,7 @@ class Picture : public Object {
   // cannot be decoded.
   static Ref<Picture> _OpenFromApp(std::string_view file_name);
 
-  const std::shared_ptr<DisplayPicture>& Image() const { return image_; }
+  const std::shared_ptr<DisplayPicture>& Image() const { return Trapped(image_); }
 
  private:
   std::shared_ptr<DisplayPicture> image_;
@@ -35,7 +35,7 @@ class Canvas : public RectControl {
   const ClassInfo* Class() const override { return &kClass; }
 
   // Nil shows nothing.
-  const Ref<Picture>& Backdrop() const { return backdrop_; }
+  const Ref<Picture>& Backdrop() const { return Trapped(backdrop_); }
   void SetBackdrop(Ref<Picture> picture);
 
  protected:

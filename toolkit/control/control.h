@@ -11,6 +11,7 @@
 
 #include "toolkit/object/class_info.h"
 #include "toolkit/object/object.h"
+#include "toolkit/object/ui_trap.h"
 #include "toolkit/runtime/display.h"
 #include "toolkit/runtime/key.h"
 #include "toolkit/style.h"
@@ -41,11 +42,11 @@ class Control : public Object, public _PaneChild {
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  const std::string& Name() const { return name_; }
-  void _SetWindow(const Ref<class Window>& window) override { window_ = WeakRef(window); }
-  Ref<class Window> Window() const override { return window_.Value(); }
-  std::int64_t _Index() const override { return index_; }
-  void _SetIndex(std::int64_t index) override { index_ = index; }
+  const std::string& Name() const { return Trapped(name_); }
+  void _SetWindow(const Ref<class Window>& window) override { window_ = WeakRef(Trapped(window)); }
+  Ref<class Window> Window() const override { return Trapped(window_.Value()); }
+  std::int64_t _Index() const override { return Trapped(index_); }
+  void _SetIndex(std::int64_t index) override { index_ = Trapped(index); }
 
  private:
   struct Properties;
@@ -62,32 +63,32 @@ class RectControl : public Control {
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  const vamo::Bounds& Bounds() const { return bounds_; }
-  const vamo::Locks& Locks() const { return locks_; }
+  const vamo::Bounds& Bounds() const { return Trapped(bounds_); }
+  const vamo::Locks& Locks() const { return Trapped(locks_); }
   // The name of the control in which this one lies; empty where it lies on the window itself.
   // Bounds are the window's coordinates in both cases.
-  const std::string& InitialParent() const { return initial_parent_; }
+  const std::string& InitialParent() const { return Trapped(initial_parent_); }
 
-  bool Visible() const { return visible_; }
+  bool Visible() const { return Trapped(visible_); }
   void SetVisible(bool visible);
-  bool Enabled() const { return enabled_; }
+  bool Enabled() const { return Trapped(enabled_); }
   void SetEnabled(bool enabled);
-  const std::string& Tooltip() const { return tooltip_; }
+  const std::string& Tooltip() const { return Trapped(tooltip_); }
 
-  std::int64_t TabIndex() const { return tab_index_; }
-  bool TabStop() const { return tab_stop_; }
+  std::int64_t TabIndex() const { return Trapped(tab_index_); }
+  bool TabStop() const { return Trapped(tab_stop_); }
   void SetTabStop(bool tab_stop);
   // Whether the control can have the keys at all, now.
-  bool CanTakeFocus() const { return TakesKeys() && enabled_ && visible_; }
+  bool CanTakeFocus() const { return Trapped(TakesKeys() && enabled_ && visible_); }
 
   // What a screen reader says of the control. A label without a name of its own is read by its
   // text.
-  const std::string& AccessibleName() const { return accessible_name_; }
-  const std::string& AccessibleDescription() const { return accessible_description_; }
+  const std::string& AccessibleName() const { return Trapped(accessible_name_); }
+  const std::string& AccessibleDescription() const { return Trapped(accessible_description_); }
   void SetAccessibleName(std::string_view name);
   void SetAccessibleDescription(std::string_view description);
   // The caption that stands for this control, or nil.
-  Ref<Label> LabelledBy() const { return labelled_by_.Value(); }
+  Ref<Label> LabelledBy() const { return Trapped(labelled_by_.Value()); }
   void SetLabelledBy(const Ref<Label>& label);
 
   // Called by the window when a key comes while this control has the focus. True: the key has been

@@ -19,9 +19,9 @@ class Label : public RectControl {
   const std::string& Text() const;
   void SetText(std::string_view text);
 
-  const vamo::Font& Font() const { return font_; }
-  Colour TextColour() const { return text_colour_; }
-  TextAlignment Alignment() const { return alignment_; }
+  const vamo::Font& Font() const { return Trapped(font_); }
+  Colour TextColour() const { return Trapped(text_colour_); }
+  TextAlignment Alignment() const { return Trapped(alignment_); }
 
  protected:
   std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;

@@ -17,9 +17,9 @@ class PushButton : public RectControl {
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  const std::string& Caption() const { return caption_; }
-  const vamo::Font& Font() const { return font_; }
-  bool Default() const { return default_; }
+  const std::string& Caption() const { return Trapped(caption_); }
+  const vamo::Font& Font() const { return Trapped(font_); }
+  bool Default() const { return Trapped(default_); }
 
   // Raised when the mouse goes down on the button, with the place in the button's own coordinates.
   // True: the handler has dealt with the press. False: the button goes on as buttons do.

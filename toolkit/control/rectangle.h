@@ -15,11 +15,11 @@ class Rectangle : public RectControl {
   const ClassInfo* Class() const override { return &kClass; }
 
   // In logical pixels, on each side.
-  double BorderThickness() const { return border_thickness_; }
-  Colour FillColour() const { return fill_colour_; }
+  double BorderThickness() const { return Trapped(border_thickness_); }
+  Colour FillColour() const { return Trapped(fill_colour_); }
   // The colours of the border at the left and the top, and at the right and the bottom.
-  Colour TopLeftColour() const { return top_left_colour_; }
-  Colour BottomRightColour() const { return bottom_right_colour_; }
+  Colour TopLeftColour() const { return Trapped(top_left_colour_); }
+  Colour BottomRightColour() const { return Trapped(bottom_right_colour_); }
 
  protected:
   std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;

@@ -18,14 +18,14 @@ class Slider : public RectControl {
 
   // The position, from MinimumValue to MaximumValue.
   std::int64_t Value() const;
-  std::int64_t MinimumValue() const { return minimum_; }
-  std::int64_t MaximumValue() const { return maximum_; }
-  std::int64_t LineStep() const { return line_step_; }
-  std::int64_t PageStep() const { return page_step_; }
+  std::int64_t MinimumValue() const { return Trapped(minimum_); }
+  std::int64_t MaximumValue() const { return Trapped(maximum_); }
+  std::int64_t LineStep() const { return Trapped(line_step_); }
+  std::int64_t PageStep() const { return Trapped(page_step_); }
   // What assistive technology reads for a position: position / positions.
-  void SetPositionsPerUnit(std::int64_t positions) { positions_per_unit_ = positions; }
+  void SetPositionsPerUnit(std::int64_t positions) { positions_per_unit_ = Trapped(positions); }
   double InUnits(std::int64_t position) const {
-    return static_cast<double>(position) / static_cast<double>(positions_per_unit_);
+    return static_cast<double>(Trapped(position)) / static_cast<double>(positions_per_unit_);
   }
 
   // Raised for each new position that the user has set.

@@ -8,6 +8,13 @@ namespace vamo {
 // main thread. Each operation on a window, a control, a menu item or a picture begins with it.
 void _UITrap();
 
+// The same value, after the guard: for an operation that is over in one line.
+template <class T>
+const T& Trapped(const T& value) {
+  _UITrap();
+  return value;
+}
+
 }  // namespace vamo
 
 #endif  // VAMO_TOOLKIT_OBJECT_UI_TRAP_H_

@@ -58,6 +58,7 @@ void Runtime::DeregisterFileType(const FileType& type) {
 }
 
 void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
+  _UITrap();
   const Cause outer = std::exchange(event_cause_, cause);
   const bool outer_had = std::exchange(had_active_window_, static_cast<bool>(active_window_));
   try {

@@ -21,7 +21,7 @@ class TextArea : public TextEdit {
   // carriage return is a line end, and before a line feed it becomes a space without width.
   std::string TextInLines() const;
   // Whether the selection shows only while the window is the active one.
-  bool HideSelection() const { return hide_selection_; }
+  bool HideSelection() const { return Trapped(hide_selection_); }
 
  protected:
   std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;

@@ -83,15 +83,18 @@ void TextEdit::SetText(std::string_view text) {
 }
 
 std::string_view TextEdit::SelectedText() const {
+  _UITrap();
   const auto [first, last] = std::minmax(selection_.anchor, selection_.caret);
   return std::string_view(text_).substr(first, last - first);
 }
 
 bool TextEdit::CanPaste() const {
+  _UITrap();
   return !read_only_ && Runtime::Current().Display().ClipboardMayHoldText();
 }
 
 void TextEdit::Undo() {
+  _UITrap();
   if (!CanUndo()) return;
   State state = std::move(history_.back());
   history_.pop_back();
@@ -99,6 +102,7 @@ void TextEdit::Undo() {
 }
 
 void TextEdit::Cut() {
+  _UITrap();
   if (!CanCut()) return;
   Copy();
   ReplaceSelection("");
@@ -109,18 +113,21 @@ void TextEdit::Delete() {
 }
 
 void TextEdit::Copy() {
+  _UITrap();
   if (CanCopy())
     Runtime::Current().Display().SetClipboardText(WithLineBreaksAs('\n', TextToCopy()));
 }
 
 // A clipboard that may have held text can turn out to hold none, which is to cost no selection.
 void TextEdit::Paste() {
+  _UITrap();
   if (!CanPaste()) return;
   const std::string text = Runtime::Current().Display().ClipboardText();
   if (!text.empty()) UserPasted(text);
 }
 
 void TextEdit::UserSelected(std::size_t anchor, std::size_t caret) {
+  _UITrap();
   const vamo::Selection selected{CharacterBoundary(text_, anchor), CharacterBoundary(text_, caret)};
   if (selected == selection_) return;
   selection_ = selected;

@@ -33,20 +33,20 @@ class TextEdit : public RectControl {
   // the call. Broken UTF-8 becomes U+FFFD.
   void SetText(std::string_view text);
 
-  vamo::Selection Selection() const { return selection_; }
+  vamo::Selection Selection() const { return Trapped(selection_); }
   std::string_view SelectedText() const;
 
-  bool ReadOnly() const { return read_only_; }
-  const vamo::Font& Font() const { return font_; }
-  Colour TextColour() const { return text_colour_; }
-  Colour BackgroundColour() const { return background_colour_; }
-  TextAlignment Alignment() const { return alignment_; }
-  bool HasBorder() const { return has_border_; }
+  bool ReadOnly() const { return Trapped(read_only_); }
+  const vamo::Font& Font() const { return Trapped(font_); }
+  Colour TextColour() const { return Trapped(text_colour_); }
+  Colour BackgroundColour() const { return Trapped(background_colour_); }
+  TextAlignment Alignment() const { return Trapped(alignment_); }
+  bool HasBorder() const { return Trapped(has_border_); }
 
   // The Edit commands. One that cannot act does nothing. Delete takes the selection alone.
-  bool CanUndo() const { return !read_only_ && !history_.empty(); }
-  bool CanCut() const { return !read_only_ && !SelectedText().empty(); }
-  bool CanCopy() const { return !TextToCopy().empty(); }
+  bool CanUndo() const { return Trapped(!read_only_ && !history_.empty()); }
+  bool CanCut() const { return Trapped(!read_only_ && !SelectedText().empty()); }
+  bool CanCopy() const { return Trapped(!TextToCopy().empty()); }
   bool CanPaste() const;
   bool CanDelete() const { return CanCut(); }
   void Undo();
@@ -86,7 +86,8 @@ class TextEdit : public RectControl {
   };
 
   struct Properties;
-  // Adds the present state to the undo history, which is bounded in steps and memory.
+  // Adds the present state to the undo history, which is bounded in steps and, but for the last
+  // one, in memory.
   void Remember();
   void Restore(State state);
 

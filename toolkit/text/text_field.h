@@ -23,10 +23,10 @@ class TextField : public TextEdit {
   // Raised for each key that carries a character, before it acts. True: the key is swallowed.
   Delegate<bool(Ref<TextField>, std::string)> KeyDown;
 
-  const TypingRule& Rule() const { return rule_; }
+  const TypingRule& Rule() const { return Trapped(rule_); }
   // A text shown while the field is empty.
-  const std::string& Hint() const { return hint_; }
-  bool Password() const { return password_; }
+  const std::string& Hint() const { return Trapped(hint_); }
+  bool Password() const { return Trapped(password_); }
 
   bool TakeKey(const Key& key) override;
   // Selects all, so that the next key begins a new number; a double click has selected already.

@@ -8,6 +8,7 @@
 
 #include "toolkit/object/class_info.h"
 #include "toolkit/object/object.h"
+#include "toolkit/object/ui_trap.h"
 
 namespace vamo {
 
@@ -18,18 +19,18 @@ class MenuItem : public Object {
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  const std::string& Name() const { return name_; }
+  const std::string& Name() const { return Trapped(name_); }
   void SetName(std::string_view name);
-  const std::string& Value() const { return value_; }
+  const std::string& Value() const { return Trapped(value_); }
   void SetValue(std::string_view value);
   // The key equivalent, such as "Cmd+Q"; empty for none.
-  const std::string& Shortcut() const { return shortcut_; }
+  const std::string& Shortcut() const { return Trapped(shortcut_); }
   void SetShortcut(std::string_view shortcut);
-  bool AutoEnabled() const { return auto_enabled_; }
+  bool AutoEnabled() const { return Trapped(auto_enabled_); }
   void SetAutoEnabled(bool auto_enabled);
-  bool Enabled() const { return enabled_; }
+  bool Enabled() const { return Trapped(enabled_); }
   void SetEnabled(bool enabled);
-  bool Visible() const { return visible_; }
+  bool Visible() const { return Trapped(visible_); }
   void SetVisible(bool visible);
 
   // Appends a child. Raises MenuHasParentException where `item` is already in a menu.
@@ -40,7 +41,7 @@ class MenuItem : public Object {
   virtual void Constructor() {}
   // The item of that name anywhere below this one, or nil.
   virtual Ref<MenuItem> _Lookup(std::string_view name) const;
-  const std::vector<Ref<MenuItem>>& Children() const { return children_; }
+  const std::vector<Ref<MenuItem>>& Children() const { return Trapped(children_); }
 
  private:
   std::string name_;

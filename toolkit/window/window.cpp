@@ -74,6 +74,7 @@ void Window::MakeView() {
 }
 
 std::string Window::ListedTitle() const {
+  _UITrap();
   const Ref<Application>& app = Runtime::Current().App();
   return state_.title.empty() && app ? app->Description() : state_.title;
 }
@@ -146,6 +147,7 @@ Ref<Object> Window::__New(const ClassInfo& child_class) {
 }
 
 std::vector<Ref<RectControl>> Window::Controls() const {
+  _UITrap();
   std::vector<Ref<RectControl>> controls;
   for (const Child& child : children_) {
     auto control = std::dynamic_pointer_cast<RectControl>(child.object.Share());

@@ -94,7 +94,7 @@ class Window : public Object {
   // The table that is applied once the controls are there.
   virtual std::span<const AccessibleText> AccessibleTexts() const { return {}; }
 
-  bool IsLive() const { return view_ != nullptr; }
+  bool IsLive() const { return Trapped(view_ != nullptr); }
   // Gives up the window's part on the display, without an event, and stops its timers. The run time
   // does so at the program's end.
   void TakeOffDisplay();
@@ -109,7 +109,7 @@ class Window : public Object {
     return Cast<ChildClass>(_ControlByName(name));
   }
 
-  const vamo::MenuHandlers& MenuHandlers() const { return menu_handlers_; }
+  const vamo::MenuHandlers& MenuHandlers() const { return Trapped(menu_handlers_); }
   const Ref<class MenuBar>& MenuBar() const;
   void SetMenuBar(Ref<class MenuBar> menu_bar);
 
@@ -131,15 +131,15 @@ class Window : public Object {
     bool has_background_colour = false;
     Colour background_colour;
   };
-  const State& InitialState() const { return state_; }
+  const State& InitialState() const { return Trapped(state_); }
   // What a list of windows shows: the title, or else the program's name.
   std::string ListedTitle() const;
-  bool IsSplash() const { return state_.type == WindowType::kSplash; }
-  bool IsReading() const { return state_.type == WindowType::kReading; }
+  bool IsSplash() const { return Trapped(state_.type == WindowType::kSplash); }
+  bool IsReading() const { return Trapped(state_.type == WindowType::kReading); }
   // A splash has one size, whatever its state says: a desktop that tiles its windows would make a
   // poster of it.
-  bool CanBeResized() const { return state_.resizeable && !IsSplash(); }
-  bool Visible() const { return visible_; }
+  bool CanBeResized() const { return Trapped(state_.resizeable && !IsSplash()); }
+  bool Visible() const { return Trapped(visible_); }
 
   // Where a display is to put the window that it brings on the screen, as far as it can.
   struct Placement {
@@ -166,7 +166,7 @@ class Window : public Object {
     return name.empty() ? nullptr : ControlNamed<RectControl>(name);
   }
   // The control that has the keys while the window is active, or nil.
-  const Ref<RectControl>& Focus() const { return focus_; }
+  const Ref<RectControl>& Focus() const { return Trapped(focus_); }
 
   // The key that presses a control from anywhere in the window.
   std::optional<KeyCode> KeyThatPresses(const RectControl& control) const;

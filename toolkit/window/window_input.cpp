@@ -51,6 +51,7 @@ void Window::UserActivated() {
 }
 
 void Window::UserDeactivated() {
+  _UITrap();
   Runtime& runtime = Runtime::Current();
   if (runtime.ActiveWindow() == Self(this)) runtime.SetActiveWindow(nullptr);
 }
@@ -137,6 +138,7 @@ bool Window::MoveFocus(bool backwards) {
 }
 
 void Window::SetFocus(const Ref<RectControl>& control) {
+  _UITrap();
   if (focus_ == control) return;
   focus_ = control;
   if (view_ != nullptr) view_->UpdateFocus();

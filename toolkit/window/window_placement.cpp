@@ -24,6 +24,7 @@ Ref<Window> WorkingWindowOnScreen() {
 }  // namespace
 
 Window::Placement Window::WhereToShow() const {
+  _UITrap();
   using Rule = Placement::Rule;
   if (IsSplash()) {
     const Ref<Window> working = WorkingWindowOnScreen();
