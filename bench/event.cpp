@@ -58,7 +58,7 @@ double Nanoseconds(const Move& move) {
 }
 
 void Compare(const std::string& n) {
-  const auto window = Cast<class ControlWnd>(ControlWnd());
+  const auto window = ControlWnd();
   const Ref<Slider> slider = window->rSlider();
   window->nEdit()->SetText(n);
   FlatWindow flat(n);

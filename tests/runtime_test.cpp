@@ -53,6 +53,7 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
       [&] { window->__New<Label>(); },
       [&] { window->_AddControl("x", label); },
       [&] { window->ParentOf(*label); },
+      [&] { window->KeyThatPresses(*label); },
       [&] { window->SetFocus(label); },
       [&] { window->UserFocused(label); },
       [&] { window->_ControlByName("field"); },

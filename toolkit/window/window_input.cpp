@@ -98,6 +98,7 @@ bool Window::TakeKey(const Key& key) {
 }
 
 std::optional<KeyCode> Window::KeyThatPresses(const RectControl& control) const {
+  _UITrap();
   for (const AccessibleText& text : AccessibleTexts()) {
     if (text.control == control.Name()) return text.pressed_by;
   }
