@@ -56,6 +56,7 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
       [&] { window->KeyThatPresses(*label); },
       [&] { window->SetFocus(label); },
       [&] { window->UserFocused(label); },
+      [&] { window->UserClicked(label); },
       [&] { window->_ControlByName("field"); },
       [&] { window->_AddMenuHandler("x", MenuHandler()); },
       [&] { window->SetMenuBar(nullptr); },
@@ -83,8 +84,8 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
       &TextField::ReadOnly, &TextField::TextColour, &TextField::BackgroundColour,
       &TextField::Alignment, &TextField::HasBorder, &TextField::Font, &TextField::CanUndo,
       &TextField::CanCut, &TextField::CanCopy, &TextField::CanPaste, &TextField::Undo,
-      &TextField::Cut, &TextField::Copy, &TextField::Paste, &TextField::Rule, &TextField::Hint,
-      &TextField::Password);
+      &TextField::Cut, &TextField::Copy, &TextField::Paste, &TextField::Delete,
+      &TextField::CanDelete, &TextField::Rule, &TextField::Hint, &TextField::Password);
   add(area, &TextArea::TextInLines, &TextArea::HideSelection);
   add(slider, &Slider::Value, &Slider::MinimumValue, &Slider::MaximumValue, &Slider::LineStep,
       &Slider::PageStep);

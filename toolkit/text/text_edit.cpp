@@ -109,6 +109,7 @@ void TextEdit::Cut() {
 }
 
 void TextEdit::Delete() {
+  _UITrap();
   if (CanDelete()) ReplaceSelection("");
 }
 

@@ -165,6 +165,7 @@ void Window::UserFocused(const Ref<RectControl>& control) {
 }
 
 void Window::UserClicked(const Ref<RectControl>& control) {
+  _UITrap();
   if (std::exchange(entered_by_press_, false) && focus_ == control) control->EnteredByClick();
 }
 
