@@ -92,7 +92,7 @@ class Gestures {
     key.shift = input_.OneIn(10);
     user_.PressKey(key);
   }
-  void Type() { user_.Type(input_.OddText()); }
+  void Dictate() { user_.Dictate(input_.OddText()); }
   void Paste() { user_.Paste(input_.OddText()); }
   void Overwrite() {
     WithShown(Role::kSlider, [&](const ShownControl& slider) {
@@ -172,7 +172,7 @@ inline constexpr Gestures::Kind Gestures::kKinds[] = {
     {24, &Gestures::SwitchAway},     {25, &Gestures::Quit},
     {79, &Gestures::PressDigit},     {107, &Gestures::PressCharacter},
     {129, &Gestures::PressOtherKey}, {151, &Gestures::PressCommand},
-    {162, &Gestures::Type},          {173, &Gestures::Paste},
+    {162, &Gestures::Dictate},       {173, &Gestures::Paste},
     {194, &Gestures::Overwrite},     {199, &Gestures::Drop},
     {210, &Gestures::Select},        {221, &Gestures::Click},
     {225, &Gestures::PressButton},   {245, &Gestures::Drag},

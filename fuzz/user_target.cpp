@@ -96,10 +96,12 @@ void CheckHeard(User& user) {
   for (const std::string& heard : user.Hears()) {
     const Ref<class ControlWnd> window = LiveControlWnd();
     Require(window && Runtime::Current().ActiveWindow() == window, "said in the active window");
-    if (heard == "range of N (4 - 1,1000)") continue;
-    Require(heard == "Student's t " + window->tText()->Text() + ", two-tailed p " +
-                         window->pText()->Text() + ", 95% confidence interval of r " +
-                         window->ciText()->Text(),
+    const std::string results = "Student's t " + window->tText()->Text() + ", two-tailed p " +
+                                window->pText()->Text() + ", 95% confidence interval of r " +
+                                window->ciText()->Text();
+    const bool warned = heard.ends_with("range of N (4 - 1,1000)");
+    Require(warned == window->nText()->Visible(), "warned as it shows: " + heard);
+    Require(heard.starts_with(results) || window->tText()->Text().empty(),
             "said as it shows: " + heard);
   }
 }

@@ -1,5 +1,7 @@
 #include "shell/about_wnd.h"
 
+#include <array>
+
 #include "controlwnd/chart_small.h"
 #include "controlwnd/control_wnd.h"
 #include "controlwnd/streams.h"
@@ -34,6 +36,9 @@ constexpr auto kTimer1 = TimerStream({.run_mode = RunMode::kSingle, .period = 40
 
 static_assert(kCanvas1.Length() == 322, "the streams are fixed to the byte");
 static_assert(kTimer1.Length() == 31, "the streams are fixed to the byte");
+
+constexpr std::array kAccessibleTexts{
+    AccessibleText{.control = "StaticText5", .describes_window = true}};
 
 // Both windows are reached by name, not through the object that an event came to.
 void HandOver() {
@@ -72,6 +77,8 @@ Ref<Label> AboutWnd::StaticText5() { return ControlNamed<Label>("StaticText5"); 
 Ref<Canvas> AboutWnd::Canvas1() { return ControlNamed<Canvas>("Canvas1"); }
 Ref<Label> AboutWnd::StaticText1() { return ControlNamed<Label>("StaticText1"); }
 Ref<Timer> AboutWnd::Timer1() { return ControlNamed<Timer>("Timer1"); }
+
+std::span<const AccessibleText> AboutWnd::AccessibleTexts() const { return kAccessibleTexts; }
 
 void AboutWnd::Timer1_Action(Ref<Timer> /*timer*/) { HandOver(); }
 

@@ -2,6 +2,7 @@
 #define VAMO_SHELL_ABOUT_WND_H_
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,7 @@ class AboutWnd : public Window {
   virtual Ref<Label> StaticText1();
   virtual Ref<Timer> Timer1();
   virtual void Timer1_Action(Ref<Timer> timer);
+  std::span<const AccessibleText> AccessibleTexts() const override;
   bool Event_KeyDown(std::string key) override;
   bool Event_MouseDown(std::int64_t x, std::int64_t y) override;
 };

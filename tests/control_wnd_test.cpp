@@ -127,9 +127,9 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
     EXPECT_EQ(heard_after(250ms), nothing);
     window_->rEdit()->SetText(r);
   }
-  const std::vector<std::string> results{
-      "Student's t 3.06, two-tailed p .00490, 95% confidence interval of r +.170 to +.729"};
-  EXPECT_EQ(heard_after(300ms), results);
+  const std::string results =
+      "Student's t 3.06, two-tailed p .00490, 95% confidence interval of r +.170 to +.729";
+  EXPECT_EQ(heard_after(300ms), std::vector{results + ", Fisher's z 0.549"});
   EXPECT_EQ(program_.display().RunningTimers(), 1U) << "only that of the splash";
   window_->rEdit()->SetText(".6");
   window_->rEdit()->SetText(".5");
@@ -137,9 +137,9 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
   window_->nEdit()->SetText("9999");
   EXPECT_EQ(heard_after(1000ms), std::vector<std::string>{"range of N (4 - 1,1000)"});
   window_->nEdit()->SetText("2");
-  EXPECT_EQ(heard_after(1000ms).size(), 1U) << "the warning still stands, and is not said again";
+  EXPECT_EQ(heard_after(1000ms).size(), 1U);
   window_->nEdit()->SetText("30");
-  EXPECT_EQ(heard_after(1000ms), results);
+  EXPECT_EQ(heard_after(1000ms), std::vector{results}) << "Fisher's z has not changed";
   window_->nEdit()->SetText("31");
   user.SwitchAway();
   window_->nEdit()->SetText("9999");

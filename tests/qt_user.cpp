@@ -32,7 +32,7 @@ class QtElement {
         {QAccessible::EditableText, "text"},  {QAccessible::Slider, "slider"},
         {QAccessible::Button, "button"},      {QAccessible::StaticText, "label"},
         {QAccessible::Window, "frame"},       {QAccessible::MenuBar, "menu bar"},
-        {QAccessible::MenuItem, "menu item"},
+        {QAccessible::MenuItem, "menu item"}, {QAccessible::Dialog, "dialog"},
     };
     const auto found = kNames.find(accessible_->role());
     return found == kNames.end() ? "" : found->second;

@@ -6,6 +6,7 @@
 #include "displays/qt/slider.h"
 #include "displays/qt/window.h"
 #include "toolkit/control/label.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -95,7 +96,9 @@ QAccessibleInterface* MakeAccessible(const QString& /*class_name*/, QObject* obj
   if (auto* label = dynamic_cast<LabelWidget*>(object)) return new AccessibleLabel(*label);
   // Qt takes a plain widget for a part of a window even where it is one.
   if (auto* window = dynamic_cast<WindowWidget*>(object)) {
-    return new QAccessibleWidget(window, QAccessible::Window);
+    const Window* shown = window->ShownWindow();
+    const bool is_dialog = shown != nullptr && shown->IsSplash();
+    return new QAccessibleWidget(window, is_dialog ? QAccessible::Dialog : QAccessible::Window);
   }
   return nullptr;
 }

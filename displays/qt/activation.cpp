@@ -1,6 +1,7 @@
 #include "displays/qt/activation.h"
 
 #include <QApplication>
+#include <QWindow>
 #include <chrono>
 
 #include "displays/qt/window.h"
@@ -11,6 +12,8 @@ namespace {
 
 // More than a window manager needs, less than a user to go to another window.
 constexpr std::chrono::milliseconds kPatience{1000};
+// What a compositor needs to give the focus of a menu back to its window.
+constexpr std::chrono::milliseconds kTimeToReturn{300};
 
 void Report(const WindowWidget& widget) {
   if (Window* window = widget.ShownWindow()) window->UserActivated();
@@ -21,6 +24,14 @@ void Report(const WindowWidget& widget) {
 Activation::Activation() {
   patience_.setSingleShot(true);
   QObject::connect(&patience_, &QTimer::timeout, [this] { GiveUp(); });
+  return_.setSingleShot(true);
+  QObject::connect(&return_, &QTimer::timeout, [this] { GiveUpReturn(); });
+  QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &patience_,
+                   [this](const QWindow* window) { NoteFocus(window); });
+}
+
+void Activation::NoteFocus(const QWindow* window) {
+  focus_in_menu_ = window != nullptr && window->type() == Qt::Popup;
 }
 
 void Activation::Pressed(WindowWidget& window) {
@@ -41,11 +52,20 @@ void Activation::Activated(const WindowWidget& window) {
   if (awaited_ != nullptr && awaited_ != &window && awaited_->isVisible()) return;
   awaited_ = nullptr;
   patience_.stop();
+  left_for_menu_ = nullptr;
   Report(window);
 }
 
-void Activation::Deactivated(const WindowWidget& window) {
-  if (Window* deactivated = window.ShownWindow()) deactivated->UserDeactivated();
+void Activation::Deactivated(WindowWidget& window) {
+  if (focus_in_menu_) {
+    left_for_menu_ = &window;
+    return_.start(kTimeToReturn);
+  } else if (Window* deactivated = window.ShownWindow())
+    deactivated->UserDeactivated();
+}
+
+void Activation::GiveUpReturn() {
+  if (left_for_menu_ != nullptr && !left_for_menu_->isActiveWindow()) Deactivated(*left_for_menu_);
 }
 
 void Activation::GiveUp() {

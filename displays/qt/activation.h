@@ -5,13 +5,17 @@
 #include <QPointer>
 #include <QTimer>
 
+class QWindow;
+
 namespace vamo {
 
 class WindowWidget;
 
 // Passes on to the toolkit which window the platform has made the active one. A menu that closes
 // can give the keys back to its window for a moment although its item has just brought another
-// window up: while a shown window waits for the keys, no other one is reported.
+// window up: while a shown window waits for the keys, no other one is reported. Where a menu itself
+// has the keyboard focus, as on Wayland, its window is without it for a moment when the menu
+// closes: that is not reported either, since a menu is no other window.
 class Activation {
  public:
   Activation();
@@ -23,14 +27,22 @@ class Activation {
   void Await(WindowWidget& window);
   // What the platform says.
   void Activated(const WindowWidget& window);
-  void Deactivated(const WindowWidget& window);
+  void Deactivated(WindowWidget& window);
 
  private:
+  void NoteFocus(const QWindow* window);
+  // A menu has closed, and its window has not got the focus back.
+  void GiveUpReturn();
   // The platform has given the keys to no window, or has left them where they were.
   void GiveUp();
 
   QPointer<WindowWidget> awaited_;
   QTimer patience_;
+  // Whether the window with the keyboard focus is a menu.
+  bool focus_in_menu_ = false;
+  // The window that is to get the focus back from its menu.
+  QPointer<WindowWidget> left_for_menu_;
+  QTimer return_;
 };
 
 }  // namespace vamo

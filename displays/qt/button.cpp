@@ -3,6 +3,8 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 
+#include "toolkit/window/window.h"
+
 namespace vamo {
 
 ButtonWidget::ButtonWidget(PushButton& button, QWidget& parent) : WidgetFor(button, parent) {
@@ -17,6 +19,9 @@ void ButtonWidget::ShowState() {
   const PushButton& button = TheControl();
   setText(ToQString(button.Caption()).replace(u'&', QStringLiteral("&&")));
   setDefault(button.Default());
+  // Only to be read out: the toolkit knows what the key does. A new text takes it away.
+  const bool has_key = button.Window()->KeyThatPresses(button) == KeyCode::kHelp;
+  setShortcut(has_key ? QKeySequence(Qt::Key_F1) : QKeySequence());
 }
 
 void ButtonWidget::mousePressEvent(QMouseEvent* event) {

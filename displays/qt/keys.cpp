@@ -131,8 +131,11 @@ bool KeyRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
     event->accept();
     return true;
   }
-  if (event->type() != QEvent::KeyPress) return false;
-  return TakeKey(static_cast<QKeyEvent&>(*event));
+  const auto is_dead = [&] { return IsDead(static_cast<QKeyEvent&>(*event).key()); };
+  if (event->type() == QEvent::KeyPress) return TakeKey(static_cast<QKeyEvent&>(*event));
+  // Of a dead key an input method keeps the press to itself.
+  return event->type() == QEvent::KeyRelease && is_dead() &&
+         TakeKey(static_cast<QKeyEvent&>(*event));
 }
 
 bool KeyRouter::TakeKey(const QKeyEvent& event) {

@@ -56,6 +56,7 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
       keys_(*this),
       presses_(*this, activation) {
   setWindowTitle(ToQString(window.ListedTitle()));
+  setAccessibleDescription(ToQString(window.AccessibleDescription()));
   setObjectName(ToQString(window.Class()->name));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

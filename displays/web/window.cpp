@@ -38,6 +38,10 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
       content_(frame_, "div", &pressed_) {
   const Window::State& state = window.InitialState();
   frame_.SetAttribute("aria-label", window.ListedTitle());
+  if (window.IsSplash()) frame_.SetAttribute("role", "dialog");
+  if (!window.AccessibleDescription().empty()) {
+    frame_.SetAttribute("aria-description", window.AccessibleDescription());
+  }
   frame_.SetAttribute("tabindex", "-1");
   frame_.SetAttribute("class", window.IsSplash() ? "window splash" : "window");
   frame_.SetFlag("hidden", true);

@@ -156,7 +156,9 @@ class ScreenUser : public User {
     const std::optional<Element> application = Application();
     if (!application) return frames;
     for (const Element& window : application->Children()) {
-      if (window.RoleName() != "frame" || !window.IsShowing()) continue;
+      // The splash is a dialog.
+      const bool is_window = window.RoleName() == "frame" || window.RoleName() == "dialog";
+      if (!is_window || !window.IsShowing()) continue;
       frames.titles.push_back(TitleOf(window));
       if (!window.IsActive()) continue;
       frames.active_title = frames.titles.back();

@@ -79,9 +79,14 @@ TEST(ControlWindowJourney, AScreenReaderSpeaksTheResultsAndTheWarning) {
     const std::vector<std::string> heard = user.Hears();
     ASSERT_FALSE(heard.empty());
     EXPECT_EQ(heard.back(),
-              "Student's t 3.06, two-tailed p .00490, 95% confidence interval of r +.170 to +.729");
+              "Student's t 3.06, two-tailed p .00490, 95% confidence interval of r +.170 to +.729, "
+              "Fisher's z 0.549");
     Retype(user, "N", "");
-    EXPECT_EQ(user.Hears(), std::vector<std::string>{"range of N (4 - 1,1000)"});
+    EXPECT_EQ(user.Hears(), std::vector<std::string>{}) << "30 begins with a 3";
+    user.LetTimePass(500ms);
+    EXPECT_EQ(user.Hears().back(),
+              "Student's t .00, two-tailed p .99999, 95% confidence interval of r n/a to n/a, "
+              "range of N (4 - 1,1000)");
   });
 }
 

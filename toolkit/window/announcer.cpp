@@ -1,10 +1,13 @@
 #include "toolkit/window/announcer.h"
 
+#include <algorithm>
 #include <chrono>
+#include <string_view>
 #include <utility>
 
 #include "toolkit/control/label.h"
 #include "toolkit/runtime/runtime.h"
+#include "toolkit/text/text_edit.h"
 #include "toolkit/window/window.h"
 
 namespace vamo {
@@ -14,11 +17,15 @@ namespace {
 constexpr std::chrono::milliseconds kPeriod{50};
 constexpr int kQuietPeriods = 6;
 
+std::string_view TextOf(const RectControl& control) {
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return label->Text();
+  return dynamic_cast<const TextEdit&>(control).Text();
+}
+
 }  // namespace
 
-void Announcer::LabelChanged(Announced when) {
+void Announcer::TextChanged() {
   if (!window_.IsLive()) return;
-  if (when == Announced::kAtOnce) return Say(when);
   quiet_periods_ = 0;
   if (timer_ != nullptr) return;
   timer_ = Runtime::Current().Display().StartTimer(kPeriod, [this] {
@@ -30,28 +37,28 @@ void Announcer::LabelChanged(Announced when) {
 void Announcer::Tick() {
   if (++quiet_periods_ < kQuietPeriods) return;
   Stop();
-  Say(Announced::kAfterPause);
+  Say();
 }
 
-void Announcer::Say(Announced which) {
+void Announcer::Say() {
   if (Runtime::Current().ActiveWindow() != Self(&window_)) return;
-  std::string sentence = Sentence(which);
-  if (sentence.empty() || sentence == said_) return;
-  said_ = std::move(sentence);
-  Runtime::Current().Display().Announce(said_);
-}
-
-std::string Announcer::Sentence(Announced which) const {
+  std::vector<std::string> shown;
   std::string sentence;
   for (const AccessibleText& text : window_.AccessibleTexts()) {
-    if (text.announced != which) continue;
-    const auto label = window_.ControlNamed<Label>(text.control);
-    if (!label->Visible() || label->Text().empty()) continue;
+    if (text.announced == Announced::kNot) continue;
+    const auto control = window_.ControlNamed<RectControl>(text.control);
+    const std::string_view value = TextOf(*control);
+    if (!control->Visible() || value.empty()) continue;
+    shown.push_back(std::string(text.description.empty() ? text.name : text.description) + ' ');
+    shown.back() += value;
+    const bool is_said = std::find(said_.begin(), said_.end(), shown.back()) != said_.end();
+    if (is_said && text.announced == Announced::kWhenChanged) continue;
     if (!sentence.empty()) sentence += ", ";
-    (sentence += text.description) += ' ';
-    sentence += label->Text();
+    sentence += shown.back();
   }
-  return sentence;
+  if (shown == said_) return;
+  said_ = std::move(shown);
+  if (!sentence.empty()) Runtime::Current().Display().Announce(sentence);
 }
 
 }  // namespace vamo

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "toolkit/runtime/display.h"
 
@@ -10,34 +11,34 @@ namespace vamo {
 
 class Window;
 
-// Whether and when a change of a label is announced: together with others once changes have
-// ceased, or at once.
-enum class Announced { kNot, kAfterPause, kAtOnce };
+// Whether a text is announced: with the others whenever one of them has changed, or only when it
+// has itself changed.
+enum class Announced { kNot, kAlways, kWhenChanged };
 
-// Tells a screen reader which of a window's labels have changed, which it would pass over, since
-// they never have the keys: results together once they have come to rest, a warning at once. It
-// says what shows, never the same twice running, and only while the window is the active one.
+// Tells a screen reader of results and warnings that have changed. They never have the focus, so it
+// would pass over them. It announces all of them in one sentence once changes have ceased, never
+// the same twice running, and only while the window is the active one.
 class Announcer {
  public:
   // `window` outlives it.
   explicit Announcer(Window& window) : window_(window) {}
 
-  // A label that is to be announced has changed. To be cheap at every step of a drag, a change
-  // does not start the timer anew.
-  void LabelChanged(Announced when);
+  // A text that is to be announced has changed. To be cheap at every step of a drag, a change does
+  // not restart the timer.
+  void TextChanged();
   // Forgets what is still to be said.
   void Stop() { timer_ = nullptr; }
 
  private:
   void Tick();
-  void Say(Announced which);
-  std::string Sentence(Announced which) const;
+  void Say();
 
   Window& window_;
   std::unique_ptr<RunningTimer> timer_;
   // The timer's periods since the last change.
   int quiet_periods_ = 0;
-  std::string said_;
+  // What showed at the last announcement, control by control.
+  std::vector<std::string> said_;
 };
 
 }  // namespace vamo

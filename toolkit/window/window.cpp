@@ -60,7 +60,7 @@ void Window::ApplyAccessibleTexts() {
     control->SetAccessibleDescription(text.description);
     control->SetLabelledBy(ControlNamed<Label>(text.labelled_by));
     if (text.announced != Announced::kNot) {
-      control->SetObserver([this, when = text.announced] { announcer_.LabelChanged(when); });
+      control->SetObserver([this] { announcer_.TextChanged(); });
     }
     if (text.positions_per_unit == 1) continue;
     ControlNamed<Slider>(text.control)->SetPositionsPerUnit(text.positions_per_unit);
@@ -71,6 +71,13 @@ void Window::MakeView() {
   view_ = Runtime::Current().Display().OpenWindow(*this);
   for (const Ref<RectControl>& control : Controls()) control->Open(*view_);
   MoveFocus(/*backwards=*/false);
+}
+
+std::string Window::AccessibleDescription() const {
+  for (const AccessibleText& text : AccessibleTexts()) {
+    if (text.describes_window) return ControlNamed<Label>(text.control)->Text();
+  }
+  return "";
 }
 
 std::string Window::ListedTitle() const {

@@ -30,12 +30,14 @@ struct AccessibleText {
   std::string_view description = {};
   // The label that is the control's caption.
   std::string_view labelled_by = {};
-  // Of a label.
+  // Of a label or a text.
   Announced announced = Announced::kNot;
   // Of a slider.
   std::int64_t positions_per_unit = 1;
   // The key that presses a button, from anywhere in the window.
   std::optional<KeyCode> pressed_by = std::nullopt;
+  // Whether a label's text is the description of the whole window.
+  bool describes_window = false;
 };
 
 // What a window is for. The numbers are those of the property Type.
@@ -168,6 +170,8 @@ class Window : public Object {
   // The control that has the keys while the window is active, or nil.
   const Ref<RectControl>& Focus() const { return Trapped(focus_); }
 
+  // What a screen reader says of the window beside its title; empty for nothing.
+  std::string AccessibleDescription() const;
   // The key that presses a control from anywhere in the window.
   std::optional<KeyCode> KeyThatPresses(const RectControl& control) const;
 
