@@ -1,9 +1,10 @@
-// What the Qt display looks like: sizes, colours, what is cut off.
+// What the Qt display looks like: as its kept pictures, at each size, and what is cut off.
+//
+// VAMO_RENEW_PICTURES=1 in the environment keeps what the windows look like now.
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QFontMetricsF>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,7 +15,8 @@
 #include <QSlider>
 #include <QTest>
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
+#include <string>
 #include <utility>
 
 #include "journeys/journey_steps.h"
@@ -26,18 +28,6 @@
 
 namespace vamo {
 namespace {
-
-TEST(QtLooksTest, TheContentIsExactlyAsLargeAsItSays) {
-  InControlWindow([](User&) {
-    const QWidget& window = *QApplication::activeWindow();
-    const int bar = window.findChild<QMenuBar*>()->height();
-    EXPECT_EQ(window.size(), QSize(500, 425 + bar));
-    EXPECT_EQ(window.minimumSize(), window.maximumSize());
-    const auto& slider = Named<QSlider>("r");
-    EXPECT_EQ(slider.mapTo(&window, QPoint()), QPoint(25, 220 + bar));
-    EXPECT_EQ(slider.size(), QSize(450, 15));
-  });
-}
 
 // What a widget draws, on white, where it draws no background of its own.
 QImage Drawn(QWidget& widget) {
@@ -91,23 +81,6 @@ TEST(QtLooksTest, TheInfoTextsSelectionShowsOnlyWhileItsWindowIsActive) {
   });
 }
 
-double Luminance(const QColor& colour) {
-  const auto linear = [](double share) {
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
-}
-
-// The greatest contrast to white among the pixels of a part.
-double Contrast(const QImage& image, const QRect& part) {
-  double contrast = 0;
-  ForEachPixel(image, part, [&](const QPoint&, const QColor& colour) {
-    contrast = std::max(contrast, 1.05 / (Luminance(colour) + 0.05));
-  });
-  return contrast;
-}
-
 void ExpectNoTextCutOff() {
   for (auto* label : QApplication::activeWindow()->findChildren<QLabel*>()) {
     const QRect ink = Ink(*label);
@@ -117,6 +90,26 @@ void ExpectNoTextCutOff() {
     const int left = label->alignment().testFlag(Qt::AlignHCenter) ? 1 : 0;
     EXPECT_TRUE(label->rect().adjusted(left, 0, -1, 0).contains(ink)) << text;
   }
+}
+
+// The window in front as it looked when its picture was kept; some pixels of a letter may differ.
+void ExpectPicture(const std::string& name) {
+  const std::string kept_in = VAMO_PICTURES "/" + name + ".png";
+  const QImage shown = QApplication::activeWindow()->grab().toImage();
+  const auto save = [&](const std::string& file) { shown.save(QString::fromStdString(file)); };
+  if (std::getenv("VAMO_RENEW_PICTURES") != nullptr) save(kept_in);
+  const QImage kept(QString::fromStdString(kept_in));
+  ASSERT_EQ(shown.size(), kept.size()) << name;
+  int differing = 0;
+  ForEachPixel(shown, shown.rect(), [&](const QPoint& place, const QColor& colour) {
+    const QColor other = kept.pixelColor(place);
+    const auto differs = [](int one, int two) { return std::abs(one - two) > 30; };
+    differing += differs(colour.red(), other.red()) || differs(colour.green(), other.green()) ||
+                 differs(colour.blue(), other.blue());
+  });
+  const std::string shown_in = testing::TempDir() + "vamo_" + name + ".png";
+  if (differing > 12) save(shown_in);
+  EXPECT_LE(differing, 12) << shown_in << " is not as " << kept_in;
 }
 
 void MakeWindowsLarger(User& user, int steps) {
@@ -135,39 +128,24 @@ TEST(QtLooksTest, NoTextIsCutOffAtAnySize) {
   });
 }
 
-// What the label of that text has drawn, in the coordinates of the fields, and how much narrower
-// that is than the font has it.
-QRect InkOf(const QString& text, double* lost_width) {
-  for (auto* label : QApplication::activeWindow()->findChildren<QLabel*>()) {
-    if (label->text() != text) continue;
-    const QRect ink = Ink(*label);
-    *lost_width = QFontMetricsF(label->font()).tightBoundingRect(text).width() - ink.width();
-    return ink.translated(label->pos());
-  }
-  throw std::runtime_error(text.toStdString());
-}
-
-// With a wide font, that is; these tests run with DejaVu Sans.
-TEST(QtLooksTest, CaptionsAreNeitherSqueezedNorTouchWhatTheyStandBeside) {
-  InControlWindow([](User& user) {
-    user.Type("50");
-    user.Click(Role::kText, "N");
-    user.Type("200");
-    for (const double factor : {1.0, 2.0}) {
-      double lost_width = 0;
-      const int interval = InkOf("+.388 to +.597", &lost_width).left();
-      const std::pair<const char*, int> kCaptions[] = {
-          {"r =", Named<QLineEdit>("r").x()},
-          {"N =", Named<QLineEdit>("N").x()},
-          {"Fisher's z =", Named<QLineEdit>("Fisher's z").x()},
-          {"95% CI of r =", interval}};
-      for (const auto& [text, next] : kCaptions) {
-        const QRect ink = InkOf(QString::fromUtf8(text), &lost_width);
-        EXPECT_LE(lost_width, 1.5) << text;
-        EXPECT_GE(next - ink.right() - 1, 4 * factor) << text;
-      }
-      MakeWindowsLarger(user, 4);
-    }
+TEST(QtLooksTest, TheWindowsLookAsTheyDid) {
+  FromTheStart([](User& user) {
+    QApplication::setCursorFlashTime(0);
+    ExpectPicture("splash");
+    user.PressKey(Key::Character(" "));
+    user.DragSlider("r", {37});
+    user.DragSlider("N", {200});
+    Retype(user, "r", ".5");
+    ExpectPicture("control_window");
+    Retype(user, "N", "2");
+    user.LetTimePass(std::chrono::milliseconds(300));  // The beep is seen.
+    ExpectPicture("control_window_warned");
+    MakeWindowsLarger(user, 4);
+    user.Click(Role::kSlider, "r");
+    ExpectPicture("control_window_at_twice_its_size");
+    user.PressKey(Key::Command("0"));
+    user.Click(Role::kButton, "Info");
+    ExpectPicture("info_window");
   });
 }
 
@@ -188,8 +166,6 @@ TEST(QtLooksTest, KeysMakeAllWindowsLargerAndThenAsTheyWere) {
     EXPECT_EQ(control.size(), QSize(1000, 850 + bar));
     EXPECT_EQ(Named<QSlider>("r").geometry(), QRect(50, 440, 900, 30));
     EXPECT_EQ(Named<QLineEdit>("r").font().pixelSize(), 24);
-    // The upper edge of a knob that has grown as well.
-    EXPECT_GE(Contrast(Drawn(Named<QSlider>("r")), QRect(14, 0, 1, 6)), 3);
     EXPECT_EQ(MenuLetters(), 2 * menu_letters);
     user.Click(Role::kButton, "Info");
     EXPECT_EQ(QApplication::activeWindow()->width(), 900);
@@ -200,34 +176,6 @@ TEST(QtLooksTest, KeysMakeAllWindowsLargerAndThenAsTheyWere) {
     EXPECT_EQ(Drawn(control), before);
     MakeWindowsLarger(user, 20);
     EXPECT_TRUE(control.screen()->availableGeometry().contains(control.frameGeometry()));
-  });
-}
-
-TEST(QtLooksTest, OutlinesStandOutAndShowWhereTheKeysGo) {
-  InControlWindow([](User& user) {
-    constexpr double kLeast = 3;
-    auto& field = Named<QLineEdit>("r");
-    auto& slider = Named<QSlider>("r");
-    auto& button = Named<QPushButton>("Info");
-    const QImage field_with_keys = Drawn(field);
-    const QImage slider_without = Drawn(slider);
-    user.Click(Role::kSlider, "r");
-    const QRect edge(0, field.height() / 2, 2, 1);
-    for (const QImage& drawn : {field_with_keys, Drawn(field), Drawn(button)}) {
-      EXPECT_GE(Contrast(drawn, edge), kLeast);
-    }
-    EXPECT_NE(Drawn(field).copy(edge), field_with_keys.copy(edge));
-    user.PressKey({KeyCode::kHome, "", false, false});
-    for (const QImage& drawn : {slider_without, Drawn(slider)}) {
-      EXPECT_GE(Contrast(drawn, QRect(drawn.width() / 2, 0, 1, drawn.height())), kLeast);
-      // Above the groove there is nothing but the knob's upper edge.
-      EXPECT_GE(Contrast(drawn, QRect(7, 0, 1, 3)), kLeast);
-    }
-    EXPECT_NE(Drawn(slider), slider_without);
-    const int groove = slider.height() / 2;
-    const QColor ahead = Drawn(slider).pixelColor(100, groove);
-    user.PressKey({KeyCode::kEnd, "", false, false});
-    EXPECT_NE(Drawn(slider).pixelColor(100, groove), ahead) << "how far the knob has come";
   });
 }
 
