@@ -31,8 +31,7 @@ struct WindowOnScreen {
 };
 
 // Watches the windows and the alerts of a desktop, and does to windows and clipboard what its user
-// can. It sends no key and no press: these come from the X server that every desktop here has at
-// its bottom.
+// can. It sends no key and no press.
 class Desktop {
  public:
   virtual ~Desktop() = default;
@@ -52,10 +51,6 @@ class Desktop {
   virtual int Width() const = 0;
   virtual int Height() const = 0;
 };
-
-// Keys and mouse, by xdotool. Returns when the X server has the events, not when a program has
-// dealt with them.
-void Xdotool(std::vector<std::string> arguments);
 
 // The desktop that the environment names. Throws where there is none.
 std::unique_ptr<Desktop> OpenDesktop();

@@ -9,28 +9,14 @@
 #include <thread>
 
 namespace vamo {
-namespace {
-
-using std::chrono_literals::operator""s;
-
-// To a pixel of the screen.
-void MoveMouse(int x, int y) { Xdotool({"mousemove", std::to_string(x), std::to_string(y)}); }
-
-}  // namespace
-
 OutsideUser::OutsideUser(Child& program, Desktop& desktop, Ears& ears)
     : program_(program), desktop_(desktop), ears_(ears) {
   const bool shown =
-      Await([&] { return !desktop_.WindowsOf(program_.id()).empty() || !program_.Running(); }, 30s);
+      Await([&] { return !desktop_.WindowsOf(program_.id()).empty() || !program_.Running(); },
+            std::chrono::seconds(30));
   now_ = std::chrono::steady_clock::now();
   if (!shown || !program_.Running()) throw std::runtime_error("the program shows no window");
   AwaitRest();
-}
-
-void OutsideUser::PressCombination(const std::string& keys) { Xdotool({"key", keys}); }
-
-void OutsideUser::TypePrintable(std::string_view text) {
-  Xdotool({"type", "--delay", "1", "--", std::string(text)});
 }
 
 // A logical pixel of the program may be several of the screen, and on Wayland no program knows
@@ -39,26 +25,14 @@ void OutsideUser::MoveTo(int x, int y) {
   const Place content = Frame().Extents();
   const WindowOnScreen window = WindowTitled(ActiveTitle());
   const double scale = std::round(window.width / static_cast<double>(content.width));
-  MoveMouse(window.x + static_cast<int>(scale * (x - content.x)),
-            window.y + static_cast<int>(scale * (y - content.y)));
+  hand_.MoveTo(window.x + static_cast<int>(scale * (x - content.x)),
+               window.y + static_cast<int>(scale * (y - content.y)));
 }
-
-void OutsideUser::PressMouse() { Xdotool({"mousedown", "1"}); }
-
-void OutsideUser::ReleaseMouse() { Xdotool({"mouseup", "1"}); }
-
-void OutsideUser::Scroll(int notches) {
-  Xdotool({"click", "--repeat", std::to_string(std::abs(notches)), notches > 0 ? "4" : "5"});
-}
-
-void OutsideUser::SetClipboard(std::string_view text) { desktop_.Offer("clipboard", text); }
-
-std::string OutsideUser::Clipboard() { return desktop_.Offered("clipboard"); }
 
 void OutsideUser::PasteSelection(Role role, std::string_view name, std::string_view text) {
   Click(role, name);
   desktop_.Offer("primary", text);
-  Act([] { Xdotool({"click", "2"}); });
+  Act([this] { hand_.Click(2); });
 }
 
 void OutsideUser::Close(std::string_view title) {
@@ -70,8 +44,8 @@ void OutsideUser::ClickCloseButton(std::string_view title) {
   const WindowOnScreen window = WindowTitled(title);
   // The window manager puts it at the right end of the title bar, as wide as the bar is high.
   const int half = window.frame_top / 2;
-  MoveMouse(window.x + window.width + window.frame_right - half, window.y - half);
-  Act([] { Xdotool({"click", "1"}); });
+  hand_.MoveTo(window.x + window.width + window.frame_right - half, window.y - half);
+  Act([this] { hand_.Click(1); });
 }
 
 void OutsideUser::MoveWindow(std::string_view title, int x, int y) {

@@ -3,6 +3,7 @@
 #define VAMO_TESTS_HARNESS_OUTSIDE_USER_H_
 
 #include <chrono>
+#include <cstdlib>
 #include <functional>
 #include <optional>
 #include <string>
@@ -13,6 +14,7 @@
 #include "child.h"
 #include "desktop.h"
 #include "ears.h"
+#include "hand.h"
 #include "screen_user.h"
 
 namespace vamo {
@@ -24,12 +26,12 @@ class OutsideUser final : public ScreenUser<Element> {
   // Waits until the program shows its first window.
   OutsideUser(Child& program, Desktop& desktop, Ears& ears);
 
-  void SetClipboard(std::string_view text) override;
+  void SetClipboard(std::string_view text) override { desktop_.Offer("clipboard", text); }
   void Close(std::string_view title) override;
   void ActivateWindow(std::string_view title) override;
   // Time goes on while the user looks: waits with no act between them count from the last act.
   void LetTimePass(std::chrono::milliseconds time) override;
-  std::string Clipboard() override;
+  std::string Clipboard() override { return desktop_.Offered("clipboard"); }
   int Beeps() override { return desktop_.Bells(); }
   std::vector<std::string> Hears() override { return ears_.Notices(); }
   std::vector<Element> Elements() override;
@@ -49,12 +51,12 @@ class OutsideUser final : public ScreenUser<Element> {
   pid_t Process() const { return program_.id(); }
 
  private:
-  void PressCombination(const std::string& keys) override;
-  void TypePrintable(std::string_view text) override;
+  void PressCombination(const std::string& keys) override { hand_.Press(keys); }
+  void TypePrintable(std::string_view text) override { hand_.Type(std::string(text)); }
   void MoveTo(int x, int y) override;
-  void PressMouse() override;
-  void ReleaseMouse() override;
-  void Scroll(int notches) override;
+  void PressMouse() override { hand_.PressButton(); }
+  void ReleaseMouse() override { hand_.ReleaseButton(); }
+  void Scroll(int notches) override { hand_.Click(notches > 0 ? 4 : 5, std::abs(notches)); }
   std::optional<Element> Application() override;
   Frames Look() override { return frames_; }
   void Settle() override;
@@ -65,6 +67,7 @@ class OutsideUser final : public ScreenUser<Element> {
 
   Child& program_;
   Desktop& desktop_;
+  const Hand hand_;
   Ears& ears_;
   std::optional<Element> application_;
   // As they were when the program had come to rest.

@@ -5,6 +5,10 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+extern "C" {
+#include <xdo.h>
+}
+
 #include <array>
 #include <chrono>
 #include <stdexcept>
@@ -24,7 +28,8 @@ std::vector<std::string> Xclip(const std::string& selection, const std::string& 
 }  // namespace
 
 struct XDesktop::Parts {
-  Display* display = nullptr;
+  xdo_t* xdo = xdo_new(nullptr);
+  Display* display = xdo == nullptr ? nullptr : xdo->xdpy;
   Window root = 0;
   // A window that is never shown, for the window manager's answers.
   Window own = 0;
@@ -36,26 +41,29 @@ struct XDesktop::Parts {
 
   Atom AtomOf(const char* name) const { return XInternAtom(display, name, False); }
 
-  std::string Property(Window window, const char* name) const {
-    Atom type = 0;
-    int format = 0;
-    unsigned long count = 0;
-    unsigned long rest = 0;
-    unsigned char* data = nullptr;
-    XGetWindowProperty(display, window, AtomOf(name), 0, 1024, False, AnyPropertyType, &type,
-                       &format, &count, &rest, &data);
-    // The library gives each number of 32 bits as a long.
-    const std::size_t unit = format == 32 ? sizeof(long) : 1;
-    std::string bytes;
-    if (data != nullptr) bytes.assign(reinterpret_cast<char*>(data), count * unit);
-    if (data != nullptr) XFree(data);
-    return bytes;
-  }
   std::vector<unsigned long> Numbers(Window window, const char* name) const {
-    const std::string bytes = Property(window, name);
-    std::vector<unsigned long> numbers(bytes.size() / sizeof(long));
-    bytes.copy(reinterpret_cast<char*>(numbers.data()), numbers.size() * sizeof(long));
+    unsigned char* data = nullptr;
+    long count = 0;
+    if (xdo_get_window_property(xdo, window, name, &data, &count, nullptr, nullptr) !=
+            XDO_SUCCESS ||
+        data == nullptr) {
+      return {};
+    }
+    // The library gives each number of 32 bits as a long.
+    const auto* first = reinterpret_cast<unsigned long*>(data);
+    std::vector<unsigned long> numbers(first, first + count);
+    XFree(data);
     return numbers;
+  }
+  std::string Name(Window window) const {
+    unsigned char* data = nullptr;
+    int length = 0;
+    int type = 0;
+    xdo_get_window_name(xdo, window, &data, &length, &type);
+    if (data == nullptr) return "";
+    std::string name(reinterpret_cast<char*>(data), static_cast<std::size_t>(length));
+    XFree(data);
+    return name;
   }
 
   void Send(Window to, Window about, const char* type, std::array<long, 4> data, long mask) const {
@@ -99,7 +107,7 @@ struct XDesktop::Parts {
       shown.frame_right = static_cast<int>(frame[1]);
       shown.frame_top = static_cast<int>(frame[2]);
     }
-    shown.name = Property(window, "_NET_WM_NAME");
+    shown.name = Name(window);
     if (shown.frame_top > 0) shown.title = shown.name;
     const std::vector<unsigned long> active = Numbers(root, "_NET_ACTIVE_WINDOW");
     shown.active = !active.empty() && active[0] == window;
@@ -109,7 +117,6 @@ struct XDesktop::Parts {
 
 XDesktop::XDesktop() : parts_(std::make_unique<Parts>()) {
   XSetErrorHandler(IgnoreError);
-  parts_->display = XOpenDisplay(nullptr);
   if (parts_->display == nullptr) throw std::runtime_error("there is no X server");
   parts_->root = DefaultRootWindow(parts_->display);
   // A program answers a ping to the root window.
@@ -127,13 +134,12 @@ XDesktop::XDesktop() : parts_(std::make_unique<Parts>()) {
   XSync(parts_->display, False);
 }
 
-XDesktop::~XDesktop() { XCloseDisplay(parts_->display); }
+XDesktop::~XDesktop() { xdo_free(parts_->xdo); }
 
 std::vector<WindowOnScreen> XDesktop::WindowsOf(pid_t process) {
   std::vector<WindowOnScreen> windows;
   for (const unsigned long window : parts_->Numbers(parts_->root, "_NET_CLIENT_LIST")) {
-    const std::vector<unsigned long> owner = parts_->Numbers(window, "_NET_WM_PID");
-    if (owner.empty() || static_cast<pid_t>(owner[0]) != process) continue;
+    if (xdo_get_pid_window(parts_->xdo, window) != process) continue;
     windows.push_back(parts_->Describe(window));
   }
   return windows;
@@ -167,11 +173,13 @@ bool XDesktop::RoundTrip(unsigned long window, const std::function<bool()>& runs
 }
 
 void XDesktop::Activate(unsigned long window) {
-  Xdotool({"windowactivate", std::to_string(window)});
+  xdo_activate_window(parts_->xdo, window);
+  XSync(parts_->display, False);
 }
 
 void XDesktop::Move(unsigned long window, int x, int y) {
-  Xdotool({"windowmove", "--sync", std::to_string(window), std::to_string(x), std::to_string(y)});
+  xdo_move_window(parts_->xdo, window, x, y);
+  XSync(parts_->display, False);
 }
 
 void XDesktop::Offer(const std::string& selection, std::string_view text) {

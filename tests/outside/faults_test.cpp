@@ -107,7 +107,7 @@ TEST(Faults, WithoutADisplayOneLineSaysWhatToDo) {
 
 TEST(Faults, ADisplayThatGoesEndsTheProgram) {
   const auto journey = [](OutsideUser& user) {
-    Xdotool({"windowkill", std::to_string(user.WindowTitled("Vamo").id)});
+    Output({"xdotool", "windowkill", std::to_string(user.WindowTitled("Vamo").id)});
     AwaitEnd(user);
   };
   EXPECT_EQ(InControlWindow({}, journey), 1);
