@@ -1,13 +1,11 @@
 #include "browser.h"
 
-#include <curl/curl.h>
+#include <httplib.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -37,53 +35,6 @@ int FreePort() {
   return ntohs(address.sin_port);
 }
 
-std::size_t Collect(char* data, std::size_t size, std::size_t count, void* text) {
-  static_cast<std::string*>(text)->append(data, size * count);
-  return size * count;
-}
-
-// A folder that goes with the object.
-class Folder {
- public:
-  Folder() {
-    std::string name = (std::filesystem::temp_directory_path() / "browser-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder for " + name);
-    path_ = name;
-  }
-  ~Folder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
-
-// A command in both forms of the standard's interface.
-struct Row {
-  const char* method;
-  // Behind the session and, where it is about one, the element.
-  const char* path;
-  const char* name;
-};
-
-// In the order of Browser::Command.
-const Row& RowOf(std::size_t command) {
-  static constexpr Row kRows[] = {
-      {"POST", "/url", "WebDriver:Navigate"},
-      {"POST", "/execute/sync", "WebDriver:ExecuteScript"},
-      {"POST", "/execute/async", "WebDriver:ExecuteAsyncScript"},
-      {"POST", "/frame", "WebDriver:SwitchToFrame"},
-      {"GET", "/computedrole", "WebDriver:GetComputedRole"},
-      {"GET", "/computedlabel", "WebDriver:GetComputedLabel"},
-      {"POST", "/actions", "WebDriver:PerformActions"},
-  };
-  return kRows[command];
-}
-
 json Key(const char* type, const std::string& value) { return {{"type", type}, {"value", value}}; }
 
 std::vector<std::string> Characters(const std::string& text) {
@@ -109,28 +60,28 @@ json Button(const char* type) { return {{"type", type}, {"button", 0}}; }
 
 }  // namespace
 
-void Browser::Open(const std::string& address) { Do(Command::kOpen, {{"url", address}}); }
+void Browser::Open(const std::string& address) { Do(kOpen, {{"url", address}}); }
 
 json Browser::Run(std::string_view body, const json& arguments) {
-  return Do(Command::kRun, {{"script", body}, {"args", arguments}});
+  return Do(kRun, {{"script", body}, {"args", arguments}});
 }
 
 json Browser::RunAsync(std::string_view body, const json& arguments) {
-  return Do(Command::kRunAsync, {{"script", body}, {"args", arguments}});
+  return Do(kRunAsync, {{"script", body}, {"args", arguments}});
 }
 
-void Browser::EnterFrame(const json& number) { Do(Command::kFrame, {{"id", number}}); }
+void Browser::EnterFrame(const json& number) { Do(kFrame, {{"id", number}}); }
 
-std::string Browser::ReadElement(Command command, const json& element) {
+std::string Browser::ReadElement(const Command& command, const json& element) {
   const std::string id = element.at(kElement);
   return Do(command, {{"id", id}}, id).get<std::string>();
 }
 
-std::string Browser::RoleOf(const json& element) { return ReadElement(Command::kRole, element); }
+std::string Browser::RoleOf(const json& element) { return ReadElement(kRole, element); }
 
-std::string Browser::NameOf(const json& element) { return ReadElement(Command::kName, element); }
+std::string Browser::NameOf(const json& element) { return ReadElement(kName, element); }
 
-void Browser::Act(const json& source) { Do(Command::kAct, {{"actions", json::array({source})}}); }
+void Browser::Act(const json& source) { Do(kAct, {{"actions", json::array({source})}}); }
 
 void Browser::PressKeys(const std::string& held, const std::string& last) {
   json actions = json::array();
@@ -170,27 +121,19 @@ void Browser::Drag(const char* pointer, const std::vector<std::pair<int, int>>& 
 
 struct Chromium::Parts {
   int port = FreePort();
-  Folder profile;
+  TemporaryFolder profile;
   Child driver{{"chromedriver", "--port=" + std::to_string(port), "--log-level=OFF"}, {}};
-  CURL* connection = curl_easy_init();
+  httplib::Client connection{"127.0.0.1", port};
   std::string session;
 
-  ~Parts() { curl_easy_cleanup(connection); }
-
   json Ask(const std::string& method, const std::string& path, const json& parameters) {
-    const std::string address = "http://127.0.0.1:" + std::to_string(port) + path;
-    const std::string sent = parameters.dump();
-    std::string answer;
-    curl_easy_reset(connection);
-    curl_easy_setopt(connection, CURLOPT_URL, address.c_str());
-    curl_easy_setopt(connection, CURLOPT_NOPROXY, "*");
-    curl_easy_setopt(connection, CURLOPT_WRITEFUNCTION, Collect);
-    curl_easy_setopt(connection, CURLOPT_WRITEDATA, &answer);
-    curl_easy_setopt(connection, CURLOPT_CUSTOMREQUEST, method.c_str());
-    if (method == "POST") curl_easy_setopt(connection, CURLOPT_POSTFIELDS, sent.c_str());
-    const CURLcode code = curl_easy_perform(connection);
-    if (code != CURLE_OK) throw std::runtime_error(curl_easy_strerror(code));
-    const json value = json::parse(answer).at("value");
+    httplib::Request request;
+    request.method = method;
+    request.path = path;
+    if (method == "POST") request.body = parameters.dump();
+    const httplib::Result answer = connection.send(request);
+    if (!answer) throw std::runtime_error(httplib::to_string(answer.error()));
+    const json value = json::parse(answer->body).at("value");
     if (value.is_object() && value.contains("error")) {
       throw std::runtime_error(path + ": " + value.at("message").get<std::string>());
     }
@@ -229,10 +172,10 @@ Chromium::~Chromium() {
   }
 }
 
-json Chromium::Do(Command command, const json& parameters, const std::string& element) {
-  const Row& row = RowOf(static_cast<std::size_t>(command));
+json Chromium::Do(const Command& command, const json& parameters, const std::string& element) {
   const std::string about = element.empty() ? "" : "/element/" + element;
-  return parts_->Ask(row.method, "/session/" + parts_->session + about + row.path, parameters);
+  return parts_->Ask(command.method, "/session/" + parts_->session + about + command.path,
+                     parameters);
 }
 
 json Chromium::DoOwn(const std::string& command, const json& parameters) {
@@ -247,85 +190,6 @@ std::vector<std::string> Chromium::ConsoleLines() {
     lines.push_back(entry.at("message"));
   }
   return lines;
-}
-
-// Its commands are those of the standard, each with its length before it.
-struct Firefox::Parts {
-  int port = FreePort();
-  Folder profile;
-  std::unique_ptr<Child> browser;
-  int connection = -1;
-  int commands = 0;
-
-  ~Parts() {
-    if (connection >= 0) close(connection);
-  }
-
-  void Connect() {
-    std::ofstream(profile.Path() / "user.js")
-        << "user_pref(\"marionette.port\", " << port << ");\n";
-    browser = std::make_unique<Child>(
-        std::vector<std::string>{"firefox-esr", "--headless", "--marionette", "--no-remote",
-                                 "--profile", profile.Path().string(), "--width=1280",
-                                 "--height=800"},
-        Environment{{"HOME", profile.Path().string()}});
-    const auto connects = [this] {
-      sockaddr_in address{};
-      address.sin_family = AF_INET;
-      address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-      address.sin_port = htons(static_cast<std::uint16_t>(port));
-      connection = socket(AF_INET, SOCK_STREAM, 0);
-      if (connect(connection, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0)
-        return true;
-      close(std::exchange(connection, -1));
-      return false;
-    };
-    if (!Await(connects, std::chrono::seconds(60)))
-      throw std::runtime_error("Firefox does not listen");
-    Read();  // It says who it is.
-  }
-
-  json Read() {
-    std::string length;
-    for (char c = 0; c != ':';) {
-      if (read(connection, &c, 1) != 1) throw std::runtime_error("Firefox has gone");
-      if (c != ':') length += c;
-    }
-    std::string answer(std::stoul(length), 0);
-    for (std::size_t got = 0; got < answer.size();) {
-      const ssize_t more = read(connection, answer.data() + got, answer.size() - got);
-      if (more <= 0) throw std::runtime_error("Firefox has gone");
-      got += static_cast<std::size_t>(more);
-    }
-    return json::parse(answer);
-  }
-
-  json Ask(const char* command, const json& parameters) {
-    const std::string sent = json{0, ++commands, command, parameters}.dump();
-    const std::string framed = std::to_string(sent.size()) + ":" + sent;
-    for (std::size_t put = 0; put < framed.size();) {
-      const ssize_t more = write(connection, framed.data() + put, framed.size() - put);
-      if (more <= 0) throw std::runtime_error("Firefox has gone");
-      put += static_cast<std::size_t>(more);
-    }
-    const json answer = Read();
-    if (!answer.at(2).is_null()) {
-      throw std::runtime_error(std::string(command) + ": " + answer.at(2).dump());
-    }
-    const json& result = answer.at(3);
-    return result.is_object() && result.contains("value") ? result.at("value") : result;
-  }
-};
-
-Firefox::Firefox() : parts_(std::make_unique<Parts>()) {
-  parts_->Connect();
-  parts_->Ask("WebDriver:NewSession", json::object());
-}
-
-Firefox::~Firefox() = default;
-
-json Firefox::Do(Command command, const json& parameters, const std::string& /*element*/) {
-  return parts_->Ask(RowOf(static_cast<std::size_t>(command)).name, parameters);
 }
 
 }  // namespace vamo

@@ -43,15 +43,29 @@ class Browser {
   void Swipe(const std::vector<std::pair<int, int>>& points);
 
  protected:
-  // A command with its parameters, and the element that it is about where there is one.
-  enum class Command { kOpen, kRun, kRunAsync, kFrame, kRole, kName, kAct };
-  virtual nlohmann::json Do(Command command, const nlohmann::json& parameters,
+  // A command in both forms of the standard's interface.
+  struct Command {
+    const char* method;
+    // Behind the session and, where it is about one, the element.
+    const char* path;
+    const char* name;
+  };
+  // Does a command with its parameters, about an element where there is one.
+  virtual nlohmann::json Do(const Command& command, const nlohmann::json& parameters,
                             const std::string& element = {}) = 0;
 
  private:
+  static constexpr Command kOpen{"POST", "/url", "WebDriver:Navigate"};
+  static constexpr Command kRun{"POST", "/execute/sync", "WebDriver:ExecuteScript"};
+  static constexpr Command kRunAsync{"POST", "/execute/async", "WebDriver:ExecuteAsyncScript"};
+  static constexpr Command kFrame{"POST", "/frame", "WebDriver:SwitchToFrame"};
+  static constexpr Command kRole{"GET", "/computedrole", "WebDriver:GetComputedRole"};
+  static constexpr Command kName{"GET", "/computedlabel", "WebDriver:GetComputedLabel"};
+  static constexpr Command kAct{"POST", "/actions", "WebDriver:PerformActions"};
+
   void Act(const nlohmann::json& source);
   void Drag(const char* pointer, const std::vector<std::pair<int, int>>& points);
-  std::string ReadElement(Command command, const nlohmann::json& element);
+  std::string ReadElement(const Command& command, const nlohmann::json& element);
 };
 
 // Chromium, by way of its driver, with the size of the page in CSS pixels.
@@ -67,13 +81,13 @@ class Chromium : public Browser {
 
  private:
   struct Parts;
-  nlohmann::json Do(Command command, const nlohmann::json& parameters,
+  nlohmann::json Do(const Command& command, const nlohmann::json& parameters,
                     const std::string& element) override;
 
   std::unique_ptr<Parts> parts_;
 };
 
-// Firefox, which listens itself.
+// Firefox, which listens itself (marionette.cpp).
 class Firefox : public Browser {
  public:
   Firefox();
@@ -81,7 +95,7 @@ class Firefox : public Browser {
 
  private:
   struct Parts;
-  nlohmann::json Do(Command command, const nlohmann::json& parameters,
+  nlohmann::json Do(const Command& command, const nlohmann::json& parameters,
                     const std::string& element) override;
 
   std::unique_ptr<Parts> parts_;

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -107,6 +108,17 @@ std::string Output(const std::vector<std::string>& command, std::string_view inp
   Ended ended = RunToEnd(command, input, settings);
   if (ended.status == 0) return std::move(ended.out);
   throw std::runtime_error(command.front() + " has failed: " + ended.err);
+}
+
+TemporaryFolder::TemporaryFolder() {
+  std::string name = (std::filesystem::temp_directory_path() / "vamo-XXXXXX").string();
+  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder for " + name);
+  path_ = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
 }
 
 bool Await(const std::function<bool()>& so, std::chrono::milliseconds patience) {

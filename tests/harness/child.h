@@ -5,6 +5,7 @@
 #include <sys/types.h>
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <optional>
@@ -48,6 +49,19 @@ Ended RunToEnd(const std::vector<std::string>& command, std::string_view input =
 // What a program says on its standard output. Throws where it fails.
 std::string Output(const std::vector<std::string>& command, std::string_view input = {},
                    const Environment& settings = {});
+
+// A folder for the files of a program, which goes with the object.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
 
 // Asks again until it is so; false when `patience` is over.
 bool Await(const std::function<bool()>& so,

@@ -34,22 +34,15 @@ bool ShowsPicture(const WindowOnScreen& window, int left, int top) {
                  "%k", "info:"}) != "1";
 }
 
-// The program with a picture of its own beside it, in a folder that goes with the object.
+// The program with a picture of its own beside it.
 class Copy {
  public:
-  Copy() {
-    fs::create_directories(folder_);
-    fs::copy_file(ProgramPath(), Program());
-  }
-  ~Copy() { fs::remove_all(folder_.parent_path()); }
-  Copy(const Copy&) = delete;
-  Copy& operator=(const Copy&) = delete;
-
-  fs::path Program() const { return folder_ / "vamo"; }
-  fs::path Picture() const { return folder_ / "ChartSmall.jpg"; }
+  Copy() { fs::copy_file(ProgramPath(), Program()); }
+  fs::path Program() const { return folder_.Path() / "vamo"; }
+  fs::path Picture() const { return folder_.Path() / "ChartSmall.jpg"; }
 
  private:
-  const fs::path folder_ = fs::path(testing::TempDir()) / "vamo_copy" / "bin";
+  const TemporaryFolder folder_;
 };
 
 void WritePicture(const Copy& copy, std::size_t length) {
