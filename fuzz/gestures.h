@@ -28,6 +28,8 @@ class Gestures {
 
   // Whether the gesture is meant to end the program.
   bool MakeNext();
+  // Whether the last gesture had keys or the mouse for a window's content.
+  bool Edited() const { return edited_; }
 
  private:
   // A kind of gesture has the bytes from the end of the one before it to its own.
@@ -164,6 +166,7 @@ class Gestures {
   Input& input_;
   HeadlessUser& user_;
   bool ends_program_ = false;
+  bool edited_ = false;
 };
 
 inline constexpr Gestures::Kind Gestures::kKinds[] = {
@@ -184,6 +187,7 @@ inline bool Gestures::MakeNext() {
   if (!Runtime::Current().ActiveWindow()) number %= kWithoutKeys;
   const Kind* const kind = std::find_if(std::begin(kKinds), std::end(kKinds),
                                         [&](const Kind& k) { return number < k.end; });
+  edited_ = number >= kWithoutKeys;
   (this->*kind->make)();
   return ends_program_;
 }

@@ -117,7 +117,8 @@ std::string Results(double r, std::int64_t n) {
 // In what order the control window takes what its user sets, told from gesture to gesture.
 class Sequence {
  public:
-  void Check(class ControlWnd& window, bool activated) {
+  // `edited`: what has activated the window may have gone on in it.
+  void Check(class ControlWnd& window, bool activated, bool edited) {
     const std::string r_text = window.rEdit()->Text();
     const std::string n_text = window.nEdit()->Text();
     const std::string results =
@@ -130,15 +131,15 @@ class Sequence {
     Require(window.nText()->Visible() == (n < 4 || n > 1000) || n_text.empty(), "the warning");
     const bool same = r_text == r_text_ && n_text == n_text_;
     if (activated) {
-      Require(window.r == 0 && window.t == 0 && window.N == 4, "the model starts anew");
-      Require(same && results == results_, "behind unchanged controls");
-    } else {
-      // An edit that leaves the text as it was sets r, too.
-      Require(window.r == r || (r_text == r_text_ && window.r == r_), "r is set by its text");
-      Require(window.N == n || (n_text == n_text_ && window.N == n_), "N is set by its text");
-      Require(results == Results(window.r, n) || (same && results == results_),
-              "results are those of r and of the text of N");
+      Require(edited || (window.r == 0 && window.t == 0 && window.N == 4), "the model starts anew");
+      r_ = 0;
+      n_ = 4;
     }
+    // An edit that leaves the text as it was sets r, too.
+    Require(window.r == r || (r_text == r_text_ && window.r == r_), "r is set by its text");
+    Require(window.N == n || (n_text == n_text_ && window.N == n_), "N is set by its text");
+    Require(results == Results(window.r, n) || (same && results == results_),
+            "results are those of r and of the text of N");
     r_text_ = r_text;
     n_text_ = n_text;
     results_ = results;
@@ -187,7 +188,8 @@ class Program {
     const Ref<class ControlWnd> window = LiveControlWnd();
     if (!window) return;
     const Ref<Window>& active = Runtime::Current().ActiveWindow();
-    sequence_.Check(*window, active == window && active_before.Value() != active);
+    sequence_.Check(*window, active == window && active_before.Value() != active,
+                    gestures.Edited());
   }
 
   Input& input_;
