@@ -21,18 +21,10 @@ double BaseLine(const QTextLine& line, const QRectF& extent, double height) {
   return std::clamp(middle, highest, lowest);
 }
 
-// Where a text of that width begins that is aligned in a box.
-double Left(Qt::Alignment alignment, const QRect& box, double width) {
-  const double free = box.width() - width;
-  if (alignment.testFlag(Qt::AlignHCenter)) return box.left() + free / 2;
-  return box.left() + (alignment.testFlag(Qt::AlignRight) ? free : 0);
-}
-
 }  // namespace
 
 LabelWidget::LabelWidget(Label& label, QWidget& parent) : WidgetFor(label, parent) {
   setTextFormat(Qt::PlainText);
-  setAlignment(ToQtAlignment(label.Alignment()));
   QPalette colours = palette();
   colours.setColor(QPalette::WindowText, ToQColor(label.TextColour()));
   setPalette(colours);
@@ -47,8 +39,7 @@ void LabelWidget::ShowLook() {
   const Label& label = TheControl();
   setFont(ToQFont(label.Font(), Factor()));
   const TextRoom room = RoomOfText(label);
-  room_left_ = room.left * Factor();
-  room_right_ = room.right * Factor();
+  room_ = {room.left * Factor(), room.right * Factor()};
   Fit();
 }
 
@@ -61,13 +52,10 @@ void LabelWidget::ShowState() {
 
 void LabelWidget::Fit() {
   if (!text().isEmpty()) LayOut();
-  const double left = box_.left() - room_left_;
-  const double room = std::max(1.0, box_.left() + box_.width() + room_right_ - left);
-  x_scale_ = std::min(1.0, room / extent_.width());
-  const double width = extent_.width() * x_scale_;
-  text_left_ = std::max(left, std::min(Left(alignment(), box_, width), left + room - width));
+  fitted_ = FitText(room_, box_.width(), TheControl().Alignment(), extent_.width());
   // A little more than the text, for the smoothed edges of its letters.
-  const QRectF covered(text_left_ - 1, box_.top(), width + 2, box_.height());
+  const QRectF covered(box_.left() + fitted_.left - 1, box_.top(),
+                       extent_.width() * fitted_.scale + 2, box_.height());
   setGeometry(text().isEmpty() ? box_ : box_.united(covered.toAlignedRect()));
 }
 
@@ -90,13 +78,14 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(palette().color(QPalette::WindowText));
   const QTextLine line = line_.lineAt(0);
   const double y_scale = std::min(1.0, height() / extent_.height());
+  const double left = box_.left() + fitted_.left - x();
   const double box = height() / y_scale;
   const double pixels = devicePixelRatioF();
   const double base = std::round(BaseLine(line, extent_, box) * pixels) / pixels;
-  painter.scale(x_scale_, y_scale);
+  painter.scale(fitted_.scale, y_scale);
   // A line's own place is in sixty-fourths, which would miss the whole pixel.
   painter.translate(0, base);
-  line.draw(&painter, QPointF((text_left_ - x()) / x_scale_ - extent_.left(), -line.ascent()));
+  line.draw(&painter, QPointF(left / fitted_.scale - extent_.left(), -line.ascent()));
 }
 
 }  // namespace vamo

@@ -7,6 +7,7 @@
 
 #include "displays/qt/control.h"
 #include "toolkit/control/label.h"
+#include "toolkit/window/text_room.h"
 
 namespace vamo {
 
@@ -29,15 +30,11 @@ class LabelWidget : public WidgetFor<QLabel, Label> {
   void Fit();
 
   QRect box_;
-  // How far the text may stand out of the box at its left and its right; inwards where negative.
-  double room_left_ = 0;
-  double room_right_ = 0;
+  TextRoom room_;
   // The text, and what it covers from its starting point on the base line.
   QTextLayout line_;
   QRectF extent_;
-  // The text's left end in the window, and how much narrower than usual it is.
-  double text_left_ = 0;
-  double x_scale_ = 1;
+  FittedText fitted_;
 };
 
 }  // namespace vamo

@@ -69,15 +69,9 @@ void WebLabel::Fit() {
   const double width = page::TextWidth(label_.Text(), ToCss(label_.Font()));
   const auto box = static_cast<double>(label_.Bounds().width);
   if (width <= box) return Element().SetStyle("transform", "none");
-  const TextRoom room = RoomOfText(label_);
-  const double narrowed = std::min(width, room.left + box + room.right);
-  const double free = box - narrowed;
-  double left = 0;
-  if (label_.Alignment() == TextAlignment::kCentre) left = free / 2;
-  if (label_.Alignment() == TextAlignment::kRight) left = free;
-  left = std::max(-room.left, std::min(left, box + room.right - narrowed));
-  Element().SetStyle("transform", "translateX(" + Units(left) + ") scaleX(" +
-                                      std::to_string(narrowed / width) + ")");
+  const FittedText fitted = FitText(RoomOfText(label_), box, label_.Alignment(), width);
+  Element().SetStyle("transform", "translateX(" + Units(fitted.left) + ") scaleX(" +
+                                      std::to_string(fitted.scale) + ")");
 }
 
 WebButton::WebButton(WebWindow& window, PushButton& button)

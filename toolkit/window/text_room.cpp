@@ -29,4 +29,14 @@ TextRoom RoomOfText(const RectControl& label) {
           static_cast<double>(right) - kGap - static_cast<double>(box.left + box.width)};
 }
 
+FittedText FitText(const TextRoom& room, double box, TextAlignment alignment, double width) {
+  const double whole = std::max(1.0, room.left + box + room.right);
+  const double scale = std::min(1.0, whole / width);
+  const double free = box - width * scale;
+  double left = 0;
+  if (alignment == TextAlignment::kCentre) left = free / 2;
+  if (alignment == TextAlignment::kRight) left = free;
+  return {std::max(-room.left, std::min(left, free + room.right)), scale};
+}
+
 }  // namespace vamo
