@@ -14,7 +14,28 @@
 namespace vamo {
 namespace {
 
-void CopyText(const TextEdit& text, ShownControl& shown) {
+// Copies what only controls of one class have.
+void CopyOwn(const Canvas& /*canvas*/, ShownControl& /*shown*/) {}
+
+void CopyOwn(const Rectangle& /*rectangle*/, ShownControl& /*shown*/) {}
+
+void CopyOwn(const Label& label, ShownControl& shown) {
+  shown.text = label.Text();
+  if (shown.name.empty()) shown.name = shown.text;
+}
+
+void CopyOwn(const PushButton& button, ShownControl& shown) {
+  shown.role = Role::kButton;
+  shown.text = button.Caption();
+}
+
+void CopyOwn(const Slider& slider, ShownControl& shown) {
+  shown.role = Role::kSlider;
+  shown.position = slider.Value();
+  shown.value = slider.InUnits(shown.position);
+}
+
+void CopyOwn(const TextEdit& text, ShownControl& shown) {
   shown.role = Role::kText;
   shown.text = text.Text();
   shown.selected_text = text.SelectedText();
@@ -22,9 +43,10 @@ void CopyText(const TextEdit& text, ShownControl& shown) {
 
 }  // namespace
 
-HeadlessControl::HeadlessControl(HeadlessWindow& window, RectControl& control,
-                                 std::function<void(ShownControl&)> copy_own)
-    : window_(window), control_(control), copy_own_(std::move(copy_own)) {
+HeadlessControl::HeadlessControl(HeadlessWindow& window, AnyControl control)
+    : window_(window),
+      any_(control),
+      control_(*std::visit([](auto* one) -> RectControl* { return one; }, control)) {
   window_.controls_.push_back(this);
   shown_ = Present();
 }
@@ -39,7 +61,7 @@ ShownControl HeadlessControl::Present() const {
   present.labelled_by = caption ? caption->Text() : "";
   present.visible = control_.Visible();
   present.enabled = control_.Enabled();
-  copy_own_(present);
+  std::visit([&](const auto* one) { CopyOwn(*one, present); }, any_);
   return present;
 }
 
@@ -50,44 +72,8 @@ HeadlessWindow::HeadlessWindow(HeadlessDisplay& display, vamo::Window& window)
 
 HeadlessWindow::~HeadlessWindow() { std::erase(display_.windows_, this); }
 
-std::unique_ptr<ControlView> HeadlessWindow::CreateControl(Canvas& canvas) {
-  return std::make_unique<HeadlessControl>(*this, canvas, [](ShownControl&) {});
-}
-
-std::unique_ptr<ControlView> HeadlessWindow::CreateControl(Label& label) {
-  return std::make_unique<HeadlessControl>(*this, label, [&](ShownControl& shown) {
-    shown.text = label.Text();
-    if (shown.name.empty()) shown.name = shown.text;
-  });
-}
-
-std::unique_ptr<ControlView> HeadlessWindow::CreateControl(PushButton& button) {
-  return std::make_unique<HeadlessControl>(*this, button, [&](ShownControl& shown) {
-    shown.role = Role::kButton;
-    shown.text = button.Caption();
-  });
-}
-
-std::unique_ptr<ControlView> HeadlessWindow::CreateControl(Rectangle& rectangle) {
-  return std::make_unique<HeadlessControl>(*this, rectangle, [](ShownControl&) {});
-}
-
-std::unique_ptr<ControlView> HeadlessWindow::CreateControl(Slider& slider) {
-  return std::make_unique<HeadlessControl>(*this, slider, [&](ShownControl& shown) {
-    shown.role = Role::kSlider;
-    shown.position = slider.Value();
-    shown.value = slider.InUnits(shown.position);
-  });
-}
-
-std::unique_ptr<ControlView> HeadlessWindow::CreateControl(TextArea& area) {
-  return std::make_unique<HeadlessControl>(*this, area,
-                                           [&](ShownControl& shown) { CopyText(area, shown); });
-}
-
-std::unique_ptr<ControlView> HeadlessWindow::CreateControl(TextField& field) {
-  return std::make_unique<HeadlessControl>(*this, field,
-                                           [&](ShownControl& shown) { CopyText(field, shown); });
+std::unique_ptr<ControlView> HeadlessWindow::CreateControl(AnyControl control) {
+  return std::make_unique<HeadlessControl>(*this, control);
 }
 
 void HeadlessWindow::Show(bool activate) {

@@ -18,9 +18,7 @@ namespace vamo {
 // forgets to have shown stays out of it.
 class HeadlessControl : public ControlView {
  public:
-  // `copy_own` copies what only controls of that class have.
-  HeadlessControl(HeadlessWindow& window, RectControl& control,
-                  std::function<void(ShownControl&)> copy_own);
+  HeadlessControl(HeadlessWindow& window, AnyControl control);
   ~HeadlessControl() override;
 
   void Update() override { shown_ = Present(); }
@@ -33,8 +31,8 @@ class HeadlessControl : public ControlView {
 
  private:
   HeadlessWindow& window_;
+  const AnyControl any_;
   RectControl& control_;
-  const std::function<void(ShownControl&)> copy_own_;
   ShownControl shown_;
 };
 
@@ -44,13 +42,7 @@ class HeadlessWindow : public WindowView {
   HeadlessWindow(HeadlessDisplay& display, vamo::Window& window);
   ~HeadlessWindow() override;
 
-  std::unique_ptr<ControlView> CreateControl(Canvas& canvas) override;
-  std::unique_ptr<ControlView> CreateControl(Label& label) override;
-  std::unique_ptr<ControlView> CreateControl(PushButton& button) override;
-  std::unique_ptr<ControlView> CreateControl(Rectangle& rectangle) override;
-  std::unique_ptr<ControlView> CreateControl(Slider& slider) override;
-  std::unique_ptr<ControlView> CreateControl(TextArea& area) override;
-  std::unique_ptr<ControlView> CreateControl(TextField& field) override;
+  std::unique_ptr<ControlView> CreateControl(AnyControl control) override;
   void Show(bool activate) override;
   void Hide() override { on_screen_ = false; }
   void UpdateFocus() override;

@@ -194,32 +194,17 @@ std::unique_ptr<ControlView> QtWindowView::Create(ControlClass& control) {
   return std::make_unique<QtControlView>(*widget);
 }
 
-std::unique_ptr<ControlView> QtWindowView::CreateControl(Canvas& canvas) {
-  return Create<CanvasWidget>(canvas);
-}
-
-std::unique_ptr<ControlView> QtWindowView::CreateControl(Label& label) {
-  return Create<LabelWidget>(label);
-}
-
-std::unique_ptr<ControlView> QtWindowView::CreateControl(PushButton& button) {
-  return Create<ButtonWidget>(button);
-}
-
-std::unique_ptr<ControlView> QtWindowView::CreateControl(Rectangle& rectangle) {
-  return Create<RectangleWidget>(rectangle);
-}
-
-std::unique_ptr<ControlView> QtWindowView::CreateControl(Slider& slider) {
-  return Create<SliderWidget>(slider);
-}
-
-std::unique_ptr<ControlView> QtWindowView::CreateControl(TextArea& area) {
-  return Create<AreaWidget>(area);
-}
-
-std::unique_ptr<ControlView> QtWindowView::CreateControl(TextField& field) {
-  return Create<FieldWidget>(field);
+std::unique_ptr<ControlView> QtWindowView::CreateControl(AnyControl control) {
+  const Overloaded create{
+      [this](Canvas* canvas) { return Create<CanvasWidget>(*canvas); },
+      [this](Label* label) { return Create<LabelWidget>(*label); },
+      [this](PushButton* button) { return Create<ButtonWidget>(*button); },
+      [this](Rectangle* rectangle) { return Create<RectangleWidget>(*rectangle); },
+      [this](Slider* slider) { return Create<SliderWidget>(*slider); },
+      [this](TextArea* area) { return Create<AreaWidget>(*area); },
+      [this](TextField* field) { return Create<FieldWidget>(*field); },
+  };
+  return std::visit(create, control);
 }
 
 void QtWindowView::Show(bool activate) {

@@ -81,13 +81,7 @@ class QtWindowView : public WindowView {
   QtWindowView(Window& window, Activation& activation, Zoom& zoom);
   ~QtWindowView() override;
 
-  std::unique_ptr<ControlView> CreateControl(Canvas& canvas) override;
-  std::unique_ptr<ControlView> CreateControl(Label& label) override;
-  std::unique_ptr<ControlView> CreateControl(PushButton& button) override;
-  std::unique_ptr<ControlView> CreateControl(Rectangle& rectangle) override;
-  std::unique_ptr<ControlView> CreateControl(Slider& slider) override;
-  std::unique_ptr<ControlView> CreateControl(TextArea& area) override;
-  std::unique_ptr<ControlView> CreateControl(TextField& field) override;
+  std::unique_ptr<ControlView> CreateControl(AnyControl control) override;
   void Show(bool activate) override;
   void Hide() override { widget_->TakeAway(); }
   void UpdateFocus() override { widget_->ShowFocus(); }

@@ -73,32 +73,18 @@ void WebWindow::MakeTitleBar() {
   close->SetText("×");
 }
 
-std::unique_ptr<ControlView> WebWindow::CreateControl(Canvas& canvas) {
-  return std::make_unique<WebCanvas>(*this, canvas);
-}
-
-std::unique_ptr<ControlView> WebWindow::CreateControl(Label& label) {
-  return std::make_unique<WebLabel>(*this, label);
-}
-
-std::unique_ptr<ControlView> WebWindow::CreateControl(PushButton& button) {
-  return std::make_unique<WebButton>(*this, button);
-}
-
-std::unique_ptr<ControlView> WebWindow::CreateControl(Rectangle& rectangle) {
-  return std::make_unique<WebRectangle>(*this, rectangle);
-}
-
-std::unique_ptr<ControlView> WebWindow::CreateControl(Slider& slider) {
-  return std::make_unique<WebSlider>(*this, slider);
-}
-
-std::unique_ptr<ControlView> WebWindow::CreateControl(TextArea& area) {
-  return std::make_unique<WebArea>(*this, area);
-}
-
-std::unique_ptr<ControlView> WebWindow::CreateControl(TextField& field) {
-  return std::make_unique<WebField>(*this, field);
+std::unique_ptr<ControlView> WebWindow::CreateControl(AnyControl control) {
+  using View = std::unique_ptr<ControlView>;
+  const Overloaded create{
+      [this](Canvas* canvas) -> View { return std::make_unique<WebCanvas>(*this, *canvas); },
+      [this](Label* label) -> View { return std::make_unique<WebLabel>(*this, *label); },
+      [this](PushButton* button) -> View { return std::make_unique<WebButton>(*this, *button); },
+      [this](Rectangle* shape) -> View { return std::make_unique<WebRectangle>(*this, *shape); },
+      [this](Slider* slider) -> View { return std::make_unique<WebSlider>(*this, *slider); },
+      [this](TextArea* area) -> View { return std::make_unique<WebArea>(*this, *area); },
+      [this](TextField* field) -> View { return std::make_unique<WebField>(*this, *field); },
+  };
+  return std::visit(create, control);
 }
 
 // A caption is the label of the first control that it stands beside, and describes the others: it

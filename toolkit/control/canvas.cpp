@@ -35,8 +35,4 @@ void Canvas::SetBackdrop(Ref<Picture> picture) {
   Changed();
 }
 
-std::unique_ptr<ControlView> Canvas::MakeView(WindowView& window_view) {
-  return window_view.CreateControl(*this);
-}
-
 }  // namespace vamo

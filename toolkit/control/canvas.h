@@ -39,7 +39,7 @@ class Canvas : public RectControl {
   void SetBackdrop(Ref<Picture> picture);
 
  protected:
-  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  AnyControl AsAny() override { return this; }
 
  private:
   struct Properties;

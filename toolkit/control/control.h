@@ -101,16 +101,15 @@ class RectControl : public Control {
   // characters that are then typed one by one.
   virtual std::string Typed(std::string_view text) const { return std::string(text); }
 
-  // Called once by the window: makes the control's part on the display, by the one call of
-  // `window_view` that is for controls of this class.
-  void Open(WindowView& window_view) { view_ = MakeView(window_view); }
+  // Called once by the window: makes the control's part on the display.
+  void Open(WindowView& window_view) { view_ = window_view.CreateControl(AsAny()); }
   // Calls `changed`, too, after each change of something that is shown. One observer at most.
   void SetObserver(std::function<void()> changed) { observer_ = std::move(changed); }
   // Gives up the part on the display and the observer.
   void TakeOffDisplay();
 
  protected:
-  virtual std::unique_ptr<ControlView> MakeView(WindowView& window_view) = 0;
+  virtual AnyControl AsAny() = 0;
   // Whether keys mean anything to controls of this class.
   virtual bool TakesKeys() const { return false; }
   // Shows the present state. To be called after each change of something that is shown.

@@ -36,8 +36,4 @@ void Label::SetText(std::string_view text) {
   Changed();
 }
 
-std::unique_ptr<ControlView> Label::MakeView(WindowView& window_view) {
-  return window_view.CreateControl(*this);
-}
-
 }  // namespace vamo

@@ -1,7 +1,6 @@
 #ifndef VAMO_TOOLKIT_CONTROL_LABEL_H_
 #define VAMO_TOOLKIT_CONTROL_LABEL_H_
 
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -24,7 +23,7 @@ class Label : public RectControl {
   TextAlignment Alignment() const { return Trapped(alignment_); }
 
  protected:
-  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  AnyControl AsAny() override { return this; }
 
  private:
   struct Properties;

@@ -33,8 +33,4 @@ bool PushButton::UserPressedByAssistiveTechnology() {
   return UserPressed(Bounds().width / 2, Bounds().height / 2);
 }
 
-std::unique_ptr<ControlView> PushButton::MakeView(WindowView& window_view) {
-  return window_view.CreateControl(*this);
-}
-
 }  // namespace vamo

@@ -2,7 +2,6 @@
 #define VAMO_TOOLKIT_CONTROL_PUSH_BUTTON_H_
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
 #include "toolkit/control/control.h"
@@ -32,7 +31,7 @@ class PushButton : public RectControl {
   bool UserPressedByAssistiveTechnology();
 
  protected:
-  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  AnyControl AsAny() override { return this; }
 
  private:
   struct Properties;

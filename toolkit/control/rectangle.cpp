@@ -18,8 +18,4 @@ struct Rectangle::Properties {
 constinit const ClassInfo Rectangle::kClass{
     "Rectangle", &RectControl::kClass, Properties::kRows, {}, Allocate<Rectangle>};
 
-std::unique_ptr<ControlView> Rectangle::MakeView(WindowView& window_view) {
-  return window_view.CreateControl(*this);
-}
-
 }  // namespace vamo

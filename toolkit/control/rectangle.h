@@ -1,8 +1,6 @@
 #ifndef VAMO_TOOLKIT_CONTROL_RECTANGLE_H_
 #define VAMO_TOOLKIT_CONTROL_RECTANGLE_H_
 
-#include <memory>
-
 #include "toolkit/control/control.h"
 
 namespace vamo {
@@ -22,7 +20,7 @@ class Rectangle : public RectControl {
   Colour BottomRightColour() const { return Trapped(bottom_right_colour_); }
 
  protected:
-  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  AnyControl AsAny() override { return this; }
 
  private:
   struct Properties;

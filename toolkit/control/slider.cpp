@@ -50,10 +50,6 @@ void Slider::UserSetByAssistiveTechnology(double value) {
 
 void Slider::UserTurnedWheel(std::int64_t notches) { MoveBy(notches, line_step_); }
 
-std::unique_ptr<ControlView> Slider::MakeView(WindowView& window_view) {
-  return window_view.CreateControl(*this);
-}
-
 bool Slider::TakeKey(const Key& key) {
   switch (key.code) {
     case KeyCode::kLeft:

@@ -2,7 +2,6 @@
 #define VAMO_TOOLKIT_CONTROL_SLIDER_H_
 
 #include <cstdint>
-#include <memory>
 
 #include "toolkit/control/control.h"
 #include "toolkit/object/delegate.h"
@@ -42,7 +41,7 @@ class Slider : public RectControl {
   bool TakeKey(const Key& key) override;
 
  protected:
-  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  AnyControl AsAny() override { return this; }
   bool TakesKeys() const override { return true; }
 
  private:

@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace vamo {
 
@@ -25,6 +26,19 @@ class Slider;
 class TextArea;
 class TextField;
 class Window;
+
+// A control, as an object of one of the classes that a display shows. A display that visits it and
+// forgets a class does not compile.
+using AnyControl =
+    std::variant<Canvas*, Label*, PushButton*, Rectangle*, Slider*, TextArea*, TextField*>;
+
+// One function object of several, for a visit.
+template <class... Functions>
+struct Overloaded : Functions... {
+  using Functions::operator()...;
+};
+template <class... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
 
 // One control on a display.
 class ControlView {
@@ -43,16 +57,9 @@ class WindowView {
  public:
   virtual ~WindowView() = default;
 
-  // One of these is called once for each control, in the order of creation, after the control has
-  // got its initial state and before the window is first shown. The control outlives what is
-  // returned.
-  virtual std::unique_ptr<ControlView> CreateControl(Canvas& canvas) = 0;
-  virtual std::unique_ptr<ControlView> CreateControl(Label& label) = 0;
-  virtual std::unique_ptr<ControlView> CreateControl(PushButton& button) = 0;
-  virtual std::unique_ptr<ControlView> CreateControl(Rectangle& rectangle) = 0;
-  virtual std::unique_ptr<ControlView> CreateControl(Slider& slider) = 0;
-  virtual std::unique_ptr<ControlView> CreateControl(TextArea& area) = 0;
-  virtual std::unique_ptr<ControlView> CreateControl(TextField& field) = 0;
+  // Called once for each control, in the order of creation, after the control has got its initial
+  // state and before the window is first shown. The control outlives what is returned.
+  virtual std::unique_ptr<ControlView> CreateControl(AnyControl control) = 0;
 
   // Called by Window::Show: must bring the window on the screen. With `activate`, in front and as
   // the active window, and must report the activation with Window::UserActivated once it has taken

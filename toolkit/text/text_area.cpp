@@ -44,8 +44,4 @@ std::string TextArea::TextInLines() const {
   return lines;
 }
 
-std::unique_ptr<ControlView> TextArea::MakeView(WindowView& window_view) {
-  return window_view.CreateControl(*this);
-}
-
 }  // namespace vamo

@@ -2,7 +2,6 @@
 #define VAMO_TOOLKIT_TEXT_TEXT_AREA_H_
 
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -24,7 +23,7 @@ class TextArea : public TextEdit {
   bool HideSelection() const { return Trapped(hide_selection_); }
 
  protected:
-  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  AnyControl AsAny() override { return this; }
   bool TakesKeys() const override { return true; }
   std::string_view TextToCopy() const override;
   std::size_t CaretAfterWrite() const override { return 0; }

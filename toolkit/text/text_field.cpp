@@ -111,8 +111,4 @@ void TextField::RaiseTextChange() {
   if (TextChange) TextChange.Invoke(Self(this));
 }
 
-std::unique_ptr<ControlView> TextField::MakeView(WindowView& window_view) {
-  return window_view.CreateControl(*this);
-}
-
 }  // namespace vamo

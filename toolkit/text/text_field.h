@@ -2,7 +2,6 @@
 #define VAMO_TOOLKIT_TEXT_TEXT_FIELD_H_
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -35,7 +34,7 @@ class TextField : public TextEdit {
   std::string Typed(std::string_view text) const override;
 
  protected:
-  std::unique_ptr<ControlView> MakeView(WindowView& window_view) override;
+  AnyControl AsAny() override { return this; }
   bool TakesKeys() const override { return true; }
   void RaiseTextChange() override;
   // In a field whose mask wants digits those of all scripts are digits; in one that wants a point,
