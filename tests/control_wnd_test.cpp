@@ -138,6 +138,8 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
   EXPECT_EQ(heard_after(1000ms), std::vector<std::string>{"range of N (4 - 1,1000)"});
   window_->nEdit()->SetText("2");
   EXPECT_EQ(heard_after(1000ms).size(), 1U);
+  window_->nEdit()->SetText("3");
+  EXPECT_EQ(user.Hears(), nothing) << "30 begins with a 3";
   window_->nEdit()->SetText("30");
   EXPECT_EQ(heard_after(1000ms), std::vector{results}) << "Fisher's z has not changed";
   window_->nEdit()->SetText("31");
