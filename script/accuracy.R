@@ -1,7 +1,7 @@
 # Compares the program's results with R's and prints the differences as tables.
 #
 # Usage: Rscript accuracy.R PROGRAM FOLDER
-#   PROGRAM turns numbers into texts; FOLDER holds its results in the file "values".
+#   PROGRAM formats numbers; the file "values" in FOLDER contains its results.
 arguments <- commandArgs(trailingOnly = TRUE)
 program <- arguments[1]
 folder <- arguments[2]
@@ -14,7 +14,7 @@ ours <- matrix(readBin(file.path(folder, "values"), "double", 5 * nrow(grid)), n
 rownames(ours) <- c("t", "p", "z", "lo", "hi")
 stopifnot(ncol(ours) == nrow(grid))
 
-# The same quantities by R's own functions, with the same 1.96 and the same ends of what p shows.
+# The same quantities from R's functions, with the same 1.96 and the same limits of p.
 t <- r * sqrt(N - 2) / sqrt(1 - r^2)
 exact <- 2 * pt(t, N - 2, lower.tail = FALSE)
 half <- 1.96 / sqrt(N - 3)
@@ -26,7 +26,7 @@ theirs <- rbind(
   hi = tanh(atanh(r) + half)
 )
 
-# The texts that the window shows for numbers.
+# The texts that the window shows for these numbers.
 texts <- function(values, mask) {
   numbers <- file.path(folder, "numbers")
   writeBin(values, numbers)
@@ -61,7 +61,7 @@ for (name in names(masks)) {
   }
 }
 
-# Where the two ways to the same question answer it differently.
+# The cases in which p and the interval disagree.
 significant <- ours["p", ] < 0.05
 without_zero <- ours["lo", ] > 0
 describe <- function(what, where) {
@@ -81,14 +81,14 @@ cat("|---|---|---|---|---|\n")
 describe("p < .05, zero inside the interval", which(significant & !without_zero))
 describe("p >= .05, zero outside the interval", which(!significant & without_zero))
 
-# The same with the exact p and the exact 2.5% point in place of 1.96.
+# The same count with the exact p, and with the exact 2.5% point in place of 1.96.
 exact_lo <- tanh(atanh(r) - qnorm(0.975) / sqrt(N - 3))
 cat(sprintf(
   "\nOf %d cases in all; with the normal distribution's exact 2.5%% point in place of 1.96: %d and %d.\n",
   length(r), sum(exact < 0.05 & exact_lo <= 0), sum(exact >= 0.05 & exact_lo > 0)
 ))
 
-# Limits whose digits are all zeros tell by their sign alone on which side of zero they lie.
+# If all digits of a limit are zeros, only its sign tells on which side of zero it lies.
 limits <- texts(ours["lo", ], masks["lo"])
 cat(sprintf(
   "\nLower limits that read \"+.000\": %d; that read \"-.000\": %d.\n",

@@ -1,4 +1,4 @@
-# What the scripts of this folder share. Sourced by them.
+# Functions that the scripts of this folder share.
 # shellcheck shell=bash
 set -euo pipefail
 unset CDPATH
@@ -13,24 +13,24 @@ fail() {
   exit 1
 }
 
-# Where the package puts the program.
+# The path of the installed program.
 readonly installed_program=/usr/bin/vamo
 
-# The checks install the package and remove it again, which must not cost anybody their own.
+# The checks install the package and remove it again; they must not remove a package that the user installed.
 refuse_installed() {
-  [[ ! -e $installed_program ]] || fail "$installed_program is there already; remove that package first"
+  [[ ! -e $installed_program ]] || fail "$installed_program exists already; remove that package first"
 }
 
-# What apt-get and the packages' own scripts say is shown only when they fail.
+# Shows the output of apt-get and of the packages' scripts only if they fail.
 apt_get() {
   local as_root=() output
   if ((EUID != 0)); then
-    command -v sudo >/dev/null || fail 'to change the packages, run this as root or install sudo'
+    command -v sudo >/dev/null || fail 'run this as root or install sudo: it installs packages'
     as_root=(sudo)
   fi
   if ! output=$("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq "$@" 2>&1); then
     printf '%s\n' "$output" >&2
-    fail "apt-get $1 has failed"
+    fail "apt-get $1 failed"
   fi
 }
 
@@ -41,7 +41,7 @@ switch_assistive_technology() {
     "variant:boolean:$1" >/dev/null || fail 'the accessibility bus does not answer'
 }
 
-# Does the rest of the arguments again until it succeeds, for at most so many seconds.
+# within SECONDS COMMAND...: repeats the command until it succeeds or the time is over.
 within() {
   local -r end=$((SECONDS + $1))
   shift
@@ -53,8 +53,8 @@ within() {
 
 configure() { cmake --preset "$1"; }
 
-# What the preset for the browser wants to know of emscripten, and where Debian keeps what its optimiser of
-# JavaScript needs, for a node of another origin too.
+# Sets what the preset web needs: the folder of emscripten and, in case node is not Debian's, the folder in
+# which Debian keeps the modules of the JavaScript optimiser.
 find_emscripten() {
   EMSCRIPTEN_ROOT=$(em-config EMSCRIPTEN_ROOT)
   export EMSCRIPTEN_ROOT NODE_PATH=/usr/share/nodejs
