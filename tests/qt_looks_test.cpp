@@ -160,6 +160,8 @@ TEST(QtLooksTest, KeysMakeAllWindowsLargerAndThenAsTheyWere) {
     const QImage before = Drawn(control);
     const int menu_letters = MenuLetters();
     user.PressKey(Key::Command("-"));
+    EXPECT_EQ(control.width(), 450);
+    MakeWindowsLarger(user, 1);
     EXPECT_EQ(Drawn(control), before);
     MakeWindowsLarger(user, 4);
     const int bar = control.findChild<QMenuBar*>()->height();
@@ -176,6 +178,33 @@ TEST(QtLooksTest, KeysMakeAllWindowsLargerAndThenAsTheyWere) {
     EXPECT_EQ(Drawn(control), before);
     MakeWindowsLarger(user, 20);
     EXPECT_TRUE(control.screen()->availableGeometry().contains(control.frameGeometry()));
+  });
+}
+
+void MoveTo(QScreen& screen, QWidget& window) {
+  window.move(screen.availableGeometry().topLeft());
+  QCoreApplication::processEvents();
+}
+
+TEST(QtLooksTest, NoWindowIsLargerThanItsScreen) {
+  RunProgram([](User& user) {
+    QScreen& large = *QGuiApplication::screens().front();
+    QScreen& small = *QGuiApplication::screens().back();
+    MoveTo(small, *QApplication::activeWindow());
+    user.PressKey(Key::Character(" "));
+    QWidget& control = *QApplication::activeWindow();
+    const auto expect_small = [&] {
+      EXPECT_EQ(control.width(), 350);
+      EXPECT_TRUE(small.availableGeometry().contains(control.frameGeometry()));
+    };
+    expect_small();
+    for (const char* larger : {"0", "+"}) user.PressKey(Key::Command(larger));
+    expect_small();
+    MoveTo(large, control);
+    user.PressKey(Key::Command("0"));
+    EXPECT_EQ(control.width(), 500);
+    MoveTo(small, control);
+    expect_small();
   });
 }
 

@@ -117,6 +117,7 @@ void WindowWidget::Add(ControlWidget& widget) {
 void WindowWidget::PutOnScreen(bool activate) {
   if (window_ != nullptr) Place(*this, window_->WhereToShow());
   if (!isVisible()) settle_.start(kFrameIsDrawn);
+  zoom_.FitScreen();
   ShowFocus();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   setAttribute(Qt::WA_ShowWithoutActivating, !activate);
@@ -149,7 +150,10 @@ void WindowWidget::ShowFocus() {
   widget->setFocus(Qt::OtherFocusReason);
 }
 
-void WindowWidget::Settle() { KeepOnScreen(*this); }
+void WindowWidget::Settle() {
+  zoom_.FitScreen();
+  KeepOnScreen(*this);
+}
 
 bool WindowWidget::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate && settle_.isActive()) {
@@ -157,6 +161,11 @@ bool WindowWidget::event(QEvent* event) {
     QMetaObject::invokeMethod(this, &WindowWidget::Settle, Qt::QueuedConnection);
   }
   if (event->type() == QEvent::WinIdChange) presses_.WatchPlatformWindow();
+  if (event->type() == QEvent::ScreenChangeInternal) {
+    // Once it has its place there.
+    QMetaObject::invokeMethod(
+        this, [this] { zoom_.FitScreen(); }, Qt::QueuedConnection);
+  }
   if (event->type() == QEvent::WindowActivate) activation_.Activated(*this);
   if (event->type() == QEvent::WindowDeactivate) activation_.Deactivated(*this);
   return QWidget::event(event);

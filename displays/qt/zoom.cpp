@@ -1,23 +1,38 @@
 #include "displays/qt/zoom.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "displays/qt/placement.h"
 #include "displays/qt/style.h"
 #include "displays/qt/window.h"
+#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
 
-constexpr std::array kFactors{1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0, 3.5, 4.0, 5.0, 6.0, 8.0};
+constexpr std::array kFactors{0.5, 0.6, 0.7, 0.8, 0.9, 1.0, 1.25, 1.5, 1.75,
+                              2.0, 2.5, 3.0, 3.5, 4.0, 5.0, 6.0,  8.0};
+
+bool IsToBeSeen(const WindowWidget& window) {
+  return window.ShownWindow() != nullptr && window.ShownWindow()->Visible();
+}
 
 bool FitsTheScreen(double factor) {
   const std::vector<WindowWidget*> windows = AllWindows();
   return std::all_of(windows.begin(), windows.end(), [&](WindowWidget* window) {
-    return !window->isVisible() || RoomFor(*window, window->SizeAt(factor));
+    return !IsToBeSeen(*window) || RoomFor(*window, window->SizeAt(factor));
   });
+}
+
+// The largest factor up to a limit at which the windows fit, or else the smallest one.
+double LargestFitting(double limit) {
+  const auto end = std::upper_bound(kFactors.begin(), kFactors.end(), limit);
+  const auto found = std::find_if(std::make_reverse_iterator(end), kFactors.rend(), FitsTheScreen);
+  return found == kFactors.rend() ? kFactors.front() : *found;
 }
 
 QFont Enlarged(QFont font, double factor) {
@@ -42,7 +57,23 @@ void SetFont(const QFont& font, const char* widgets) {
 Zoom::Zoom()
     : fonts_{{{"QMenuBar", QApplication::font("QMenuBar")},
               {"QMenu", QApplication::font("QMenu")},
-              {"QTipLabel", QApplication::font("QTipLabel")}}} {}
+              {"QTipLabel", QApplication::font("QTipLabel")}}} {
+  const auto watch = [this](const QScreen* screen) {
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &connections_, [this] {
+      FitScreen();
+      for (WindowWidget* window : AllWindows()) {
+        if (window->isVisible()) KeepOnScreen(*window);
+      }
+    });
+  };
+  for (const QScreen* screen : QGuiApplication::screens()) watch(screen);
+  QObject::connect(qApp, &QGuiApplication::screenAdded, &connections_, watch);
+}
+
+void Zoom::FitScreen() {
+  // The height of a menu bar is an estimate until it has been scaled.
+  while (LargestFitting(factor_) < factor_) Set(LargestFitting(factor_));
+}
 
 bool Zoom::TakeKey(const QKeyEvent& event) {
   const auto held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
@@ -57,7 +88,7 @@ bool Zoom::TakeKey(const QKeyEvent& event) {
       Step(/*up=*/false);
       return true;
     case Qt::Key_0:
-      Set(1);
+      Set(LargestFitting(1));
       return true;
     default:
       return false;
@@ -79,9 +110,9 @@ void Zoom::Set(double factor) {
     SetFont(Enlarged(font.designed, factor), font.widgets);
   }
   for (WindowWidget* window : AllWindows()) {
-    const QPoint middle = window->frameGeometry().center();
+    const QPoint middle = window->geometry().center();
     window->Rescale();
-    if (window->isVisible()) MoveMiddle(*window, middle);
+    if (IsToBeSeen(*window)) MoveMiddle(*window, middle);
   }
 }
 

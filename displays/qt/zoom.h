@@ -4,21 +4,27 @@
 
 #include <QFont>
 #include <QKeyEvent>
+#include <QObject>
 #include <array>
 
 namespace vamo {
 
 // How many times larger than designed all windows are, and the keys that change it. It is for the
-// back row of a class, and forgotten when the program ends. The toolkit knows nothing of it.
+// back row of a class and for a screen that is smaller than the windows, and forgotten when the
+// program ends. The toolkit knows nothing of it.
 class Zoom {
  public:
   Zoom();
 
   double Factor() const { return factor_; }
 
-  // The command key with plus, minus or 0 makes all windows larger, smaller, or as designed: never
-  // smaller than that, nor larger than the screen. False: it is another key.
+  // The command key with plus, minus or 0 makes all windows larger, smaller, or as designed, as far
+  // as the screen has the room. False: it is another key.
   bool TakeKey(const QKeyEvent& event);
+
+  // Makes all windows smaller as far as needed for each of them to fit its screen. The screens say
+  // themselves when they have become smaller.
+  void FitScreen();
 
  private:
   struct PlatformFont {
@@ -32,6 +38,8 @@ class Zoom {
   double factor_ = 1;
   // Of what the toolkit names no font for.
   std::array<PlatformFont, 3> fonts_;
+  // They end with it.
+  QObject connections_;
 };
 
 }  // namespace vamo

@@ -87,8 +87,8 @@ TEST(Desktop, KeysMakeTheWindowsLargerAndSmaller) {
   InControlWindow({}, [](OutsideUser& user) {
     if (user.ScreenHeight() < 960) GTEST_SKIP() << "the screen is too low";
     user.PressNamed("ctrl+minus");
-    EXPECT_EQ(user.WindowTitled("Vamo").width, 500);
-    for (const char* key : {"ctrl+plus", "ctrl+equal", "ctrl+KP_Add", "ctrl+plus"}) {
+    EXPECT_EQ(user.WindowTitled("Vamo").width, 450);
+    for (const char* key : {"ctrl+0", "ctrl+plus", "ctrl+equal", "ctrl+KP_Add", "ctrl+plus"}) {
       user.PressNamed(key);
     }
     EXPECT_EQ(user.WindowTitled("Vamo").width, 1000);
