@@ -99,7 +99,13 @@ std::unique_ptr<RunningTimer> QtDisplay::StartTimer(std::chrono::milliseconds pe
   return std::make_unique<QtTimer>(period, std::move(fire));
 }
 
-std::string QtDisplay::ClipboardText() { return ToUtf8(QGuiApplication::clipboard()->text()); }
+std::string QtDisplay::ClipboardText() {
+  const QClipboard* clipboard = QGuiApplication::clipboard();
+  // An owner that hangs is waited for by each question. This one says whether the next is in vain.
+  const QMimeData* held = clipboard->mimeData();
+  if (held == nullptr || held->formats().isEmpty()) return "";
+  return ToUtf8(clipboard->text());
+}
 
 // What another program holds, it would have to be asked for, and Qt waits for the answer.
 bool QtDisplay::ClipboardMayHoldText() const {
