@@ -1,6 +1,7 @@
 #include "displays/qt/start.h"
 
 #include <QPalette>
+#include <QScreen>
 #include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
@@ -22,6 +23,16 @@ void SayNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const Q
   std::fprintf(stderr, "vamo: no display to connect to; %s.\n",
                platform_set ? "QT_QPA_PLATFORM may not fit this desktop"
                             : "start it in a desktop session or set DISPLAY");
+  std::_Exit(EXIT_FAILURE);
+}
+
+// Qt crashes where it cannot paint.
+void EndWithTooFewColours() {
+  constexpr int kLeastDepth = 15;
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr || screen->depth() >= kLeastDepth) return;
+  std::fprintf(stderr, "vamo: the display has too few colours; it needs a depth of %d bits.\n",
+               kLeastDepth);
   std::_Exit(EXIT_FAILURE);
 }
 
@@ -62,6 +73,7 @@ std::unique_ptr<QApplication> StartApplication(int& argc, char** argv) {
   const QtMessageHandler usual = qInstallMessageHandler(SayNoDisplay);
   auto application = std::make_unique<QApplication>(argc, argv);
   qInstallMessageHandler(usual);
+  EndWithTooFewColours();
   QApplication::setStyle(new OutlinedStyle);
   QApplication::setPalette(LightColours());
   // A number that begins with a point would end with it on a desktop that is read from the right.

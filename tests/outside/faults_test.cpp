@@ -3,6 +3,7 @@
 #include <signal.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -96,6 +97,13 @@ TEST(Faults, WithoutADisplayOneLineSaysWhatToDo) {
   expect_line({{"DISPLAY", ""}}, "start it in a desktop session or set DISPLAY");
   expect_line({{"DISPLAY", ":9999"}}, "start it in a desktop session or set DISPLAY");
   expect_line({{"QT_QPA_PLATFORM", "nonsense"}}, "QT_QPA_PLATFORM may not fit this desktop");
+}
+
+TEST(Faults, ADisplayWithTooFewColoursIsSaidInOneLine) {
+  const Ended ended =
+      RunToEnd({ProgramPath()}, {}, {{"DISPLAY", std::string(std::getenv("DISPLAY")) + ".1"}});
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_EQ(ended.err, "vamo: the display has too few colours; it needs a depth of 15 bits.\n");
 }
 
 TEST(Faults, ADisplayThatGoesEndsTheProgram) {
