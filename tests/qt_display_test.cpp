@@ -123,7 +123,7 @@ TEST(QtDisplayTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
   });
 }
 
-TEST(QtDisplayTest, ABeepIsSeenWhereNothingSounds) {
+TEST(QtDisplayTest, ABeepIsSeen) {
   InControlWindow([](User& user) {
     auto& field = Named<QLineEdit>("r");
     const QPalette usual = field.palette();

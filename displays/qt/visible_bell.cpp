@@ -1,8 +1,8 @@
 #include "displays/qt/visible_bell.h"
 
+#include <QApplication>
 #include <QColor>
-#include <QGuiApplication>
-#include <QStringList>
+#include <QStyle>
 #include <chrono>
 
 namespace vamo {
@@ -14,19 +14,14 @@ constexpr QColor kLight(0xff, 0xc0, 0x60);
 
 }  // namespace
 
-bool PlatformSoundsAlerts() {
-  const QStringList sounding{QStringLiteral("xcb"), QStringLiteral("windows"),
-                             QStringLiteral("cocoa")};
-  return sounding.contains(QGuiApplication::platformName());
-}
-
 VisibleBell::VisibleBell() {
   timer_.setSingleShot(true);
   QObject::connect(&timer_, &QTimer::timeout, [this] { End(); });
 }
 
 void VisibleBell::Flash(QWidget* widget) {
-  if (widget == nullptr) return;
+  const bool still = QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
+  if (widget == nullptr || still) return;
   timer_.start(kDuration);
   if (lit_ == widget) return;
   End();

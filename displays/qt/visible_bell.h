@@ -1,4 +1,4 @@
-// The system alert on a platform that has no sound for it.
+// The system alert, for the eye.
 #ifndef VAMO_DISPLAYS_QT_VISIBLE_BELL_H_
 #define VAMO_DISPLAYS_QT_VISIBLE_BELL_H_
 
@@ -9,16 +9,13 @@
 
 namespace vamo {
 
-// Whether QApplication::beep is heard: under Wayland, for example, it does nothing.
-bool PlatformSoundsAlerts();
-
 // Lets one widget at a time light up for a moment. One that is alerted again while it is lit stays
 // so a little longer and does not flicker.
 class VisibleBell {
  public:
   VisibleBell();
 
-  // `widget` may be null.
+  // Does nothing where the style is told to keep still. `widget` may be null.
   void Flash(QWidget* widget);
 
  private:

@@ -102,7 +102,7 @@ class Display {
   // outlives what is returned.
   virtual std::unique_ptr<WindowView> OpenWindow(Window& window) = 0;
 
-  // Sounds the system alert or, where nothing sounds, shows it.
+  // Sounds the system alert, where the platform has one, and shows it for a moment.
   virtual void Beep() = 0;
 
   // Called with a sentence, never an empty one, about the active window: must have assistive
