@@ -137,6 +137,45 @@ TEST(QtDisplayTest, ABeepIsSeen) {
   });
 }
 
+// Counts how often one window comes up.
+class Appearances : public QObject {
+ public:
+  explicit Appearances(const char* window) : window_(window) { qApp->installEventFilter(this); }
+  int count = 0;
+
+ private:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Show && watched->objectName() == QLatin1String(window_)) ++count;
+    return false;
+  }
+  const char* window_;
+};
+
+TEST(QtDisplayTest, AWindowThatIsHiddenWithinTheEventDoesNotComeUp) {
+  InControlWindow([](User& user) {
+    user.Choose("Help/About Vamo");
+    user.Close("");
+    Appearances splash("AboutWnd.AboutWnd");
+    user.Click(Role::kButton, "Info");
+    user.ActivateWindow("Vamo");
+    EXPECT_EQ(user.Windows().size(), 2U);
+    EXPECT_EQ(splash.count, 0);
+    user.Choose("Help/About Vamo");
+    EXPECT_EQ(splash.count, 1);
+  });
+}
+
+TEST(QtDisplayTest, WhoComesBackFindsTheFocusInTheWindowNotInItsMenuBar) {
+  InControlWindow([](User& user) {
+    user.Click(Role::kButton, "Info");
+    user.ActivateWindow("Vamo");
+    QApplication::activeWindow()->findChild<QMenuBar*>()->setFocus();
+    user.ActivateWindow("Info");
+    user.ActivateWindow("Vamo");
+    EXPECT_EQ(user.Focused().name, "r");
+  });
+}
+
 TEST(QtDisplayTest, APasteOfNoTextLeavesTheSelectionAlone) {
   InControlWindow([](User& user) {
     user.Type("5");

@@ -67,6 +67,8 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
   connect(&settle_, &QTimer::timeout, this, [this] { Settle(); });
 }
 
+bool WindowWidget::IsToBeSeen() const { return window_ != nullptr && window_->Visible(); }
+
 void WindowWidget::AddMenuBar() {
   if (!window_->MenuBar()) return;
   menu_bar_ = new QMenuBar(this);
@@ -115,9 +117,23 @@ void WindowWidget::Add(ControlWidget& widget) {
 }
 
 void WindowWidget::PutOnScreen(bool activate) {
-  if (window_ != nullptr) Place(*this, window_->WhereToShow());
-  if (!isVisible()) settle_.start(kFrameIsDrawn);
+  Place(*this, window_->WhereToShow());
   zoom_.FitScreen();
+  if (isVisible()) {
+    Map(activate);
+    return;
+  }
+  // One that is hidden again by the end of the event must not come up, or it takes the focus along.
+  QMetaObject::invokeMethod(
+      this,
+      [this, activate] {
+        if (IsToBeSeen()) Map(activate);
+      },
+      Qt::QueuedConnection);
+}
+
+void WindowWidget::Map(bool activate) {
+  if (!isVisible()) settle_.start(kFrameIsDrawn);
   ShowFocus();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   setAttribute(Qt::WA_ShowWithoutActivating, !activate);
@@ -128,6 +144,7 @@ void WindowWidget::PutOnScreen(bool activate) {
   // Qt can take a window for active all through a quick Hide and Show, and then reports no change.
   const bool has_keys = windowHandle() == QGuiApplication::focusWindow();
   if (has_keys && !isActiveWindow()) QApplication::setActiveWindow(this);
+  activation_.Await(*this);
 }
 
 void WindowWidget::TakeAway() {
@@ -216,9 +233,6 @@ std::unique_ptr<ControlView> QtWindowView::CreateControl(AnyControl control) {
   return std::visit(create, control);
 }
 
-void QtWindowView::Show(bool activate) {
-  widget_->PutOnScreen(activate);
-  if (activate) activation_.Await(*widget_);
-}
+void QtWindowView::Show(bool activate) { widget_->PutOnScreen(activate); }
 
 }  // namespace vamo

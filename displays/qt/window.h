@@ -28,6 +28,8 @@ class WindowWidget : public QWidget {
   // Null when the window's part on the display has been given up.
   Window* ShownWindow() const { return window_; }
   void Detach() { window_ = nullptr; }
+  // Whether the toolkit wants the window on the screen.
+  bool IsToBeSeen() const;
 
   // How many times larger than designed the window is.
   double Factor() const { return zoom_.Factor(); }
@@ -41,7 +43,8 @@ class WindowWidget : public QWidget {
   ContentWidget& Content() { return *content_; }
   // Adds a control's new widget, whose parent is the content.
   void Add(ControlWidget& widget);
-  // Puts the window on the screen; with `activate` in front and with the focus.
+  // Puts the window on the screen, when the event ends; with `activate` in front and with the
+  // focus.
   void PutOnScreen(bool activate);
   void TakeAway();
   // Sends the keys where the toolkit has its focus.
@@ -56,6 +59,7 @@ class WindowWidget : public QWidget {
   void AddMenuBar();
   QSize DesignedSize() const;
   void SetSizes(const QSize& content);
+  void Map(bool activate);
   // Makes sure that all of a window is on the screen, with the frame that it has by now.
   void Settle();
 

@@ -9,7 +9,6 @@
 #include "displays/qt/placement.h"
 #include "displays/qt/style.h"
 #include "displays/qt/window.h"
-#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -17,14 +16,10 @@ namespace {
 constexpr std::array kFactors{0.5, 0.6, 0.7, 0.8, 0.9, 1.0, 1.25, 1.5, 1.75,
                               2.0, 2.5, 3.0, 3.5, 4.0, 5.0, 6.0,  8.0};
 
-bool IsToBeSeen(const WindowWidget& window) {
-  return window.ShownWindow() != nullptr && window.ShownWindow()->Visible();
-}
-
 bool FitsTheScreen(double factor) {
   const std::vector<WindowWidget*> windows = AllWindows();
   return std::all_of(windows.begin(), windows.end(), [&](WindowWidget* window) {
-    return !IsToBeSeen(*window) || RoomFor(*window, window->SizeAt(factor));
+    return !window->IsToBeSeen() || RoomFor(*window, window->SizeAt(factor));
   });
 }
 
@@ -112,7 +107,7 @@ void Zoom::Set(double factor) {
   for (WindowWidget* window : AllWindows()) {
     const QPoint middle = window->geometry().center();
     window->Rescale();
-    if (IsToBeSeen(*window)) MoveMiddle(*window, middle);
+    if (window->IsToBeSeen()) MoveMiddle(*window, middle);
   }
 }
 
