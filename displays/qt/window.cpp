@@ -147,10 +147,24 @@ void WindowWidget::Map(bool activate) {
   activation_.Await(*this);
 }
 
+// The one that it stays with, or else any other one of the program.
+QWindow* WindowWidget::NextToBeActive() const {
+  if (windowHandle() != nullptr && windowHandle()->transientParent() != nullptr) {
+    return windowHandle()->transientParent();
+  }
+  for (const WindowWidget* window : AllWindows()) {
+    if (window != this && window->isVisible() && !window->isMinimized()) {
+      return window->windowHandle();
+    }
+  }
+  return nullptr;
+}
+
 void WindowWidget::TakeAway() {
-  QWindow* stays_with = windowHandle() == nullptr ? nullptr : windowHandle()->transientParent();
-  // Before it goes: a window manager that loses the active window may choose any other one.
-  if (stays_with != nullptr && isActiveWindow()) stays_with->requestActivate();
+  // Before it goes: a window manager that loses the active window may choose any other one, and
+  // without a window manager nobody chooses.
+  QWindow* next = isActiveWindow() ? NextToBeActive() : nullptr;
+  if (next != nullptr) next->requestActivate();
   const QRect at = geometry();
   hide();
   setGeometry(at);
@@ -207,7 +221,7 @@ QtWindowView::QtWindowView(Window& window, Activation& activation, Zoom& zoom)
 QtWindowView::~QtWindowView() {
   if (widget_ == nullptr) return;
   widget_->Detach();
-  widget_->hide();
+  widget_->TakeAway();
   // The view may go while one of its widgets still has an event to finish.
   widget_->deleteLater();
 }

@@ -60,6 +60,7 @@ class WindowWidget : public QWidget {
   QSize DesignedSize() const;
   void SetSizes(const QSize& content);
   void Map(bool activate);
+  QWindow* NextToBeActive() const;
   // Makes sure that all of a window is on the screen, with the frame that it has by now.
   void Settle();
 
