@@ -181,6 +181,10 @@ void WindowWidget::ShowFocus() {
   widget->setFocus(Qt::OtherFocusReason);
 }
 
+void WindowWidget::RestoreFocus() {
+  if (isActiveWindow() && QApplication::activePopupWidget() == nullptr) ShowFocus();
+}
+
 void WindowWidget::Settle() {
   zoom_.FitScreen();
   KeepOnScreen(*this);
@@ -197,7 +201,12 @@ bool WindowWidget::event(QEvent* event) {
     QMetaObject::invokeMethod(
         this, [this] { zoom_.FitScreen(); }, Qt::QueuedConnection);
   }
-  if (event->type() == QEvent::WindowActivate) activation_.Activated(*this);
+  if (event->type() == QEvent::WindowActivate) {
+    // The menu bar may have had the focus when the user left, or nothing when the window was
+    // hidden.
+    QMetaObject::invokeMethod(this, &WindowWidget::RestoreFocus, Qt::QueuedConnection);
+    activation_.Activated(*this);
+  }
   if (event->type() == QEvent::WindowDeactivate) activation_.Deactivated(*this);
   return QWidget::event(event);
 }

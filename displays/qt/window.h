@@ -60,6 +60,8 @@ class WindowWidget : public QWidget {
   QSize DesignedSize() const;
   void SetSizes(const QSize& content);
   void Map(bool activate);
+  // Sends the keys where the toolkit has its focus, unless a menu is open.
+  void RestoreFocus();
   QWindow* NextToBeActive() const;
   // Makes sure that all of a window is on the screen, with the frame that it has by now.
   void Settle();
