@@ -170,6 +170,10 @@ TEST(QtDisplayTest, WhoComesBackFindsTheFocusInTheWindowNotInItsMenuBar) {
   InControlWindow([](User& user) {
     user.Click(Role::kButton, "Info");
     user.ActivateWindow("Vamo");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
+    QWidget* menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    menu->close();
     QApplication::activeWindow()->findChild<QMenuBar*>()->setFocus();
     user.ActivateWindow("Info");
     user.ActivateWindow("Vamo");

@@ -148,7 +148,7 @@ bool KeyRouter::TakeKey(const QKeyEvent& event) {
     return true;
   }
   const bool dealt_with = window->UserPressedKey(*key);
-  if (!dealt_with && window_.TakeZoomKey(event)) return true;
+  if (!dealt_with && window_.TakeOwnKey(event)) return true;
   return dealt_with || (key->code == KeyCode::kCharacter && !key->command);
 }
 

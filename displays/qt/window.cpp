@@ -160,6 +160,13 @@ QWindow* WindowWidget::NextToBeActive() const {
   return nullptr;
 }
 
+bool WindowWidget::TakeOwnKey(const QKeyEvent& event) {
+  const bool opens_menus = event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier;
+  if (!opens_menus || menu_bar_ == nullptr) return zoom_.TakeKey(event);
+  menu_bar_->setActiveAction(menu_bar_->actions().front());
+  return true;
+}
+
 void WindowWidget::TakeAway() {
   // Before it goes: a window manager that loses the active window may choose any other one, and
   // without a window manager nobody chooses.

@@ -37,8 +37,9 @@ class WindowWidget : public QWidget {
   void Rescale();
   // How large the window would be with another factor.
   QSize SizeAt(double factor) const;
-  // The keys that make windows larger and smaller. False: it is another key.
-  bool TakeZoomKey(const QKeyEvent& event) { return zoom_.TakeKey(event); }
+  // The keys that make windows larger and smaller, and the one that opens the menus. False: it is
+  // another key.
+  bool TakeOwnKey(const QKeyEvent& event);
 
   ContentWidget& Content() { return *content_; }
   // Adds a control's new widget, whose parent is the content.
