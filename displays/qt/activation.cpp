@@ -44,6 +44,10 @@ void Activation::Await(WindowWidget& window) {
     Activated(window);
     return;
   }
+  AwaitAgain(window);
+}
+
+void Activation::AwaitAgain(WindowWidget& window) {
   awaited_ = &window;
   patience_.start(kPatience);
 }
@@ -57,6 +61,7 @@ void Activation::Activated(const WindowWidget& window) {
 }
 
 void Activation::Deactivated(WindowWidget& window) {
+  if (awaited_ == &window) return;
   if (focus_in_menu_) {
     left_for_menu_ = &window;
     return_.start(kTimeToReturn);

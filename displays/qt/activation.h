@@ -25,6 +25,8 @@ class Activation {
   void Pressed(WindowWidget& window);
   // The window has been brought up and is to have the keys.
   void Await(WindowWidget& window);
+  // The active window is about to go and to come up again, which is no activation of it.
+  void AwaitAgain(WindowWidget& window);
   // What the platform says.
   void Activated(const WindowWidget& window);
   void Deactivated(WindowWidget& window);

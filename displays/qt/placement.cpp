@@ -1,5 +1,6 @@
 #include "displays/qt/placement.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QStyle>
 #include <QWindow>
@@ -99,6 +100,10 @@ bool RoomFor(const QWidget& window, const QSize& size) {
   }
   const QSize needed = size.grownBy(frame);
   return needed.boundedTo(Available(window).size()) == needed;
+}
+
+bool PlatformPlacesWindows() {
+  return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
 void MoveMiddle(QWidget& window, const QPoint& middle) {

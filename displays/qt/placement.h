@@ -18,6 +18,9 @@ void Place(QWidget& window, const Window::Placement& placement);
 // it.
 bool RoomFor(const QWidget& window, const QSize& size);
 
+// Whether a window cannot choose its place, as under Wayland.
+bool PlatformPlacesWindows();
+
 // Moves the middle of a window there, as far as all of it then lies on the screen, with what the
 // platform draws around it. Of one that is too large the top left corner does.
 void MoveMiddle(QWidget& window, const QPoint& middle);

@@ -167,6 +167,14 @@ bool WindowWidget::TakeOwnKey(const QKeyEvent& event) {
   return true;
 }
 
+void WindowWidget::MapAgain() {
+  const bool active = isActiveWindow();
+  if (active) activation_.AwaitAgain(*this);
+  hide();
+  Map(active);
+  RestoreFocus();
+}
+
 void WindowWidget::TakeAway() {
   // Before it goes: a window manager that loses the active window may choose any other one, and
   // without a window manager nobody chooses.

@@ -48,6 +48,8 @@ class WindowWidget : public QWidget {
   // focus.
   void PutOnScreen(bool activate);
   void TakeAway();
+  // Takes the window off the screen and puts it there again, which is no activation.
+  void MapAgain();
   // Sends the keys where the toolkit has its focus.
   void ShowFocus();
 

@@ -30,6 +30,16 @@ double LargestFitting(double limit) {
   return found == kFactors.rend() ? kFactors.front() : *found;
 }
 
+// A compositor leaves the corner of a window where it is, and the rest may grow off the screen.
+// Only a window that comes up is placed. The active one comes last, to have the focus again.
+void MapAgain() {
+  std::vector<WindowWidget*> windows = AllWindows();
+  std::erase_if(windows, [](WindowWidget* window) { return !window->isVisible(); });
+  std::stable_partition(windows.begin(), windows.end(),
+                        [](WindowWidget* window) { return !window->isActiveWindow(); });
+  for (WindowWidget* window : windows) window->MapAgain();
+}
+
 QFont Enlarged(QFont font, double factor) {
   if (font.pixelSize() > 0) {
     font.setPixelSize(qRound(font.pixelSize() * factor));
@@ -109,6 +119,7 @@ void Zoom::Set(double factor) {
     window->Rescale();
     if (window->IsToBeSeen()) MoveMiddle(*window, middle);
   }
+  if (PlatformPlacesWindows()) MapAgain();
 }
 
 }  // namespace vamo
