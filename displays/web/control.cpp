@@ -78,7 +78,8 @@ WebControl::~WebControl() { window_.Remove(*this); }
 
 void WebControl::SetFont(const Font& font) {
   element_.SetStyle("font", ToCss(font));
-  element_.SetStyle("font-size", Units(font.size));
+  element_.SetStyle("--font", ShortText(font.size));
+  element_.SetStyle("font-size", "");
   // The font as a whole brings a height of lines, and what the style sheet has is to stand.
   element_.SetStyle("line-height", "");
   if (font.underline) element_.SetStyle("text-decoration", "underline");

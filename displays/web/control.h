@@ -35,9 +35,7 @@ class WebControl : public ControlView, public PageListener {
   PageAnswer Take(const PageReport& report) override;
 
   PageElement& Element() { return element_; }
-  // Tells the style sheet where the control lies on a screen that is worked by fingers.
-  void SetFingerTop(const std::string& top) { element_.SetStyle("--finger-top", top); }
-  RectControl& Control() { return control_; }
+  RectControl& Control() const { return control_; }
   // Makes the toolkit know what the user has selected since it was told last.
   virtual void ReportSelection() {}
   // Takes the browser's focus here.

@@ -54,7 +54,14 @@ WebLabel::WebLabel(WebWindow& window, Label& label)
   // An output would speak at every step of a drag; the toolkit says what is to be announced. No
   // other element is one that speaks by itself.
   Element().SetAttribute("aria-live", "off");
-  Element().SetAttribute("class", "control text " + std::string(ClassOf(label.Alignment())));
+  // What is designed to be small print, and what is a heading.
+  constexpr float kSmall = 10;
+  constexpr float kLarge = 20;
+  const float size = label.Font().size;
+  Element().SetAttribute("class", "control text " + std::string(ClassOf(label.Alignment())) +
+                                      (size < kSmall   ? " small"
+                                       : size > kLarge ? " large"
+                                                       : ""));
   Element().SetStyle("color", ToCss(Legible(label.TextColour())));
   SetFont(label.Font());
   Update();
@@ -133,8 +140,19 @@ PageAnswer WebSlider::Take(const PageReport& report) {
     case PageEvent::kInput:
       // What the page shows already may not stand.
       shown_ = report.x;
-      slider_.UserSetByAssistiveTechnology(report.x);
+      if (drag_ == Drag::kNone || drag_ == Drag::kSideways)
+        slider_.UserSetByAssistiveTechnology(report.x);
       Update();
+      return PageAnswer::kTaken;
+    case PageEvent::kTouch:
+      touched_ = {report.x, report.y};
+      drag_ = Drag::kUndecided;
+      return PageAnswer::kTaken;
+    case PageEvent::kTouchMoves:
+      TakeTouchMove(report);
+      return PageAnswer::kTaken;
+    case PageEvent::kTouchEnds:
+      drag_ = Drag::kNone;
       return PageAnswer::kTaken;
     case PageEvent::kWheel:
       // With the key the browser makes the page larger, and what the user has not come to lets the
@@ -145,6 +163,25 @@ PageAnswer WebSlider::Take(const PageReport& report) {
     default:
       return answer;
   }
+}
+
+// A finger that first moves sideways is the browser's, which slides. One that first moves up or
+// down scrolls the page, and no browser slides by it any more: if it goes on sideways, that is done
+// here.
+void WebSlider::TakeTouchMove(const PageReport& report) {
+  constexpr double kSlop = 8;
+  constexpr double kKnob = 28;  // As the style sheet has it.
+  const double width = Element().Width();
+  const double sideways = std::abs(report.x - touched_.first) * width;
+  const double upright = std::abs(report.y - touched_.second) * Element().Height();
+  if (drag_ == Drag::kUndecided && std::max(sideways, upright) > kSlop)
+    drag_ = sideways > upright ? Drag::kSideways : Drag::kScrolls;
+  if (drag_ == Drag::kScrolls && sideways > kSlop && sideways > upright) drag_ = Drag::kSlides;
+  if (drag_ != Drag::kSlides) return;
+  const auto least = static_cast<double>(slider_.MinimumValue());
+  const auto greatest = static_cast<double>(slider_.MaximumValue());
+  const double share = (report.x * width - kKnob / 2) / (width - kKnob);
+  slider_.UserMovedTo(std::llround(least + std::clamp(share, 0.0, 1.0) * (greatest - least)));
 }
 
 // A wheel that is turned to the right takes the knob to the right.

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "displays/web/control.h"
 #include "toolkit/control/canvas.h"
@@ -71,10 +72,15 @@ class WebSlider : public WebControl {
  private:
   void ShowState() override;
   void TakeWheel(double turned);
+  void TakeTouchMove(const PageReport& report);
 
   Slider& slider_;
   // The value in the element.
   std::optional<double> shown_;
+  // Where a finger has gone down, and what became of its drag.
+  std::pair<double, double> touched_;
+  enum class Drag { kNone, kUndecided, kSideways, kScrolls, kSlides };
+  Drag drag_ = Drag::kNone;
   // What the wheel has turned beyond whole notches.
   double turned_ = 0;
 };

@@ -27,6 +27,7 @@ WebDisplay::WebDisplay(std::function<void()> ended)
   announcement_.SetAttribute("class", "announcement");
   announcement_.SetAttribute("role", "status");
   page::SetOwner(this);
+  ShowRoom();
 }
 
 WebDisplay::~WebDisplay() { page::SetOwner(nullptr); }
@@ -77,7 +78,22 @@ void WebDisplay::RunEvent(const std::function<void()>& event) {
   Runtime::Current().Dispatch(event);
 }
 
+// As designed where the window has the room, and is worked by a mouse and reads as designed.
+void WebDisplay::ShowRoom() {
+  constexpr double kNarrow = 500;
+  constexpr double kEnlarged = 1.1;
+  const double enlargement = page::TextEnlargement();
+  const bool flows =
+      page::Width() < kNarrow || enlargement > kEnlarged || page::IsWorkedByFingers();
+  page_.SetAttribute("class", flows ? "flow" : "designed");
+  page_.SetStyle("--enlarged", ShortText(std::max(1.0, enlargement)));
+}
+
 PageAnswer WebDisplay::Take(const PageReport& report) {
+  if (report.event == PageEvent::kRoom) {
+    ShowRoom();
+    return PageAnswer::kTaken;
+  }
   // What the user does now is meant for the window that is about to come in front.
   ActivateNext();
   if (front_ == nullptr) return PageAnswer::kPassed;

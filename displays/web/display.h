@@ -58,6 +58,8 @@ class WebDisplay : public Display, public PageOwner {
   // Does something as an event of its own, unless the program ends before.
   void Post(std::function<void()> act);
   void ActivateNext();
+  // Tells the style sheet which of the two layouts there is room for.
+  void ShowRoom();
 
   const std::function<void()> ended_;
   PageElement page_;

@@ -24,6 +24,11 @@ void page_focus(int element);
 void page_come_into_view(int element);
 int page_has_focus(int element);
 void page_bring_to_end(int element);
+void page_move(int element, int parent);
+double page_element_width(int element);
+double page_element_height(int element);
+double page_text_enlargement();
+double page_width();
 void page_flash(int element);
 void page_set_owned(int owned);
 void page_post();
@@ -152,6 +157,8 @@ bool PageElement::HasFocus() const { return page_has_focus(number_) != 0; }
 
 void PageElement::BringToEnd() { page_bring_to_end(number_); }
 
+void PageElement::MoveTo(const PageElement& parent) { page_move(number_, parent.number_); }
+
 void PageElement::Flash() { page_flash(number_); }
 
 void PageElement::ShowPicture(std::string_view name) {
@@ -159,6 +166,10 @@ void PageElement::ShowPicture(std::string_view name) {
   picture_ = name;
   page_show_picture(number_, name.data(), name.size());
 }
+
+double PageElement::Width() const { return page_element_width(number_); }
+
+double PageElement::Height() const { return page_element_height(number_); }
 
 std::string PageElement::Id() const { return "vamo" + std::to_string(number_); }
 
@@ -193,6 +204,10 @@ void StopTimer(int number) {
 double TextWidth(std::string_view text, std::string_view css_font) {
   return page_text_width(text.data(), text.size(), css_font.data(), css_font.size());
 }
+
+double TextEnlargement() { return page_text_enlargement(); }
+
+double Width() { return page_width(); }
 
 bool Copy(std::string_view text) { return page_copy(text.data(), text.size()) != 0; }
 

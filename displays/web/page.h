@@ -32,7 +32,13 @@ enum class PageEvent {
   // A press of any button begins, before it is reported itself: by kPress where the button is the
   // main one, else by kOtherPress.
   kPressBegins = 13,
-  kOtherPress = 14
+  kOtherPress = 14,
+  // The page, or its texts, have another size.
+  kRoom = 15,
+  // A finger touches a slider, moves on to another place, and goes.
+  kTouch = 16,
+  kTouchMoves = 17,
+  kTouchEnds = 18
 };
 
 struct PageReport {
@@ -137,7 +143,13 @@ class PageElement {
   void ComeIntoView();
   bool HasFocus() const;
   void BringToEnd();
+  // To the end of another element.
+  void MoveTo(const PageElement& parent);
   void Flash();
+
+  // In CSS pixels.
+  double Width() const;
+  double Height() const;
 
   // What other elements refer to it by.
   std::string Id() const;
@@ -167,6 +179,12 @@ void StopTimer(int number);
 
 // The width of a text in a CSS font, in CSS pixels.
 double TextWidth(std::string_view text, std::string_view css_font);
+
+// How much wider texts are than asked for, because somebody has set the browser, or a style of his
+// own, to larger or wider ones.
+double TextEnlargement();
+// The width of the page in CSS pixels.
+double Width();
 
 // Puts a text on the clipboard, unless the browser refuses; only while the user does something.
 bool Copy(std::string_view text);

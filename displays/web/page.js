@@ -8,6 +8,8 @@ mergeInto(LibraryManager.library, {
     // What the running event is to put on the clipboard.
     copied: null,
     inCopy: false,
+    // By the number of the event.
+    hasPlace: { 1: true, 14: true, 16: true, 17: true },
     // Whether a text stands in an element that is not complete.
     composes: false,
     // Where the mouse has gone down.
@@ -50,13 +52,13 @@ mergeInto(LibraryManager.library, {
       var held = (cause.shiftKey ? 1 : 0) + (cause.ctrlKey ? 2 : 0) + (cause.altKey ? 4 : 0) +
         (cause.metaKey ? 8 : 0) + (cause.repeat ? 16 : 0);
       var answer = 0;
-      if (!Page.owned) return;
       for (var element = cause.target; element && !answer; element = element.parentNode) {
         if (!element.listens) continue;
-        if (event === 1 || event === 14) {
+        if (Page.hasPlace[event]) {
+          var at = cause.touches ? cause.touches[0] : cause;
           var box = element.getBoundingClientRect();
-          x = (cause.clientX - box.left) / box.width;
-          y = (cause.clientY - box.top) / box.height;
+          x = (at.clientX - box.left) / box.width;
+          y = (at.clientY - box.top) / box.height;
         }
         answer = Page.tell(element.vamo, event, x, y, held, text, data);
       }
@@ -65,6 +67,8 @@ mergeInto(LibraryManager.library, {
       return answer;
     },
     tell: function (number, event, x, y, held, text, data) {
+      // Before the program has been compiled there is nobody, and after its end.
+      if (!Page.owned) return 0;
       return Page.enter(function () {
         var first = Page.give(text);
         var second = Page.give(data);
@@ -82,6 +86,14 @@ mergeInto(LibraryManager.library, {
         throw error;
       }
     },
+    measure: function (text, font) {
+      if (!Page.canvas) Page.canvas = document.createElement('canvas').getContext('2d');
+      if (font !== Page.font) {
+        Page.canvas.font = font;
+        Page.font = font;
+      }
+      return Page.canvas.measureText(text).width;
+    },
     copy: function (event, number) {
       if (Page.copied === null) {
         Page.inCopy = true;
@@ -98,6 +110,7 @@ mergeInto(LibraryManager.library, {
       Page.elements[0] = document.getElementById('vamo');
       // A saved copy of the page still has the windows that were open.
       Page.elements[0].textContent = '';
+      Page.probe = document.getElementById('probe');
       Page.listen();
     },
     listen: function () {
@@ -143,6 +156,18 @@ mergeInto(LibraryManager.library, {
           Page.composes = false;
           Page.report(event, 6, 0, 0, event.data);
         },
+        touchstart: function (event) {
+          if (event.target.type === 'range') Page.report(event, 16, 0, 0);
+        },
+        touchmove: function (event) {
+          if (event.target.type === 'range') Page.report(event, 17, 0, 0);
+        },
+        touchend: function (event) {
+          if (event.target.type === 'range') Page.report(event, 18, 0, 0);
+        },
+        touchcancel: function (event) {
+          if (event.target.type === 'range') Page.report(event, 18, 0, 0);
+        },
         wheel: function (event) {
           Page.report(event, 7, -event.wheelDeltaX / 120, event.wheelDeltaY / 120);
         },
@@ -158,7 +183,8 @@ mergeInto(LibraryManager.library, {
         beforepaste: function (event) { event.preventDefault(); }
       };
       for (var name in listeners) {
-        document.addEventListener(name, listeners[name], { passive: false });
+        // A touch is never held up, so that the page scrolls at once.
+        document.addEventListener(name, listeners[name], { passive: name.indexOf('touch') === 0 });
       }
       // A press that the program takes whole leaves the focus around a frame.
       document.addEventListener('mousedown', function () {
@@ -166,6 +192,17 @@ mergeInto(LibraryManager.library, {
         if (!document.hasFocus()) window.focus();
       }, true);
       document.addEventListener('keydown', function () { Page.used = true; }, true);
+      function tellRoom() { Page.tell(-1, 15, 0, 0, 0, '', ''); }
+      window.addEventListener('resize', tellRoom);
+      if (window.ResizeObserver) new ResizeObserver(tellRoom).observe(Page.probe);
+      // A keyboard on the screen leaves less of the page to be seen; to enlarge the page does, too,
+      // and is nothing that it follows.
+      if (window.visualViewport) {
+        visualViewport.addEventListener('resize', function () {
+          document.documentElement.style.setProperty('--shown',
+            visualViewport.height * visualViewport.scale + 'px');
+        });
+      }
       window.addEventListener('focus', function () {
         var element = Page.waiting;
         Page.waiting = null;
@@ -255,6 +292,16 @@ mergeInto(LibraryManager.library, {
   page_bring_to_end: function (number) {
     Page.elements[number].parentNode.appendChild(Page.elements[number]);
   },
+  page_move: function (number, parent) {
+    Page.elements[parent].appendChild(Page.elements[number]);
+  },
+  page_text_enlargement: function () {
+    var asked = Page.measure(Page.probe.textContent, '12px system-ui,sans-serif');
+    return Page.probe.getBoundingClientRect().width / asked;
+  },
+  page_width: function () { return document.documentElement.clientWidth; },
+  page_element_width: function (number) { return Page.elements[number].offsetWidth; },
+  page_element_height: function (number) { return Page.elements[number].offsetHeight; },
   page_flash: function (number) {
     if (matchMedia('(prefers-reduced-motion: reduce)').matches) return;
     Page.elements[number].animate([{ backgroundColor: '#ffc060' }, { backgroundColor: '#ffc060' }],
@@ -279,13 +326,7 @@ mergeInto(LibraryManager.library, {
     delete Page.timers[timer];
   },
   page_text_width: function (text, length, font, fontLength) {
-    if (!Page.canvas) Page.canvas = document.createElement('canvas').getContext('2d');
-    font = Page.read(font, fontLength);
-    if (font !== Page.font) {
-      Page.canvas.font = font;
-      Page.font = font;
-    }
-    return Page.canvas.measureText(Page.read(text, length)).width;
+    return Page.measure(Page.read(text, length), Page.read(font, fontLength));
   },
   // Only the event of a copy reaches the clipboard everywhere, so one is made where none runs.
   page_copy: function (text, length) {

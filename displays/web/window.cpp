@@ -8,7 +8,6 @@
 #include "displays/web/controls.h"
 #include "displays/web/display.h"
 #include "displays/web/keys.h"
-#include "displays/web/rows.h"
 #include "displays/web/text.h"
 
 namespace vamo {
@@ -102,22 +101,11 @@ void WebWindow::LinkCaptions() {
   }
 }
 
-void WebWindow::PlaceForFingers() {
-  std::vector<Bounds> boxes;
-  boxes.reserve(controls_.size());
-  for (WebControl* control : controls_) boxes.push_back(control->Control().Bounds());
-  const SpacedRows rows = SpaceRows(boxes, window_.InitialState().height);
-  for (std::size_t i = 0; i < controls_.size(); ++i) {
-    controls_[i]->SetFingerTop(std::to_string(rows.tops[i]));
-  }
-  content_.SetStyle("--finger-height", std::to_string(rows.pitch));
-}
-
 // Another window of the page is always active, so this one may be.
 void WebWindow::Show(bool /*activate*/) {
   if (!std::exchange(has_been_shown_, true)) {
     LinkCaptions();
-    PlaceForFingers();
+    arrangement_ = std::make_unique<Arrangement>(content_, controls_);
   }
   on_screen_ = true;
   frame_.SetFlag("hidden", false);
@@ -146,7 +134,11 @@ void WebWindow::ShowPlace(int depth) {
 
 void WebWindow::ShowFocus() {
   const WebControl* control = FocusedControl();
-  if (control == nullptr || !control->OpensKeyboard()) GiveFocus();
+  if (control == nullptr || !control->OpensKeyboard()) {
+    GiveFocus();
+  } else if (IsInFront()) {
+    frame_.Focus();
+  }
 }
 
 // The user has moved it by a key.

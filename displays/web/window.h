@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "displays/web/arrangement.h"
 #include "displays/web/control.h"
 #include "displays/web/menu.h"
 #include "displays/web/page.h"
@@ -61,8 +62,6 @@ class WebWindow : public WindowView {
   PageAnswer TakePress(const PageReport& report);
   void MakeTitleBar();
   void LinkCaptions();
-  // Tells the style sheet where things lie on a screen that is worked by fingers.
-  void PlaceForFingers();
 
   WebDisplay& display_;
   Window& window_;
@@ -74,6 +73,7 @@ class WebWindow : public WindowView {
   std::unique_ptr<WebMenuBar> menu_bar_;
   PageElement content_;
   std::vector<WebControl*> controls_;
+  std::unique_ptr<Arrangement> arrangement_;
   bool on_screen_ = false;
   bool has_been_shown_ = false;
   bool showing_focus_ = false;

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -59,45 +60,78 @@ TEST_F(PageTest, TwoCopiesInFramesKeepTheirNumbersAndLetTabThrough) {
   EXPECT_EQ(browser().Run("return document.querySelector('input').value;"), "");
 }
 
-TEST_F(PageTest, FitsPhonesAndTheirFingers) {
-  for (const auto& [width, height] : {std::pair{360, 640}, {640, 360}}) {
+// The sizes are those of phones, of one with its keyboard on the screen, of tablets, and of a page
+// that the browser has made four times as large.
+TEST_F(PageTest, FlowsOnNarrowScreensAndForFingers) {
+  for (const auto& [width, height, fits] : {std::tuple{320, 568, true},
+                                            {360, 640, true},
+                                            {390, 400, false},
+                                            {640, 280, false},
+                                            {768, 1024, true},
+                                            {1180, 820, true},
+                                            {320, 256, false}}) {
+    SCOPED_TRACE(std::to_string(width) + " x " + std::to_string(height));
     BecomePhone(width, height);
     PageUser user = InControlWindow();
     EXPECT_EQ(user.Focused().name, "") << "no keyboard before a field is touched";
-    const Place window = user.Frame().Extents();
-    EXPECT_TRUE(window.x >= 0 && window.y >= 0 && window.x + window.width <= width &&
-                window.y + window.height <= height);
-    for (const auto& [role, name] : {std::pair{Role::kText, "r"},
-                                     {Role::kSlider, "r"},
-                                     {Role::kText, "N"},
-                                     {Role::kSlider, "N"},
-                                     {Role::kButton, "Info"}}) {
-      const Place box = user.Find(role, name).Extents();
-      const json hit = browser().Run(
-          "const [x, y] = arguments;"
-          "return [-19.5, 0, 19.5].map(off => document.elementFromPoint(x, y + off))"
-          ".map(element => element.getAttribute('aria-label') + element.type);",
-          {box.x + box.width / 2, box.y + box.height / 2});
-      const std::string type = role == Role::kText     ? "text"
-                               : role == Role::kSlider ? "range"
-                                                       : "button";
-      const std::string whole = name + type;
-      EXPECT_EQ(hit, json({whole, whole, whole})) << width;
-    }
-    const Place slider = user.Find(Role::kSlider, "r").Extents();
-    const int y = slider.y + slider.height / 2;
-    browser().Swipe(
-        {{slider.x + 5, y}, {slider.x + 50, y + 3}, {slider.x + slider.width / 2, y + 20}});
-    EXPECT_NEAR(user.Sees(Role::kSlider, "r").value, .5, .03);
-    EXPECT_EQ(browser().Run("return scrollY;"), 0);
-    const Place field = user.Find(Role::kText, "N").Extents();
-    browser().Swipe({{field.x + field.width / 2, field.y + field.height / 2}});
-    EXPECT_EQ(user.Focused().name, "N");
-    EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "numeric");
-    user.PressNamed("shift+Tab");
-    EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "decimal")
-        << "a tablet may have keys";
+    EXPECT_EQ(browser().Run("return document.activeElement.className;"), "window");
+    const json sizes = browser().Run(
+        "const shown = [...document.querySelectorAll('.window[data-active] *')]"
+        "  .filter(element => element.getBoundingClientRect().width > 0);"
+        "const all = selector => shown.filter(element => element.matches(selector));"
+        "const boxes = all('input, button, .text').map(element => element.getBoundingClientRect());"
+        "const text = element => parseFloat(getComputedStyle(element).fontSize);"
+        "return {"
+        "  text: Math.min(...all('.text:not(.small), input[type=text], button').map(text)),"
+        "  small: Math.min(...all('.small').map(text)),"
+        "  target: Math.min(...all('input:enabled, button').flatMap(element => {"
+        "    const box = element.getBoundingClientRect(); return [box.width, box.height]; })),"
+        "  width: document.documentElement.scrollWidth, height: "
+        "document.documentElement.scrollHeight,"
+        "  covered: boxes.filter(a => boxes.some(b => a !== b && a.left + 1 < b.right &&"
+        "    b.left + 1 < a.right && a.top + 1 < b.bottom && b.top + 1 < a.bottom)).length,"
+        "  results: Math.max(...all('output').map(output => output.getBoundingClientRect().bottom))"
+        "};");
+    EXPECT_GE(sizes.at("text"), 16);
+    EXPECT_GE(sizes.at("small"), 13);
+    EXPECT_GE(sizes.at("target"), 44);
+    EXPECT_EQ(sizes.at("width"), width);
+    EXPECT_EQ(sizes.at("covered"), 0);
+    EXPECT_TRUE(!fits || sizes.at("height") == height);
+    EXPECT_TRUE(width != 390 || sizes.at("results") <= height) << "above the keyboard";
   }
+}
+
+TEST_F(PageTest, AFingerSlidesScrollsAndTypes) {
+  BecomePhone(640, 280);
+  PageUser user = InControlWindow();
+  Place slider = user.Find(Role::kSlider, "r").Extents();
+  const int y = slider.y + slider.height / 2;
+  const int middle = slider.x + slider.width / 2;
+  const auto value = [&] { return user.Sees(Role::kSlider, "r").value; };
+  browser().Swipe({{slider.x + 5, y}, {slider.x + 50, y + 3}, {middle, y + 20}});
+  EXPECT_NEAR(value(), .5, .03);
+  EXPECT_EQ(browser().Run("return scrollY;"), 0);
+  browser().Swipe({{middle + 100, y}, {middle + 101, y - 30}, {middle + 104, y - 60}});
+  user.LetTimePass(std::chrono::milliseconds(300));
+  EXPECT_NEAR(value(), .5, .03) << "upright it is the page's";
+  EXPECT_GT(browser().Run("return scrollY;"), 20);
+  browser().Run("scrollTo(0, 0);");
+  slider = user.Find(Role::kSlider, "r").Extents();
+  browser().Swipe({{slider.x + 20, y},
+                   {slider.x + 22, y + 15},
+                   {slider.x + 24, y + 20},
+                   {slider.x + 200, y + 25},
+                   {middle, y + 25}});
+  EXPECT_NEAR(value(), .5, .03) << "first down and then sideways";
+  user.LetTimePass(std::chrono::milliseconds(300));
+  const Place field = user.Find(Role::kText, "N").Extents();
+  browser().Swipe({{field.x + field.width / 2, field.y + field.height / 2}});
+  EXPECT_EQ(user.Focused().name, "N");
+  EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "numeric");
+  user.PressNamed("shift+Tab");
+  EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "decimal")
+      << "a tablet may have keys";
 }
 
 TEST_F(PageTest, TextsStandOutFromTheWindow) {
