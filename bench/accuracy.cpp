@@ -1,8 +1,8 @@
-// Gives the results to a program that checks them.
+// Writes the results for a program that checks them.
 //
-// Usage: accuracy values        for N = 4 to 1000 and within it r = 0 to .999 by .001: t, p, z and
-//                               the limits of the interval, as doubles in the machine's form
-//        accuracy texts MASK    for each double on standard input: its text, a line each
+// Usage: accuracy values        for each N from 4 to 1000 and each r from 0 to .999 by .001:
+//                               t, p, z and the limits of the interval as native doubles
+//        accuracy texts MASK    for each double on standard input, a line with its text
 #include <array>
 #include <cstdio>
 #include <cstring>

@@ -1,5 +1,5 @@
-// Times one slider event on the program without pixels beside the same written flat, in
-// nanoseconds.
+// Times one slider event of the program on the headless display, and of the same work written flat,
+// in nanoseconds.
 #include <chrono>
 #include <memory>
 #include <stdexcept>
@@ -17,15 +17,15 @@
 namespace vamo {
 namespace {
 
-// What one move of the slider of r comes to without controls, events and a display: all that the
-// program computes and formats for it, both calculations included.
+// One move of the slider of r without controls, events or a display: everything that the program
+// computes and formats for it, including both calculations.
 class FlatWindow {
  public:
   explicit FlatWindow(std::string n_edit) : n_edit_(std::move(n_edit)) {}
 
   void MoveR(std::int64_t position) {
     r_edit_ = Format(static_cast<double>(position) / 100.0, ".000");
-    // The field reads r back from its text, and the slider's own handler calculates once more.
+    // The field's handler reads r back from the text, and the slider's handler calculates again.
     const double r = Val(r_edit_);
     DoIt(r);
     z_field_ = Format(FisherZ(r), "##0.000");
@@ -46,7 +46,7 @@ class FlatWindow {
   std::string n_edit_, r_edit_, t_text_, p_text_, ci_text_, z_field_;
 };
 
-// Of one move; the slider goes over its whole range and back to the start, over and over.
+// The time of one move. The slider goes through its whole range again and again.
 template <class Move>
 double Nanoseconds(const Move& move) {
   constexpr int kMoves = 10'000;

@@ -1,4 +1,4 @@
-// A result of a measurement, as script/bench reads it.
+// Prints a measurement in the form that script/bench reads.
 #ifndef VAMO_BENCH_MEDIAN_H_
 #define VAMO_BENCH_MEDIAN_H_
 
@@ -9,7 +9,7 @@
 
 namespace vamo {
 
-// A name, a tab, the median of the values.
+// Prints the name, a tab and the median of the values.
 inline void PrintMedian(const std::string& name, std::vector<double> values) {
   std::sort(values.begin(), values.end());
   std::printf("%s\t%.8g\n", name.c_str(), values[values.size() / 2]);

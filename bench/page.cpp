@@ -1,5 +1,5 @@
-// Measures the page in Chromium against an empty page and one written by hand. Usage: page PAGE
-// PLAIN_PAGE
+// Measures the page in Chromium against an empty page and a page written by hand.
+// Usage: page PAGE PLAIN_PAGE
 #include <cstdio>
 #include <string>
 #include <utility>
@@ -14,8 +14,8 @@ using nlohmann::json;
 using vamo::Chromium;
 using vamo::PrintMedian;
 
-// When something is painted first, and when a text or a picture is, from the start of the
-// navigation, in milliseconds.
+// The times of the first paint and of the first paint of a text or picture, in milliseconds from
+// the start of the navigation.
 std::pair<double, double> FirstPaints(Chromium& browser, const std::string& address) {
   browser.Open(address);
   const json times = browser.RunAsync(R"(
@@ -29,8 +29,8 @@ std::pair<double, double> FirstPaints(Chromium& browser, const std::string& addr
   return {times.at(0), times.at(1)};
 }
 
-// Opens the page, dismisses the splash and sets N to 30, which the page written by hand has
-// already.
+// Opens the page, dismisses the splash and sets N to 30. The page written by hand has no splash,
+// and its N is 30.
 void OpenControls(Chromium& browser, const std::string& address) {
   browser.Open(address);
   browser.RunAsync("setTimeout(arguments[0], 300);");
@@ -40,8 +40,8 @@ void OpenControls(Chromium& browser, const std::string& address) {
   browser.PressKeys("", "\uE00430");
 }
 
-// Moves the slider of r so many times, each time with the layout done; the time of one in
-// microseconds.
+// Moves the slider of r `times` times, with a layout after each move. Returns the time of one move
+// in microseconds.
 double MoveSlider(Chromium& browser, int times) {
   return browser.Run(R"(
       const slider = document.querySelector('[type=range]');
@@ -61,7 +61,7 @@ double TimeOfAMove(Chromium& browser, const std::string& address) {
   return MoveSlider(browser, 2000);
 }
 
-// What the script has in use when all is collected, and the memory of the program, in KiB.
+// Prints the browser's heap after a garbage collection and the memory of the program, in KiB.
 void PrintMemory(Chromium& browser, const std::string& moves) {
   browser.DoOwn("HeapProfiler.collectGarbage", json::object());
   const double used = browser.DoOwn("Runtime.getHeapUsage", json::object()).at("usedSize");
@@ -98,7 +98,7 @@ int main(int argc, char** argv) {
   OpenControls(browser, page);
   MoveSlider(browser, 100'000);
   PrintMemory(browser, "hundred_thousand");
-  // At one go, since what the driver has run once stays in the browser.
+  // In a single script, because each script that the driver runs leaves something in the browser.
   MoveSlider(browser, 900'000);
   PrintMemory(browser, "million");
 }

@@ -1,6 +1,6 @@
-// The program written by hand in plain Qt: the splash, and the control window after a key. The same
-// controls in the same places, with the same texts, from the same statistics, calculated once a
-// change; no filters on typing and none of the other rules that no slider meets.
+// The program written by hand in plain Qt: the splash and, after a key, the control window. It has
+// the same controls in the same places and computes the same texts with the same statistics, once
+// per change. It has no key filters and none of the other rules that moving a slider does not need.
 #include <QApplication>
 #include <QFontDatabase>
 #include <QKeyEvent>
@@ -217,7 +217,7 @@ class PlainWindow : public QWidget {
   double r_ = 0;
 };
 
-// It makes way for the control window.
+// The splash, which the control window replaces.
 class PlainSplash : public QWidget {
  public:
   PlainSplash() : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {

@@ -24,10 +24,10 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Long enough for the window manager and the focus to have come to rest.
+// Long enough for the window manager to finish and for the focus to arrive.
 constexpr std::chrono::milliseconds kRest{300};
 
-// The sample size at which the slider of r is moved: every move changes every result there.
+// The sample size at which the slider of r is moved. There every move changes every result.
 constexpr int kN = 30;
 
 double Milliseconds(Clock::duration time) {
@@ -41,7 +41,7 @@ long ResidentKibibytes() {
   return resident * sysconf(_SC_PAGESIZE) / 1024;
 }
 
-// The windows are not taken down: what is measured is over.
+// Ends without closing the windows: the measurement is over.
 [[noreturn]] void End(bool success) {
   std::fflush(stdout);
   std::_Exit(success ? EXIT_SUCCESS : EXIT_FAILURE);
@@ -70,7 +70,7 @@ Probe::Probe(int argc, char** argv) : mode_(argc > 1 ? argv[1] : "") {
 }
 
 bool Probe::eventFilter(QObject* watched, QEvent* event) {
-  // A QWindow gets paint events too, ahead of its widgets.
+  // A QWindow gets paint events too, before its widgets.
   if (event->type() != QEvent::Paint || !watched->isWidgetType()) return false;
   painted_ = true;
   auto* widget = static_cast<QWidget*>(watched)->window();
@@ -134,9 +134,9 @@ void Probe::MeasureMemory() {
   std::printf("%ld\n", usage.ru_maxrss);
 }
 
-// A million moves would take long with a painting each. The rhythm is the same all through, since
-// Qt keeps the room for the longest queue that it has had. Of the heap the least of ten readings
-// counts: what just waits for its turn does not.
+// Paints only every hundred moves, because a million paintings would take too long, and always at
+// this rate, because Qt keeps the memory of its longest event queue. The smallest of ten heap
+// readings counts, because queued events come and go.
 void Probe::MeasureGrowth() {
   for (const int moves : {1000, 998'000}) {
     Slide(moves, 100);
@@ -154,7 +154,7 @@ void Probe::PrintTexts() {
   QStringList texts;
   for (const QLabel* label : window_->findChildren<QLabel*>()) texts += label->text();
   for (const QLineEdit* field : window_->findChildren<QLineEdit*>()) texts += field->text();
-  // What shows a picture has no text.
+  // A label with a picture has no text.
   texts.removeAll(QString());
   texts.sort();
   std::printf("%s\n", qPrintable(texts.join(u'|')));

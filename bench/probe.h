@@ -1,4 +1,4 @@
-// Works a program from inside and takes one measurement.
+// Operates a program from inside and takes one measurement.
 #ifndef VAMO_BENCH_PROBE_H_
 #define VAMO_BENCH_PROBE_H_
 
@@ -12,17 +12,18 @@
 
 namespace vamo {
 
-// Sits in an application whose first window is a splash that makes way for a window with sliders at
-// a key. It sends the events that a user causes, prints one measurement and ends the process; it
-// takes no part in what the windows do. Made after the application object, before the first window.
+// A probe in an application whose first window is a splash, which a key replaces with a window that
+// has sliders. It sends the events of a user, prints one measurement and ends the process; it
+// changes nothing in what the windows do. Create it after the application object and before the
+// first window.
 //
-// What it measures goes by the first argument of the program; there is nothing to do without one:
+// The first argument of the program selects the measurement; without one the probe does nothing:
 //   splash   the time on the monotonic clock, in milliseconds, at which the splash is on the screen
 //   window   milliseconds from a key on the splash to the next window on the screen
-//   slide    milliseconds of processor time of a thousand moves of the first slider, each repainted
+//   slide    milliseconds of processor time for a thousand moves of the first slider, each painted
 //   memory   the peak of the resident memory after such a session, in KiB
-//   growth   KiB of the heap in use, and resident: after a thousand and a million moves
-//   texts    what the fields and labels read after some moves
+//   growth   the heap in use and the resident memory, in KiB, after a thousand and a million moves
+//   texts    the texts of the fields and labels after some moves
 class Probe : public QObject {
  public:
   Probe(int argc, char** argv);
@@ -30,9 +31,9 @@ class Probe : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // Calls a function when what is being painted is on the screen.
+  // Calls `then` when the current painting is on the screen.
   void OncePainted(const std::function<void()>& then);
-  // Has the window in front settle, measures and ends the process.
+  // Each of these lets the new window settle, measures and ends the process.
   void SplashShown();
   void WindowShown();
 
@@ -41,8 +42,8 @@ class Probe : public QObject {
   void MeasureGrowth();
   void PrintTexts();
 
-  // Takes the knob through the whole range and back, over and over, for so many moves. The window
-  // is painted after each of `moves_a_paint`.
+  // Moves the knob through the whole range and back, again and again, `moves` times. Paints the
+  // window after every `moves_a_paint` moves.
   void Slide(int moves, int moves_a_paint);
   void DragTo(int position);
   void Paint();

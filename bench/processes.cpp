@@ -1,5 +1,5 @@
-// Runs the program and the one written by hand in turn and prints the medians of what their probes
-// say.
+// Runs the program and the program written by hand in turn and prints the medians of what their
+// probes measure.
 #include <chrono>
 #include <iostream>
 #include <map>
@@ -14,7 +14,7 @@
 namespace vamo {
 namespace {
 
-// Programs of one folder, with a probe in each.
+// The programs of a folder, each with a probe.
 class Programs {
  public:
   explicit Programs(std::string folder) : folder_(std::move(folder)) {}
@@ -25,7 +25,7 @@ class Programs {
 
   void Compare(const std::string& mode, int repetitions) const {
     std::map<std::string, std::vector<double>> values;
-    // The first round warms up and does not count.
+    // The first round is for warming up.
     for (int round = 0; round <= repetitions; ++round) {
       for (const std::string program : {"program", "plain_qt"}) {
         const double value = Measure(program, mode);

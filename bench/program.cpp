@@ -1,4 +1,4 @@
-// The program itself, with a probe in it.
+// The program itself, with a probe.
 #include "displays/qt/display.h"
 #include "probe.h"
 #include "shell/startup.h"

@@ -1,4 +1,4 @@
-// The gestures of a user that the bytes of an input stand for.
+// Turns the bytes of an input into the gestures of a user.
 #ifndef VAMO_FUZZ_GESTURES_H_
 #define VAMO_FUZZ_GESTURES_H_
 
@@ -20,25 +20,24 @@
 
 namespace vamo {
 
-// Makes one gesture after the other on the windows as they stand: only what is on the screen is
-// touched. It does not look at what comes of it.
+// Makes one gesture after another on whatever is on the screen. It does not check the results.
 class Gestures {
  public:
   Gestures(Input& input, HeadlessUser& user) : input_(input), user_(user) {}
 
-  // Whether the gesture is meant to end the program.
+  // Returns whether the gesture is meant to end the program.
   bool MakeNext();
-  // Whether the last gesture had keys or the mouse for a window's content.
+  // Whether the last gesture used keys or the mouse on the content of a window.
   bool Edited() const { return edited_; }
 
  private:
-  // A kind of gesture has the bytes from the end of the one before it to its own.
+  // A kind of gesture is chosen by a byte from the `end` of the kind before it up to its own.
   struct Kind {
     std::size_t end;
     void (Gestures::*make)();
   };
   static const Kind kKinds[];
-  // The end of what can be done while no window has the keys.
+  // The end of the gestures that are possible while no window is active.
   static constexpr std::size_t kWithoutKeys = 22;
 
   void Choose() {
@@ -133,7 +132,7 @@ class Gestures {
       user_.DragSlider(slider.name, positions);
     });
   }
-  // Now and then where the text has been already, which the knob then leaves as it is.
+  // Sometimes picks the position of the current text, so that the drag leaves the text as it is.
   std::int64_t PickPosition(std::string_view slider) {
     const std::size_t kind = input_.Below(4);
     if (kind == 0) return input_.Between(-5, 1005);
@@ -147,7 +146,7 @@ class Gestures {
     });
   }
 
-  // With a control of the window that has the keys, unless the user sees none of the kind.
+  // Calls `act` with a visible control of this role in the active window, if there is one.
   template <class Act>
   void WithShown(Role role, const Act& act) {
     std::vector<ShownControl> shown;

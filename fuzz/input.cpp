@@ -15,8 +15,8 @@ constexpr std::string_view kPieces[] = {
     "\U0001F600"sv, "\xFF"sv, "\xC3"sv, "\x80"sv,   "\xED\xA0"sv, "\x7F"sv, "\x1B"sv, "123456789"sv,
 };
 
-// Whole numbers of a range, and what stands around them. Three decimals with a zero at the end are
-// what the program writes itself for a place of r's slider.
+// A range of whole numbers, and the texts before and after them. Three decimals that end with a
+// zero are what the program itself writes for a position of r's slider.
 struct NumberKind {
   std::string_view before;
   std::int64_t least;

@@ -1,4 +1,4 @@
-// What the bytes of a random input stand for.
+// Reads numbers and texts from the bytes of a random input.
 #ifndef VAMO_FUZZ_INPUT_H_
 #define VAMO_FUZZ_INPUT_H_
 
@@ -10,10 +10,10 @@
 
 namespace vamo {
 
-// Ends the process where something that must hold does not; the fuzzer then keeps the input.
+// Ends the process if a condition that must hold does not; the fuzzer then keeps the input.
 void Require(bool holds, std::string_view what);
 
-// Takes an input apart from its front. It never runs past the end: what is not there is zero or
+// Reads an input from its front. It never reads past the end: missing bytes are zero, missing texts
 // empty.
 class Input {
  public:
@@ -25,7 +25,7 @@ class Input {
   std::uint8_t Byte();
   std::uint64_t Number(int bytes);
 
-  // From 0 up to, not including, `bound`, which is above 0 and of two bytes at most.
+  // From 0 up to but not including `bound`, which is above 0 and fits into two bytes.
   std::size_t Below(std::size_t bound) {
     return static_cast<std::size_t>(Number(bound > 256 ? 2 : 1) % bound);
   }
@@ -39,10 +39,10 @@ class Input {
     return std::data(list)[Below(std::size(list))];
   }
 
-  // A number as somebody might write one into the field of r or of N; mostly within its range.
+  // A number as a user might write it into the field of r or N; usually in the range.
   std::string WrittenNumber();
-  // What a clipboard may hold: numbers, signs, several points, broken UTF-8, zero bytes, line
-  // breaks, much of it.
+  // A text as a clipboard may hold it: numbers, signs, several points, broken UTF-8, zero bytes,
+  // line breaks, sometimes very long.
   std::string OddText();
 
  private:

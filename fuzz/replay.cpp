@@ -1,10 +1,10 @@
-// Runs the target over kept inputs, or over random ones, in order and without the fuzzer.
+// Runs the target on stored or random inputs, in order and without the fuzzer.
 //
-// Usage: replay_user FILE-OR-FOLDER...     each file, and each file of each folder
-//        replay_user --random SEED COUNT   so many inputs, one of each seed from SEED on
+// Usage: replay_user FILE-OR-FOLDER...     runs each file, and each file of each folder
+//        replay_user --random SEED COUNT   runs COUNT random inputs, one per seed from SEED on
 //
-// An input is named before it runs, by what replays it alone: the last one named is the one that
-// has ended the process.
+// Before each input it prints the arguments that replay this input alone, so the last line names
+// the input that ended the process.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -16,7 +16,7 @@
 #include <string_view>
 #include <vector>
 
-// The name by which libFuzzer finds the target.
+// libFuzzer finds the target by this name.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kRandomBytes = 4096;
 
-// A vector of the input's own size, so that the sanitizers see a read past its end.
+// The vector has exactly the size of the input, so that the sanitizers see a read past its end.
 void Run(const std::vector<char>& input) {
   LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
 }
@@ -44,7 +44,7 @@ bool RunFilesOf(const fs::path& path) {
   return !files.empty() && std::all_of(files.begin(), files.end(), RunFile);
 }
 
-// The generator's numbers are the same with every compiler; distributions are not.
+// Uses the generator without a distribution: its numbers are the same with every compiler.
 void RunRandom(std::uint64_t seed) {
   std::cout << "--random " << seed << " 1" << std::endl;
   std::mt19937_64 engine(seed);

@@ -1,4 +1,5 @@
-// The whole program under any sequence of a user's gestures: what must hold after each of them.
+// Runs the whole program under a sequence of a user's gestures and checks after each of them what
+// must always hold.
 #include <algorithm>
 #include <functional>
 #include <memory>
@@ -22,8 +23,8 @@
 namespace vamo {
 namespace {
 
-// The display without pixels, with the menu bars where they are wanted. It keeps a list of all
-// windows that there have been.
+// A headless display whose menu bars are part of windows or not, as chosen. It records every window
+// that is created.
 class UserDisplay : public HeadlessDisplay {
  public:
   UserDisplay(std::function<void(HeadlessUser&)> user, bool bars_live_in_windows,
@@ -43,7 +44,7 @@ class UserDisplay : public HeadlessDisplay {
   std::vector<WeakRef<Object>>& opened_;
 };
 
-// The control window, where there is one; it is not made for the question.
+// The control window if it exists, else nil. This does not create it.
 Ref<class ControlWnd> LiveControlWnd() {
   return Cast<class ControlWnd>(_GetImplicitWindow("ControlWnd.ControlWnd"));
 }
@@ -74,7 +75,7 @@ void CheckText(const TextEdit& edit) {
           "the selection lies between characters");
 }
 
-// What a display shows is the state of the objects: asked anew, each would show the same.
+// The display must show the present state of the objects: reading it again must change nothing.
 void CheckShown(const HeadlessDisplay& display) {
   for (HeadlessWindow* view : display.Windows()) {
     const Ref<RectControl>& focus = view->Window().Focus();
@@ -91,7 +92,8 @@ void CheckShown(const HeadlessDisplay& display) {
   }
 }
 
-// Results are spoken as they show. A warning may have come and gone in the course of one gesture.
+// Announced results must be those on the screen. A warning may have appeared and disappeared within
+// one gesture.
 void CheckHeard(User& user) {
   for (const std::string& heard : user.Hears()) {
     const Ref<class ControlWnd> window = LiveControlWnd();
@@ -114,10 +116,10 @@ std::string Results(double r, std::int64_t n) {
          Format(interval.lo, "+.000") + " to " + Format(interval.hi, "+.000");
 }
 
-// In what order the control window takes what its user sets, told from gesture to gesture.
+// Checks from gesture to gesture in which order the control window applies what the user sets.
 class Sequence {
  public:
-  // `edited`: what has activated the window may have gone on in it.
+  // `edited`: the gesture that activated the window may also have changed something in it.
   void Check(class ControlWnd& window, bool activated, bool edited) {
     const std::string r_text = window.rEdit()->Text();
     const std::string n_text = window.nEdit()->Text();
@@ -135,7 +137,7 @@ class Sequence {
       r_ = 0;
       n_ = 4;
     }
-    // An edit that leaves the text as it was sets r, too.
+    // An edit that leaves the text as it was sets r too.
     Require(window.r == r || (r_text == r_text_ && window.r == r_), "r is set by its text");
     Require(window.N == n || (n_text == n_text_ && window.N == n_), "N is set by its text");
     Require(results == Results(window.r, n) || (same && results == results_),
@@ -153,7 +155,7 @@ class Sequence {
   std::int64_t n_ = 0;
 };
 
-// One run of the program from its start, until its user ends it or the input is at its end.
+// One run of the program, until the user ends it or the input is used up.
 class Program {
  public:
   explicit Program(Input& input) : input_(input) {}
@@ -193,7 +195,7 @@ class Program {
   }
 
   Input& input_;
-  // All windows and, at the end, what else must go.
+  // All windows and, at the end, the other objects that must be destroyed.
   std::vector<WeakRef<Object>> objects_;
   Sequence sequence_;
 };
