@@ -16,6 +16,7 @@
 #include "shell/file_types.h"
 #include "shell/handle_about_menu.h"
 #include "shell/info_wnd.h"
+#include "shell/link.h"
 #include "toolkit/runtime/runtime.h"
 
 namespace vamo {
@@ -320,6 +321,42 @@ TEST_F(ProgramTest, TheFileTypesAreRegistered) {
     types[0]->SetMimeType("text/plain");
     EXPECT_FALSE(types[0]->Registered());
     EXPECT_EQ(Runtime::Current().RegisteredFileTypes().size(), 1U);
+  });
+}
+
+TEST(LinkTest, TakesWhatANumberMayBeAndNothingElse) {
+  const std::string thousands(3000, '5');
+  const struct {
+    std::string fragment;
+    std::vector<LinkedValue> values;
+  } kCases[] = {
+      {"#r=.5&N=30", {{"r", ".5"}, {"N", "30"}}},
+      {"N=4&chart&&=5&r=&r=%2e7&x=1=2", {{"N", "4"}, {"r", ".7"}, {"x", "1=2"}}},
+      {"#r=%", {{"r", "%"}}},
+      {"#r=%f&N=%g1", {{"r", "%f"}, {"N", "%g1"}}},
+      {"#r=%ff%00", {{"r", std::string("\uFFFD\0", 4)}}},
+      {"#N=" + thousands.substr(0, 17), {}},
+      {"#N=5&r=" + thousands, {}},
+      {"", {}},
+      {"#", {}},
+  };
+  for (const auto& [fragment, values] : kCases) EXPECT_EQ(ParseLink(fragment), values) << fragment;
+}
+
+TEST(LinkTest, DoesWhatAUserWouldDo) {
+  RunFailingAt("", [](HeadlessUser& user) {
+    EndSplash();
+    user.LetTimePass(0ms);
+    ASSERT_EQ(user.ActiveTitle(), "Vamo");
+    TypeLinkedValues(ParseLink("#r=0,5x&N=30&Fisher's z=1&q=7"));
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".5");
+    EXPECT_EQ(user.SeesDescribed("Student's t").text, "3.06");
+    EXPECT_EQ(user.Sees(Role::kText, "Fisher's z").text, "0.549");
+    TypeLinkedValues(ParseLink("#r=1.5&N=1e3333333"));
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".15") << "the mask holds";
+    EXPECT_EQ(user.Sees(Role::kText, "N").text, "1333");
+    EndSplash();
+    EXPECT_EQ(user.Focused().name, "r");
   });
 }
 

@@ -22,8 +22,9 @@ class WebTimer : public RunningTimer {
 
 }  // namespace
 
-WebDisplay::WebDisplay(std::function<void()> ended)
-    : ended_(std::move(ended)), announcement_(page_, "div") {
+WebDisplay::WebDisplay(std::function<void()> ended,
+                       std::function<void(std::string_view link)> linked)
+    : ended_(std::move(ended)), linked_(std::move(linked)), announcement_(page_, "div") {
   announcement_.SetAttribute("class", "announcement");
   announcement_.SetAttribute("role", "status");
   page::SetOwner(this);
@@ -92,6 +93,10 @@ void WebDisplay::ShowRoom() {
 PageAnswer WebDisplay::Take(const PageReport& report) {
   if (report.event == PageEvent::kRoom) {
     ShowRoom();
+    return PageAnswer::kTaken;
+  }
+  if (report.event == PageEvent::kLink) {
+    linked_(report.text);
     return PageAnswer::kTaken;
   }
   // What the user does now is meant for the window that is about to come in front.
@@ -167,8 +172,9 @@ void WebDisplay::ActivateNext() {
   if (next != nullptr) Activate(*next);
 }
 
-std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended) {
-  return std::make_unique<WebDisplay>(std::move(ended));
+std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended,
+                                        std::function<void(std::string_view link)> linked) {
+  return std::make_unique<WebDisplay>(std::move(ended), std::move(linked));
 }
 
 }  // namespace vamo

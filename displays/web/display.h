@@ -19,8 +19,9 @@ class WebWindow;
 // front is nothing that it reports, so that whoever comes back finds all as it was.
 class WebDisplay : public Display, public PageOwner {
  public:
-  // Calls `ended`, as an event of its own, when the program is to be finished.
-  explicit WebDisplay(std::function<void()> ended);
+  // Calls `ended`, as an event of its own, when the program is to be finished, and `linked` with
+  // the fragment of the page's address when that changes.
+  WebDisplay(std::function<void()> ended, std::function<void(std::string_view link)> linked);
   ~WebDisplay() override;
 
   void Run() override;
@@ -62,6 +63,7 @@ class WebDisplay : public Display, public PageOwner {
   void ShowRoom();
 
   const std::function<void()> ended_;
+  const std::function<void(std::string_view link)> linked_;
   PageElement page_;
   PageElement announcement_;
   // In the order in which they have come in front, the last at the end.
@@ -74,7 +76,8 @@ class WebDisplay : public Display, public PageOwner {
 };
 
 // The display in the page that this program runs in.
-std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended);
+std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended,
+                                        std::function<void(std::string_view link)> linked);
 
 // Says on the page that the program has ended, with that exit status, and offers to call `restart`.
 void ShowEnd(int status, std::function<void()> restart);

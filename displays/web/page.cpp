@@ -29,6 +29,7 @@ double page_element_width(int element);
 double page_element_height(int element);
 double page_text_enlargement();
 double page_width();
+void page_tell_link();
 void page_flash(int element);
 void page_set_owned(int owned);
 void page_post();
@@ -208,6 +209,8 @@ double TextWidth(std::string_view text, std::string_view css_font) {
 double TextEnlargement() { return page_text_enlargement(); }
 
 double Width() { return page_width(); }
+
+void TellLink() { page_tell_link(); }
 
 bool Copy(std::string_view text) { return page_copy(text.data(), text.size()) != 0; }
 

@@ -38,7 +38,9 @@ enum class PageEvent {
   // A finger touches a slider, moves on to another place, and goes.
   kTouch = 16,
   kTouchMoves = 17,
-  kTouchEnds = 18
+  kTouchEnds = 18,
+  // The page's address has another fragment, which is the text; or it is asked for.
+  kLink = 19
 };
 
 struct PageReport {
@@ -185,6 +187,9 @@ double TextWidth(std::string_view text, std::string_view css_font);
 double TextEnlargement();
 // The width of the page in CSS pixels.
 double Width();
+
+// Reports the fragment of the page's address.
+void TellLink();
 
 // Puts a text on the clipboard, unless the browser refuses; only while the user does something.
 bool Copy(std::string_view text);

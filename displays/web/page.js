@@ -194,6 +194,7 @@ mergeInto(LibraryManager.library, {
       document.addEventListener('keydown', function () { Page.used = true; }, true);
       function tellRoom() { Page.tell(-1, 15, 0, 0, 0, '', ''); }
       window.addEventListener('resize', tellRoom);
+      window.addEventListener('hashchange', function () { _page_tell_link(); });
       if (window.ResizeObserver) new ResizeObserver(tellRoom).observe(Page.probe);
       // A keyboard on the screen leaves less of the page to be seen; to enlarge the page does, too,
       // and is nothing that it follows.
@@ -299,6 +300,7 @@ mergeInto(LibraryManager.library, {
     var asked = Page.measure(Page.probe.textContent, '12px system-ui,sans-serif');
     return Page.probe.getBoundingClientRect().width / asked;
   },
+  page_tell_link: function () { Page.tell(-1, 19, 0, 0, 0, location.hash, ''); },
   page_width: function () { return document.documentElement.clientWidth; },
   page_element_width: function (number) { return Page.elements[number].offsetWidth; },
   page_element_height: function (number) { return Page.elements[number].offsetHeight; },

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "child.h"
 #include "journeys/journey_steps.h"
 #include "web/page_fixture.h"
 
@@ -315,6 +316,24 @@ TEST_F(PageTest, GoesOnWhereOthersWorkOnThePage) {
   EXPECT_EQ(browser().Run("return document.querySelectorAll('.window').length;"), 1);
   // The styles that have been saved are not the page's own.
   browser().ConsoleLines();
+}
+
+TEST_F(PageTest, ALinkBringsValuesAndTakesNoFocus) {
+  OpenHost("<textarea></textarea><iframe src='" + PageAddress() +
+           "#r=.5&N=30' width=600 height=500></iframe>");
+  browser().Run("document.querySelector('textarea').focus();");
+  const auto shows = [&](const char* t) {
+    browser().EnterFrame(0);
+    EXPECT_TRUE(Await([&] {
+      return browser().Run("return document.body.innerText;").get<std::string>().find(t) !=
+             std::string::npos;
+    })) << t;
+    browser().EnterFrame(nullptr);
+  };
+  shows("3.06");
+  browser().Run("document.querySelector('iframe').src += '1';");
+  shows("9.98");
+  EXPECT_EQ(browser().Run("return document.activeElement.tagName;"), "TEXTAREA");
 }
 
 }  // namespace
