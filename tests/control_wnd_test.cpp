@@ -51,28 +51,6 @@ TEST_F(ControlWndTest, HasItsControlsInOrderWithTheirParents) {
       names);
 }
 
-TEST_F(ControlWndTest, StreamsReachTheControls) {
-  EXPECT_EQ(window_->InitialState().title, "Vamo");
-  EXPECT_EQ(window_->InitialState().height, 425);
-  EXPECT_EQ(window_->StaticText4()->Bounds().top, -5);
-  EXPECT_EQ(window_->StaticText4()->Font().size, 48.0F);
-  EXPECT_EQ(window_->StaticText7()->TextColour(), (Colour{0x80, 0, 0}));
-  EXPECT_EQ(window_->nText()->Text(), "(4 - 1,1000)");
-  EXPECT_EQ(window_->rEdit()->Rule().mask, ".###");
-  EXPECT_EQ(window_->rEdit()->Rule().maximum_characters, 4);
-  EXPECT_EQ(window_->zFld()->Alignment(), TextAlignment::kLeft);
-  EXPECT_EQ(window_->nSlider()->MaximumValue(), 1000);
-  EXPECT_EQ(window_->Rectangle3()->BorderThickness(), 2.0);
-  EXPECT_FALSE(window_->Rectangle3()->Locks().left);
-  EXPECT_TRUE(window_->Qbtn()->Default());
-}
-
-TEST_F(ControlWndTest, SettingPropertiesHasCalledNoHandler) {
-  EXPECT_EQ(window_->nEdit()->Text(), "");
-  EXPECT_EQ(window_->tText()->Text(), "");
-  EXPECT_EQ(program_.display().Beeps(), 0);
-}
-
 TEST_F(ControlWndTest, TheSampleSizeComesFromTheFieldAndROfTheArgument) {
   struct Case {
     double r;

@@ -21,16 +21,13 @@ void Show(User& user, std::string_view deed) {
   if (t.empty() || p.empty() || interval.empty()) throw std::runtime_error("there is no result");
 }
 
-void TypeInto(User& user, std::string_view field, std::string_view text) {
-  user.Click(Role::kText, field);
-  user.Type(text);
-}
-
 void Demonstrate(OutsideUser& user, const std::string& picture) {
   // The splash gives way at a key, or by itself after four seconds.
   if (user.ActiveTitle().empty()) user.PressNamed("space");
-  TypeInto(user, "N", "30");
-  TypeInto(user, "r", ".5");
+  user.Click(Role::kText, "N");
+  user.Type("30");
+  user.Click(Role::kText, "r");
+  user.Type(".5");
   Show(user, "Typed 30 for N and .5 for r");
   user.DragSlider("r", {12, 25, 37});
   Show(user, "Dragged the slider of r");
