@@ -28,6 +28,7 @@ endif()
 if(VAMO_WARNINGS_AS_ERRORS)
   target_compile_options(vamo_options INTERFACE $<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
 endif()
+include(Hardening)
 
 # vamo_precompile(target header...): precompiles headers that most sources of the target include, if VAMO_PRECOMPILED
 # is on. Builds without it make sure that each source includes what it needs.
