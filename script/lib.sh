@@ -51,6 +51,22 @@ within() {
   done
 }
 
+# The folder may belong to another user, which git would refuse.
+git_here() { git -c safe.directory='*' "$@"; }
+
+# The time that files in a package carry, in seconds since 1970, unless the environment names one: that of the last
+# commit. Without a repository this is an unpacked source archive, whose files are of that time.
+set_release_time() {
+  if [[ -z ${SOURCE_DATE_EPOCH-} ]]; then
+    if [[ -e .git ]]; then
+      SOURCE_DATE_EPOCH=$(git_here log -1 --format=%ct)
+    else
+      SOURCE_DATE_EPOCH=$(stat -c %Y CMakeLists.txt)
+    fi
+  fi
+  export SOURCE_DATE_EPOCH
+}
+
 configure() { cmake --preset "$1"; }
 
 # Sets what the preset web needs: the folder of emscripten and, in case node is not Debian's, the folder in
