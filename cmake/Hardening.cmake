@@ -1,6 +1,6 @@
-# Makes a fault in memory hard to exploit, in every optimised build for Linux: calls into the C library check the size
-# of what they write, a broken stack or return address ends the program, and all addresses that the loader fills in are
-# read-only before main() starts. The sanitizers bring checks of their own, which these would hide.
+# Hardens every optimised build for Linux: calls of the C library check the size of what they write, a damaged stack or
+# return address ends the program, and relocated addresses are read-only before main() starts. Sanitizer builds are left
+# out: they have checks of their own, which report more.
 
 if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux" OR CMAKE_CXX_FLAGS MATCHES "-fsanitize")
   return()
@@ -9,10 +9,10 @@ include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)
 
 set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
-# Some distributions' compilers define it already, with a lower level.
+# Some compilers define it by default, with a lower level.
 target_compile_options(vamo_options INTERFACE $<${optimised}:-U_FORTIFY_SOURCE> $<${optimised}:-D_FORTIFY_SOURCE=3>)
 
-# Control-flow protection is there for x86 alone.
+# Only x86 has this control-flow protection.
 foreach(flag -fstack-protector-strong -fcf-protection)
   string(MAKE_C_IDENTIFIER "VAMO_COMPILER_HAS${flag}" known)
   check_cxx_compiler_flag(${flag} ${known})

@@ -54,8 +54,8 @@ within() {
 # The folder may belong to another user, which git would refuse.
 git_here() { git -c safe.directory='*' "$@"; }
 
-# The time that files in a package carry, in seconds since 1970, unless the environment names one: that of the last
-# commit. Without a repository this is an unpacked source archive, whose files are of that time.
+# Sets the time stamp of packaged files to the time of the last commit, unless the environment sets it. Without a
+# repository this is an unpacked source archive, whose files carry that time.
 set_release_time() {
   if [[ -z ${SOURCE_DATE_EPOCH-} ]]; then
     if [[ -e .git ]]; then
