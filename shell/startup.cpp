@@ -23,10 +23,14 @@ struct StartupFields {
 
 namespace {
 
+void Tell(const StepObserver& observer, std::string_view step) {
+  if (observer != nullptr) observer(step);
+}
+
 // Tells the observer of a step, then takes it.
 template <class StepFunction>
 void Step(std::string_view name, StepFunction&& step) {
-  Runtime::Current().ModuleFields<StartupFields>().observer(name);
+  Tell(Runtime::Current().ModuleFields<StartupFields>().observer, name);
   step();
 }
 
@@ -108,11 +112,9 @@ std::int32_t RuntimeExit() { return Runtime::Current().ExitCode(); }
 
 }  // namespace
 
-// The observer is held here too, since the finalisers take the module-level fields.
 Process::Process(std::unique_ptr<Display> display, StepObserver observer)
-    : observer_(observer != nullptr ? std::move(observer) : [](std::string_view) {}),
-      runtime_((observer_("RuntimeInit"), RuntimeInit(std::move(display)))) {
-  runtime_->ModuleFields<StartupFields>().observer = observer_;
+    : runtime_((Tell(observer, "RuntimeInit"), RuntimeInit(std::move(display)))) {
+  runtime_->ModuleFields<StartupFields>().observer = std::move(observer);
   try {
     Step("RuntimePerformInitializers", RuntimePerformInitializers);
     Step("_Main", _Main);
@@ -129,9 +131,11 @@ int Process::Finish() {
   } catch (...) {
     _UnhandledException(std::current_exception());
   }
-  observer_("RuntimePerformFinalizers");
+  // The finalisers take the module-level fields.
+  const StepObserver observer = std::move(runtime_->ModuleFields<StartupFields>().observer);
+  Tell(observer, "RuntimePerformFinalizers");
   RuntimePerformFinalizers();
-  observer_("RuntimeExit");
+  Tell(observer, "RuntimeExit");
   return RuntimeExit();
 }
 

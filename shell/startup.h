@@ -29,7 +29,6 @@ class Process {
   int Finish();
 
  private:
-  const StepObserver observer_;
   const std::unique_ptr<Runtime> runtime_;
 };
 
