@@ -5,6 +5,17 @@
 // Window, TextEdit, Slider and PushButton and by those of menu_service.h. It decides nothing. All
 // lengths and positions are logical pixels: scale factors live in the display alone. All calls come
 // on the main thread.
+//
+// Each report is an event of its own, which Runtime::Dispatch runs: an exception that leaves it
+// ends there, and what was reported may have closed the window and destroyed its view. The reports
+// of focus, caret and selection run no handler and so are no events: UserFocused, UserClicked,
+// UserSelected and UserDeactivated.
+//
+// A key that Window::UserPressedKey leaves alone (false) is the display's: where it moves the caret
+// or selects, the display does that as its platform does and then reports TextEdit::UserSelected.
+//
+// When the active window is hidden or closed, the foremost of the others becomes the active one. A
+// window manager sees to that; a display without one has WindowOrder for it.
 #ifndef VAMO_TOOLKIT_RUNTIME_DISPLAY_H_
 #define VAMO_TOOLKIT_RUNTIME_DISPLAY_H_
 
@@ -113,8 +124,9 @@ class Display {
   // or null where there is none or it cannot be decoded.
   virtual std::shared_ptr<DisplayPicture> OpenPicture(std::string_view file_name) = 0;
 
-  // Called by a Timer that is set going: must call `fire` as an event of its own each time `period`
-  // has passed, until the result is destroyed.
+  // Called by a Timer that is set going: must call `fire` from the event loop, and so inside no
+  // other event, each time `period` has passed, until the result is destroyed, perhaps by `fire`
+  // itself. The period is above 0 and may be longer than any clock of the platform can count.
   virtual std::unique_ptr<RunningTimer> StartTimer(std::chrono::milliseconds period,
                                                    std::function<void()> fire) = 0;
 
