@@ -5,8 +5,6 @@
 #include "displays/headless/user.h"
 #include "displays/headless/window.h"
 #include "toolkit/object/exceptions.h"
-#include "toolkit/runtime/runtime.h"
-#include "toolkit/window/window.h"
 
 namespace vamo {
 
@@ -22,22 +20,7 @@ void HeadlessDisplay::Run() {
 }
 
 void HeadlessDisplay::RunEvents() {
-  do {
-    while (!events_.empty() && !stopped_) {
-      const std::function<void()> event = std::move(events_.front());
-      events_.pop_front();
-      event();
-    }
-  } while (!stopped_ && GiveKeysToFrontWindow());
-}
-
-bool HeadlessDisplay::GiveKeysToFrontWindow() {
-  if (away_ || Runtime::Current().ActiveWindow()) return false;
-  const auto front = std::find_if(windows_.rbegin(), windows_.rend(),
-                                  [](const HeadlessWindow* window) { return window->OnScreen(); });
-  if (front == windows_.rend()) return false;
-  Activate(**front);
-  return true;
+  while (HeadlessWindow* next = stopped_ ? nullptr : order_.TakeNext()) order_.Activate(*next);
 }
 
 void HeadlessDisplay::Do(const std::function<void()>& act) {
@@ -45,20 +28,6 @@ void HeadlessDisplay::Do(const std::function<void()>& act) {
   if (stopped_) return;
   act();
   RunEvents();
-}
-
-void HeadlessDisplay::Activate(HeadlessWindow& window) {
-  away_ = false;
-  const Ref<Window> before = Runtime::Current().ActiveWindow();
-  std::rotate(std::find(windows_.begin(), windows_.end(), &window),
-              std::find(windows_.begin(), windows_.end(), &window) + 1, windows_.end());
-  if (before && &*before != &window.Window()) before->UserDeactivated();
-  window.Window().UserActivated();
-}
-
-void HeadlessDisplay::Deactivate() {
-  away_ = true;
-  ActiveWindow().Window().UserDeactivated();
 }
 
 void HeadlessDisplay::LetTimePass(std::chrono::milliseconds time) {
@@ -75,10 +44,7 @@ void HeadlessDisplay::LetTimePass(std::chrono::milliseconds time) {
 }
 
 HeadlessWindow& HeadlessDisplay::ActiveWindow() const {
-  const Ref<Window>& active = Runtime::Current().ActiveWindow();
-  for (HeadlessWindow* window : windows_) {
-    if (active && &window->Window() == &*active) return *window;
-  }
+  if (HeadlessWindow* active = order_.Active()) return *active;
   throw InvalidArgumentException("No window has the keys.");
 }
 

@@ -3,7 +3,6 @@
 
 #include <chrono>
 #include <cstddef>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
@@ -12,6 +11,7 @@
 #include <vector>
 
 #include "toolkit/runtime/display.h"
+#include "toolkit/window/window_order.h"
 
 namespace vamo {
 
@@ -45,10 +45,6 @@ class HeadlessDisplay : public Display {
   // Does something as the user, and then runs the events that it has caused, unless the program has
   // ended.
   void Do(const std::function<void()>& act);
-  // Brings a window to the front and gives it the keys.
-  void Activate(HeadlessWindow& window);
-  // Gives the keys to another program.
-  void Deactivate();
   void LetTimePass(std::chrono::milliseconds time);
   // The images that can be opened; by default every one can.
   void RemovePictures() { has_pictures_ = false; }
@@ -56,8 +52,7 @@ class HeadlessDisplay : public Display {
   void LetTabLeave() { tab_leaves_ = true; }
 
   bool Running() const { return !stopped_; }
-  // The windows in the order of the screen, the front one last; hidden ones are among them.
-  const std::vector<HeadlessWindow*>& Windows() const { return windows_; }
+  WindowOrder<HeadlessWindow>& Order() { return order_; }
   // The window that has the keys. InvalidArgumentException where none has.
   HeadlessWindow& ActiveWindow() const;
   const std::string& Clipboard() const { return clipboard_; }
@@ -72,15 +67,11 @@ class HeadlessDisplay : public Display {
   friend class HeadlessTimer;
   friend class HeadlessWindow;
 
-  void Post(std::function<void()> event) { events_.push_back(std::move(event)); }
-  // Runs the events that the last act has caused.
+  // Activates what the last act has shown, or what has come to the front by it.
   void RunEvents();
-  // As a desktop does when the window that had the keys has gone. Whether there was one to give to.
-  bool GiveKeysToFrontWindow();
 
   std::function<void(HeadlessUser&)> act_;
-  std::vector<HeadlessWindow*> windows_;
-  std::deque<std::function<void()>> events_;
+  WindowOrder<HeadlessWindow> order_;
   std::vector<HeadlessTimer*> timers_;
   std::chrono::milliseconds now_{0};
   std::string clipboard_;
@@ -88,8 +79,6 @@ class HeadlessDisplay : public Display {
   bool has_pictures_ = true;
   bool tab_leaves_ = false;
   bool stopped_ = false;
-  // The keys go to another program.
-  bool away_ = false;
   int beeps_ = 0;
   std::vector<std::string> announcements_;
 };

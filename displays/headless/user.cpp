@@ -55,7 +55,7 @@ ControlClass& HeadlessUser::Find(Role role, std::string_view name) const {
 void HeadlessUser::PressKey(const Key& key) {
   display_.Do([&] {
     // Held, since the key may close it.
-    const Ref<vamo::Window> window = Self(&display_.ActiveWindow().Window());
+    const Ref<vamo::Window> window = Self(&display_.ActiveWindow().Shown());
     if (window->UserPressedKey(key) || !window->Focus()) return;
     if (auto* text = dynamic_cast<TextEdit*>(&*window->Focus())) MoveCaret(*text, key);
   });
@@ -70,7 +70,7 @@ void HeadlessUser::Type(std::string_view text) {
 }
 
 void HeadlessUser::Dictate(std::string_view text) {
-  display_.Do([&] { display_.ActiveWindow().Window().UserTyped(text); });
+  display_.Do([&] { display_.ActiveWindow().Shown().UserTyped(text); });
 }
 
 void HeadlessUser::Drop(Role role, std::string_view name, std::string_view text) {
@@ -91,7 +91,7 @@ void HeadlessUser::ClickDescribed(std::string_view description) {
 
 void HeadlessUser::ClickOn(const HeadlessControl& control) {
   RectControl& target = control.Control();
-  vamo::Window& window = control.Window().Window();
+  vamo::Window& window = control.Window().Shown();
   if (!window.UserBeginsPress(/*repeat=*/false)) return;
   if (auto* button = dynamic_cast<PushButton*>(&target)) {
     button->UserPressed(1, 1);
@@ -148,21 +148,21 @@ Ref<MenuItem> HeadlessUser::FindItem(std::string_view path) const {
 }
 
 void HeadlessUser::Close(std::string_view title) {
-  display_.Do([&] { Titled(title).Window().UserAskedToClose(); });
+  display_.Do([&] { Titled(title).Shown().UserAskedToClose(); });
 }
 
 void HeadlessUser::ActivateWindow(std::string_view title) {
-  display_.Do([&] { display_.Activate(Titled(title)); });
+  display_.Do([&] { display_.Order().Activate(Titled(title)); });
 }
 
 void HeadlessUser::SwitchAway() {
-  display_.Do([&] { display_.Deactivate(); });
+  display_.Do([&] { display_.Order().Leave(); });
 }
 
 std::vector<std::string> HeadlessUser::Windows() {
   std::vector<std::string> titles;
-  for (const HeadlessWindow* window : display_.Windows()) {
-    if (window->OnScreen()) titles.push_back(window->Window().InitialState().title);
+  for (const HeadlessWindow* window : display_.Order().Views()) {
+    if (window->OnScreen()) titles.push_back(window->Shown().InitialState().title);
   }
   std::sort(titles.begin(), titles.end());
   return titles;
@@ -187,8 +187,8 @@ ShownControl HeadlessUser::Focused() {
 }
 
 HeadlessWindow& HeadlessUser::Titled(std::string_view title) const {
-  for (HeadlessWindow* window : display_.Windows()) {
-    if (window->OnScreen() && window->Window().InitialState().title == title) return *window;
+  for (HeadlessWindow* window : display_.Order().Views()) {
+    if (window->OnScreen() && window->Shown().InitialState().title == title) return *window;
   }
   FailToFind("window", title);
 }

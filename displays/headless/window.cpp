@@ -67,10 +67,10 @@ ShownControl HeadlessControl::Present() const {
 
 HeadlessWindow::HeadlessWindow(HeadlessDisplay& display, vamo::Window& window)
     : display_(display), window_(window) {
-  display_.windows_.push_back(this);
+  display_.order_.Add(*this);
 }
 
-HeadlessWindow::~HeadlessWindow() { std::erase(display_.windows_, this); }
+HeadlessWindow::~HeadlessWindow() { display_.order_.Remove(*this); }
 
 std::unique_ptr<ControlView> HeadlessWindow::CreateControl(AnyControl control) {
   return std::make_unique<HeadlessControl>(*this, control);
@@ -78,14 +78,8 @@ std::unique_ptr<ControlView> HeadlessWindow::CreateControl(AnyControl control) {
 
 void HeadlessWindow::Show(bool activate) {
   on_screen_ = true;
-  if (!activate) return;
   // A screen activates a window when it comes around to it, not while the program asks for it.
-  display_.Post([&display = display_, window = WeakRef(Self(&window_))] {
-    const Ref<vamo::Window> shown = window.Value();
-    for (HeadlessWindow* view : display.windows_) {
-      if (shown && &view->window_ == &*shown && view->on_screen_) return display.Activate(*view);
-    }
-  });
+  if (activate) display_.order_.Show(*this);
 }
 
 void HeadlessWindow::UpdateFocus() { focus_ = window_.Focus() ? &*window_.Focus() : nullptr; }

@@ -47,7 +47,7 @@ class HeadlessWindow : public WindowView {
   void Hide() override { on_screen_ = false; }
   void UpdateFocus() override;
 
-  vamo::Window& Window() const { return window_; }
+  vamo::Window& Shown() const { return window_; }
   bool OnScreen() const { return on_screen_; }
   const std::vector<HeadlessControl*>& Controls() const { return controls_; }
   const HeadlessControl* Focus() const;

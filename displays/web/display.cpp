@@ -1,6 +1,5 @@
 #include "displays/web/display.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "displays/web/controls.h"
@@ -52,7 +51,7 @@ std::unique_ptr<WindowView> WebDisplay::OpenWindow(Window& window) {
 
 void WebDisplay::Beep() {
   page::Sound();
-  if (front_ != nullptr) front_->Flash();
+  if (WebWindow* front = Front()) front->Flash();
 }
 
 void WebDisplay::SetClipboardText(std::string_view text) {
@@ -101,27 +100,28 @@ PageAnswer WebDisplay::Take(const PageReport& report) {
   }
   // What the user does now is meant for the window that is about to come in front.
   ActivateNext();
-  if (front_ == nullptr) return PageAnswer::kPassed;
+  WebWindow* front = Front();
+  if (front == nullptr) return PageAnswer::kPassed;
   switch (report.event) {
     case PageEvent::kKey:
-      return front_->TakeKey(report);
+      return front->TakeKey(report);
     case PageEvent::kSelected:
-      front_->ReportSelection();
+      front->ReportSelection();
       return PageAnswer::kTaken;
     case PageEvent::kPressBegins:
-      return front_->BeginPress(report);
+      return front->BeginPress(report);
     case PageEvent::kPress:
-      front_->BringToFront();
+      front->BringToFront();
       return PageAnswer::kTaken;
     // The browser does nothing of its own where something has been copied.
     case PageEvent::kCopy:
-      front_->TakeCommand("c");
+      front->TakeCommand("c");
       return PageAnswer::kTaken;
     case PageEvent::kCut:
-      front_->TakeCommand("x");
+      front->TakeCommand("x");
       return PageAnswer::kTaken;
     case PageEvent::kPaste:
-      WithPasted(report.text, [this] { front_->TakeCommand("v"); });
+      WithPasted(report.text, [front] { front->TakeCommand("v"); });
       return PageAnswer::kTakenWhole;
     default:
       return PageAnswer::kPassed;
@@ -134,42 +134,21 @@ void WebDisplay::WithPasted(std::string text, const std::function<void()>& act) 
   pasted_.clear();
 }
 
+WebWindow* WebDisplay::Front() const { return order_.Active(); }
+
 void WebDisplay::Activate(WebWindow& window) {
-  if (front_ == &window) return;
-  if (front_ != nullptr) front_->Shown().UserDeactivated();
-  front_ = &window;
-  std::erase(windows_, &window);
-  windows_.push_back(&window);
-  for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->ShowPlace(static_cast<int>(i));
-  window.ShowFocus();
-  window.Shown().UserActivated();
+  if (!order_.Activate(window)) return;
+  int depth = 0;
+  for (WebWindow* view : order_.Views()) view->ShowPlace(depth++);
+  if (WebWindow* front = Front()) front->ShowFocus();
 }
 
-void WebDisplay::ComeInFront(WebWindow& window) {
-  next_ = &window;
+void WebDisplay::ActivateLater() {
   Post([this] { ActivateNext(); });
-}
-
-void WebDisplay::GoFromFront(const WebWindow& window) {
-  if (next_ == &window) next_ = nullptr;
-  if (front_ != &window) return;
-  front_ = nullptr;
-  Post([this] { ActivateNext(); });
-}
-
-void WebDisplay::Remove(WebWindow& window) {
-  std::erase(windows_, &window);
-  GoFromFront(window);
 }
 
 void WebDisplay::ActivateNext() {
-  WebWindow* next = std::exchange(next_, nullptr);
-  if (next == nullptr && front_ == nullptr) {
-    const auto last = std::find_if(windows_.rbegin(), windows_.rend(),
-                                   [](const WebWindow* window) { return window->OnScreen(); });
-    if (last != windows_.rend()) next = *last;
-  }
-  if (next != nullptr) Activate(*next);
+  if (WebWindow* next = order_.TakeNext()) Activate(*next);
 }
 
 std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended,

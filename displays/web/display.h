@@ -6,10 +6,10 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "displays/web/page.h"
 #include "toolkit/runtime/display.h"
+#include "toolkit/window/window_order.h"
 
 namespace vamo {
 
@@ -45,13 +45,12 @@ class WebDisplay : public Display, public PageOwner {
 
   // For the windows.
   PageElement& Page() { return page_; }
-  void Add(WebWindow& window) { windows_.push_back(&window); }
-  void Remove(WebWindow& window);
-  WebWindow* Front() const { return front_; }
+  WindowOrder<WebWindow>& Order() { return order_; }
+  // The active window, or null.
+  WebWindow* Front() const;
   void Activate(WebWindow& window);
-  // As an event of its own.
-  void ComeInFront(WebWindow& window);
-  void GoFromFront(const WebWindow& window);
+  // Activates the window whose turn it is, as an event of its own.
+  void ActivateLater();
   // Does something that may ask for the clipboard's text, which is `text`.
   void WithPasted(std::string text, const std::function<void()>& act);
 
@@ -66,11 +65,7 @@ class WebDisplay : public Display, public PageOwner {
   const std::function<void(std::string_view link)> linked_;
   PageElement page_;
   PageElement announcement_;
-  // In the order in which they have come in front, the last at the end.
-  std::vector<WebWindow*> windows_;
-  WebWindow* front_ = nullptr;
-  // What is about to come in front, as it has been shown; null for the one that was there before.
-  WebWindow* next_ = nullptr;
+  WindowOrder<WebWindow> order_;
   std::string pasted_;
   bool stopped_ = false;
 };

@@ -52,10 +52,13 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
   if (!window.IsSplash()) MakeTitleBar();
   if (window.MenuBar()) menu_bar_ = std::make_unique<WebMenuBar>(*this, frame_, *window.MenuBar());
   content_.BringToEnd();
-  display_.Add(*this);
+  display_.Order().Add(*this);
 }
 
-WebWindow::~WebWindow() { display_.Remove(*this); }
+WebWindow::~WebWindow() {
+  display_.Order().Remove(*this);
+  display_.ActivateLater();
+}
 
 void WebWindow::MakeTitleBar() {
   const auto add = [this](const PageElement& parent, std::string_view tag, PageListener* listener) {
@@ -107,15 +110,14 @@ void WebWindow::Show(bool /*activate*/) {
     LinkCaptions();
     arrangement_ = std::make_unique<Arrangement>(content_, controls_);
   }
-  on_screen_ = true;
   frame_.SetFlag("hidden", false);
-  display_.ComeInFront(*this);
+  display_.Order().Show(*this);
+  display_.ActivateLater();
 }
 
 void WebWindow::Hide() {
-  on_screen_ = false;
   frame_.SetFlag("hidden", true);
-  display_.GoFromFront(*this);
+  display_.ActivateLater();
 }
 
 bool WebWindow::IsInFront() const { return display_.Front() == this; }
@@ -211,7 +213,7 @@ void WebWindow::TakeCommand(std::string_view letter) {
 PageAnswer WebWindow::BeginPress(const PageReport& report) {
   const Ref<Window> window = Self(&window_);
   if (!window->UserBeginsPress(report.x != 0)) return PageAnswer::kTakenWhole;
-  if (window->IsLive() && OnScreen()) display_.Activate(*this);
+  if (window->Visible()) display_.Activate(*this);
   return PageAnswer::kTaken;
 }
 

@@ -27,8 +27,7 @@ class WebWindow : public WindowView {
   void Hide() override;
   void UpdateFocus() override;
 
-  Window& Shown() { return window_; }
-  bool OnScreen() const { return on_screen_; }
+  Window& Shown() const { return window_; }
   // Whether it is the one that the keys go to.
   bool IsInFront() const;
   // The user has come to this window.
@@ -74,7 +73,6 @@ class WebWindow : public WindowView {
   PageElement content_;
   std::vector<WebControl*> controls_;
   std::unique_ptr<Arrangement> arrangement_;
-  bool on_screen_ = false;
   bool has_been_shown_ = false;
   bool showing_focus_ = false;
 };
