@@ -10,6 +10,7 @@
 #include "controlwnd/chart_small.h"
 #include "shell/about_wnd.h"
 #include "test_program.h"
+#include "toolkit/window/text_room.h"
 
 namespace vamo {
 namespace {
@@ -49,6 +50,21 @@ TEST_F(ControlWndTest, HasItsControlsInOrderWithTheirParents) {
               &W::StaticText8, &W::zFld, &W::Qbtn, &W::Rectangle3, &W::StaticText5, &W::StaticText1,
               &W::pText, &W::StaticText7, &W::ciText, &W::tText),
       names);
+}
+
+TEST_F(ControlWndTest, ALabelsRoomEndsBeforeWhatStandsBesideIt) {
+  const struct {
+    Ref<Label> label;
+    double left, right;
+  } kCases[] = {
+      {window_->StaticText2(), 20, 5}, {window_->StaticText9(), 5, 9},
+      {window_->nText(), 7, 239},      {window_->tText(), 0, 11},
+      {window_->ciText(), 0, 5},       {window_->StaticText7(), 22, -7},
+  };
+  for (const auto& [label, left, right] : kCases) {
+    EXPECT_EQ(RoomOfText(*label).left, left) << label->Name();
+    EXPECT_EQ(RoomOfText(*label).right, right) << label->Name();
+  }
 }
 
 TEST_F(ControlWndTest, TheSampleSizeComesFromTheFieldAndROfTheArgument) {

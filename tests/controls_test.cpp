@@ -10,6 +10,7 @@
 #include "toolkit/control/push_button.h"
 #include "toolkit/object/delegate.h"
 #include "toolkit/object/property_stream.h"
+#include "toolkit/window/text_room.h"
 
 namespace vamo {
 namespace {
@@ -118,6 +119,24 @@ TEST(StretchedTest, ASideThatIsNotLockedGoesWithTheOppositeOne) {
   EXPECT_EQ(stretched(true, false), (Box{10, 30, 20, 40}));
   EXPECT_EQ(stretched(false, true), (Box{15, 30, -30, 40}));
   EXPECT_EQ(stretched(false, false), (Box{10, 30, 20, 40}));
+}
+
+TEST(LabelTest, ATextStandsOutOfItsBoxBeforeItIsNarrowed) {
+  using A = TextAlignment;
+  const struct {
+    A alignment;
+    double width, left, scale;
+  } kCases[] = {
+      {A::kDefault, 40, 0, 1},  {A::kCentre, 40, 5, 1},     {A::kRight, 40, 10, 1},
+      {A::kLeft, 60, 0, 1},     {A::kCentre, 60, -5, 1},    {A::kRight, 60, -10, 1},
+      {A::kLeft, 75, -5, 1},    {A::kCentre, 75, -10, 1},   {A::kRight, 75, -10, 1},
+      {A::kLeft, 160, -10, .5}, {A::kCentre, 160, -10, .5}, {A::kRight, 160, -10, .5},
+  };
+  for (const auto& [alignment, width, left, scale] : kCases) {
+    const FittedText fitted = FitText({10, 20}, 50, alignment, width);
+    EXPECT_EQ(fitted.left, left) << width;
+    EXPECT_EQ(fitted.scale, scale) << width;
+  }
 }
 
 TEST(TimerTest, TheWrapperDoesNotKeepItsWindow) {

@@ -49,6 +49,20 @@ TEST(TypingRuleTest, TheMaskIsAPrefixPattern) {
   EXPECT_EQ(Typed("ab", "éc", "x", {"", 4}), std::nullopt) << "characters count, not bytes";
 }
 
+TEST(TypingRuleTest, TheMaskChoosesTheKeyboardOnTheScreen) {
+  EXPECT_EQ(KeyboardFor({"", 4}), KeyboardKind::kAll);
+  EXPECT_EQ(KeyboardFor({"####", 0}), KeyboardKind::kDigits);
+  EXPECT_EQ(KeyboardFor({"-#.###", 0}), KeyboardKind::kNumber);
+  EXPECT_EQ(KeyboardFor({"##:##", 0}), KeyboardKind::kAll);
+}
+
+TEST(TextAreaTest, LinesHaveAsManyCharactersAsTheText) {
+  TestProgram program;
+  const auto area = New<TextArea>();
+  area->SetText("a\rb\r\nc\n\r");
+  EXPECT_EQ(area->TextInLines(), "a\nb\u200B\nc\n\n");
+}
+
 TEST(Utf8Test, EachByteOfABrokenSequenceBecomesAReplacementCharacter) {
   const std::string kBad = "\xEF\xBF\xBD";
   EXPECT_EQ(ValidUtf8("aé漢😀\x80z\xC0\xAF\xC3"), "aé漢😀" + kBad + "z" + kBad + kBad + kBad);

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "test_window.h"
+#include "toolkit/control/properties.h"
+#include "toolkit/object/property_stream.h"
 #include "toolkit/window/menu_item.h"
 
 namespace vamo {
@@ -134,6 +136,48 @@ TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
   window->slider()->SetEnabled(false);
   window->UserFocused(window->slider());
   EXPECT_TRUE(window->Focus() == window->field());
+}
+
+// Has a type, and is not shown by itself.
+struct PlacedWindow : Window {
+  explicit PlacedWindow(WindowType its_type) : type(its_type) {}
+  void Layout() override {
+    _SetProperties(*this,
+                   EncodedStream<64>().Set(property::kType, type).Set(property::kVisible, false));
+  }
+  const WindowType type;
+};
+
+TEST(WindowTest, AWindowIsPlacedByWhatElseIsOnTheScreen) {
+  using Rule = Window::Placement::Rule;
+  TestProgram program;
+  const auto make = [](WindowType type) {
+    auto window = New<PlacedWindow>(type);
+    window->Constructor();
+    return window;
+  };
+  const auto working = make(WindowType::kWorking);
+  const auto reading = make(WindowType::kReading);
+  const auto splash = make(WindowType::kSplash);
+  const auto expect = [](const Ref<PlacedWindow>& window, Rule rule, const Ref<Window>& other,
+                         bool stays = false) {
+    const Window::Placement placement = window->WhereToShow();
+    EXPECT_EQ(placement.rule, rule);
+    EXPECT_TRUE(placement.other == other);
+    EXPECT_EQ(placement.stays_with_other, stays);
+  };
+  expect(splash, Rule::kMiddleOfScreen, nullptr);
+  expect(working, Rule::kAnywhere, nullptr);
+  splash->Show();
+  splash->Hide();
+  expect(working, Rule::kOver, splash);
+  expect(reading, Rule::kAnywhere, nullptr);
+  working->Show();
+  expect(working, Rule::kAnywhere, nullptr);
+  expect(reading, Rule::kBeside, working);
+  expect(splash, Rule::kOver, working, /*stays=*/true);
+  reading->Show();
+  expect(reading, Rule::kAnywhere, nullptr);
 }
 
 // On a page there is more to come to than the program.
