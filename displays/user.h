@@ -33,6 +33,9 @@ struct ShownControl {
   bool operator==(const ShownControl&) const = default;
 };
 
+// What a run of the program gives in place of an exit status when its user has left it running.
+inline constexpr int kStillRunning = -1;
+
 // What a user can do and see, in the active window where nothing else is said. Controls are found
 // by what a screen reader reads, so a wrong name fails whoever needs it: what is not on the screen
 // raises an exception. After the program has ended, nothing of this has an effect.

@@ -7,7 +7,12 @@
 namespace vamo {
 
 int RunProgram(const std::function<void(User&)>& journey) {
-  return Main(std::make_unique<HeadlessDisplay>([&](HeadlessUser& user) { journey(user); }));
+  bool running = false;
+  const int status = Main(std::make_unique<HeadlessDisplay>([&](HeadlessUser& user) {
+    journey(user);
+    running = user.Display().Running();
+  }));
+  return running ? kStillRunning : status;
 }
 
 }  // namespace vamo

@@ -16,6 +16,7 @@
 #include <QTest>
 #include <set>
 
+#include "controlwnd/control_wnd.h"
 #include "journeys/journey_steps.h"
 #include "qt_steps.h"
 #include "toolkit/control/properties.h"
@@ -209,6 +210,21 @@ TEST(QtDisplayTest, TheButtonLeavesTheKeysAlone) {
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) QTest::keyClick(&button, key);
     EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
     EXPECT_EQ(user.Focused().name, "r");
+    static int presses = 0;
+    ControlWnd()->Qbtn()->MouseDown = Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)>(
+        +[](Ref<PushButton>, std::int64_t, std::int64_t) { return ++presses == 0; });
+    user.Click(Role::kButton, "Info");
+    EXPECT_EQ(presses, 1);
+  });
+}
+
+TEST(QtDisplayTest, AMenuLeavesTheSelectionToCut) {
+  InControlWindow([](User& user) {
+    user.Type("5");
+    user.PressKey(Key::Command("a"));
+    QFocusEvent to_menu(QEvent::FocusOut, Qt::MenuBarFocusReason);
+    QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &to_menu);
+    EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, ".5");
   });
 }
 

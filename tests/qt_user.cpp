@@ -217,10 +217,13 @@ class QtUser final : public ScreenUser<QtElement> {
 }  // namespace
 
 int RunProgram(const std::function<void(User&)>& journey) {
-  return Main(std::make_unique<CountingDisplay>([&](CountingDisplay& display) {
+  bool running = false;
+  const int status = Main(std::make_unique<CountingDisplay>([&](CountingDisplay& display) {
     QtUser user(display);
     journey(user);
+    running = !display.stopped();
   }));
+  return running ? kStillRunning : status;
 }
 
 }  // namespace vamo

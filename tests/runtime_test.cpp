@@ -16,7 +16,19 @@
 #include "toolkit/window/menu_item.h"
 
 namespace vamo {
+
+struct FieldsOfATest {
+  int value = 0;
+};
+
 namespace {
+
+TEST(RuntimeTest, TheFinalisersTakeTheModuleLevelFields) {
+  TestProgram program;
+  program.runtime().ModuleFields<FieldsOfATest>().value = 1;
+  program.runtime().PerformFinalizers();
+  EXPECT_EQ(program.runtime().ModuleFields<FieldsOfATest>().value, 0);
+}
 
 TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   TestProgram program;

@@ -259,6 +259,7 @@ TEST_F(ProgramTest, EachHandlerPassesItsEventOn) {
       for (const auto& [name, handler] : *handlers) EXPECT_FALSE(handler.Invoke()) << name;
     }
     EXPECT_FALSE(window->Qbtn()->UserPressed(1, 1));
+    EXPECT_TRUE(window->UserPressedKey({KeyCode::kHelp})) << "the key has pressed the button";
     EXPECT_FALSE(AboutWnd()->Event_KeyDown("x") || AboutWnd()->Event_MouseDown(1, 1));
   });
 }

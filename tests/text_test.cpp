@@ -67,6 +67,20 @@ TEST(Utf8Test, EachByteOfABrokenSequenceBecomesAReplacementCharacter) {
   const std::string kBad = "\xEF\xBF\xBD";
   EXPECT_EQ(ValidUtf8("aé漢😀\x80z\xC0\xAF\xC3"), "aé漢😀" + kBad + "z" + kBad + kBad + kBad);
   EXPECT_EQ(ValidUtf8(std::string_view("a\0b", 3)).size(), 3U);
+  // The first and the last of each length and range, and what lies beside them.
+  for (const char* valid :
+       {"\xC2\x80", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"}) {
+    EXPECT_EQ(ValidUtf8(valid), valid);
+  }
+  for (const std::string broken : {"\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",
+                                   "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xEF\xBF"}) {
+    EXPECT_EQ(ValidUtf8(broken).size(), kBad.size() * broken.size());
+  }
+  const std::string text = "é😀b";
+  EXPECT_EQ(Utf16Offset(text, 6), 3U);
+  EXPECT_EQ(ByteOffset(text, 2), 6U) << "inside a character: the next one";
+  EXPECT_EQ(ByteOffset(text, 3), 6U);
+  EXPECT_EQ(ByteOffset(text, 9), text.size());
 }
 
 TEST(ReceivedTextTest, DigitsSpacesAndADecimalCommaBecomePlain) {

@@ -194,6 +194,12 @@ TEST(WindowTest, TabLeavesAtBothEndsWhereTheDisplayWantsIt) {
   EXPECT_TRUE(window->UserPressedKey(tab));
   EXPECT_FALSE(window->UserPressedKey(tab));
   EXPECT_TRUE(window->Focus() == window->slider());
+  window->slider()->SetTabStop(false);
+  window->field()->SetTabStop(false);
+  EXPECT_FALSE(window->UserPressedKey(tab)) << "there is no stop to go to";
+  window->slider()->SetEnabled(false);
+  window->field()->SetEnabled(false);
+  EXPECT_FALSE(window->UserPressedKey(tab)) << "there is nothing to go to";
 }
 
 }  // namespace

@@ -78,7 +78,6 @@ class OutsideUser final : public ScreenUser<Element> {
 
 // Runs a program from its start to its end, with settings in its environment, and gives its exit
 // status; kStillRunning when the journey has left it running.
-inline constexpr int kStillRunning = -1;
 int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
                    const std::vector<std::string>& command);
 

@@ -27,6 +27,7 @@ TEST(ControlWindowJourney, OpensEmptyWithTheKeysInR) {
     EXPECT_EQ(user.Focused().name, "r");
     EXPECT_EQ(user.Sees(Role::kText, "r").labelled_by, "r =");
     EXPECT_EQ(user.Sees(Role::kSlider, "r").labelled_by, "r =");
+    EXPECT_EQ(user.Sees(Role::kText, "N").labelled_by, "N =");
     EXPECT_EQ(user.Sees(Role::kSlider, "N").labelled_by, "N =");
     EXPECT_EQ(user.Sees(Role::kText, "Fisher's z").labelled_by, "Fisher's z =");
     EXPECT_EQ(user.SeesDescribed("Student's t").labelled_by, "t =");

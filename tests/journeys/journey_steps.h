@@ -10,8 +10,8 @@
 
 namespace vamo {
 
-// Runs the program from its start to its end with a user, and gives its exit status. Each program
-// of journeys defines it for its display.
+// Runs the program from its start with a user, and gives its exit status or kStillRunning. Each
+// program of journeys defines it for its display.
 int RunProgram(const std::function<void(User&)>& journey);
 
 Key Arrow(KeyCode code, bool shift = false);
