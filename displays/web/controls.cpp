@@ -38,7 +38,10 @@ void WebCanvas::ShowState() {
 
 WebRectangle::WebRectangle(WebWindow& window, Rectangle& rectangle)
     : WebControl(window, rectangle, "div") {
-  const std::string width = Units(std::max(0.0, rectangle.BorderThickness())) + " solid ";
+  // No side is lost where a unit is shorter than a pixel.
+  const double thickness = std::max(0.0, rectangle.BorderThickness());
+  const std::string width =
+      (thickness > 0 ? "max(1px, " + Units(thickness) + ")" : "0") + " solid ";
   const std::string light = width + ToCss(rectangle.TopLeftColour());
   const std::string dark = width + ToCss(rectangle.BottomRightColour());
   Element().SetStyle("border-top", light);

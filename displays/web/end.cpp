@@ -15,9 +15,11 @@ class End : public PageOwner {
           return PageAnswer::kPassed;
         }),
         frame_(page_, "section"),
+        heading_(frame_, "h1"),
         text_(frame_, "p"),
         button_(frame_, "button", &pressed_) {
     frame_.SetAttribute("class", "end");
+    heading_.SetText("Vamo");
     text_.SetAttribute("role", "status");
     text_.SetText(status == 0 ? "Vamo has ended." : "Vamo has stopped because of an error.");
     button_.SetAttribute("type", "button");
@@ -36,6 +38,7 @@ class End : public PageOwner {
   PageHandler pressed_;
   PageElement page_;
   PageElement frame_;
+  PageElement heading_;
   PageElement text_;
   PageElement button_;
 };

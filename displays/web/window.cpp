@@ -13,6 +13,11 @@
 namespace vamo {
 namespace {
 
+// The splash shares its title with the control window.
+std::string NameOf(const Window& window) {
+  return (window.IsSplash() ? "About " : "") + window.ListedTitle();
+}
+
 bool IsText(WebControl* control) { return dynamic_cast<WebText*>(control) != nullptr; }
 
 }  // namespace
@@ -36,7 +41,8 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
       frame_(display.Page(), "section", &touched_),
       content_(frame_, "div", &pressed_) {
   const Window::State& state = window.InitialState();
-  frame_.SetAttribute("aria-label", window.ListedTitle());
+  frame_.SetAttribute("aria-label", NameOf(window));
+  if (window.IsSplash()) frame_.SetAttribute("role", "dialog");
   if (window.IsSplash()) frame_.SetAttribute("role", "dialog");
   if (!window.AccessibleDescription().empty()) {
     frame_.SetAttribute("aria-description", window.AccessibleDescription());
@@ -49,7 +55,11 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
   content_.SetAttribute("class", "content");
   content_.SetStyle("background-color",
                     state.has_background_colour ? ToCss(state.background_colour) : "#fff");
-  if (!window.IsSplash()) MakeTitleBar();
+  if (window.IsSplash()) {
+    MakeHiddenHeading();
+  } else {
+    MakeTitleBar();
+  }
   if (window.MenuBar()) menu_bar_ = std::make_unique<WebMenuBar>(*this, frame_, *window.MenuBar());
   content_.BringToEnd();
   display_.Order().Add(*this);
@@ -60,6 +70,13 @@ WebWindow::~WebWindow() {
   display_.ActivateLater();
 }
 
+// For who goes from heading to heading.
+void WebWindow::MakeHiddenHeading() {
+  title_bar_.push_back(std::make_unique<PageElement>(frame_, "h1"));
+  title_bar_.back()->SetAttribute("class", "announcement");
+  title_bar_.back()->SetText(NameOf(window_));
+}
+
 void WebWindow::MakeTitleBar() {
   const auto add = [this](const PageElement& parent, std::string_view tag, PageListener* listener) {
     title_bar_.insert(title_bar_.begin(), std::make_unique<PageElement>(parent, tag, listener));
@@ -68,11 +85,10 @@ void WebWindow::MakeTitleBar() {
   PageElement* bar = add(frame_, "header", nullptr);
   add(*bar, "h1", nullptr)->SetText(window_.ListedTitle());
   if (!window_.InitialState().has_close_button) return;
-  PageElement* close = add(*bar, "button", &closed_);
-  close->SetAttribute("type", "button");
-  close->SetAttribute("tabindex", "-1");
-  close->SetAttribute("aria-label", "Close");
-  close->SetText("×");
+  close_button_ = add(*bar, "button", &closed_);
+  close_button_->SetAttribute("type", "button");
+  close_button_->SetAttribute("aria-label", "Close");
+  close_button_->SetText("×");
 }
 
 std::unique_ptr<ControlView> WebWindow::CreateControl(AnyControl control) {
@@ -130,6 +146,7 @@ void WebWindow::BringToFront() {
 void WebWindow::ShowPlace(int depth) {
   frame_.SetStyle("z-index", std::to_string(depth));
   frame_.SetFlag("data-active", IsInFront());
+  if (close_button_ != nullptr) close_button_->SetAttribute("tabindex", IsInFront() ? "0" : "-1");
   if (menu_bar_ != nullptr) menu_bar_->ShowPlace(IsInFront());
   for (WebControl* control : controls_) control->Update();
 }

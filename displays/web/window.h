@@ -59,6 +59,7 @@ class WebWindow : public WindowView {
   WebControl* FocusedControl() const;
   void GiveFocus();
   PageAnswer TakePress(const PageReport& report);
+  void MakeHiddenHeading();
   void MakeTitleBar();
   void LinkCaptions();
 
@@ -69,6 +70,8 @@ class WebWindow : public WindowView {
   PageHandler closed_;
   PageElement frame_;
   std::vector<std::unique_ptr<PageElement>> title_bar_;
+  // Among these; null where there is none.
+  PageElement* close_button_ = nullptr;
   std::unique_ptr<WebMenuBar> menu_bar_;
   PageElement content_;
   std::vector<WebControl*> controls_;

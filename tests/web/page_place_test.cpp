@@ -43,6 +43,9 @@ TEST_F(PageTest, TwoCopiesInFramesKeepTheirNumbersAndLetTabThrough) {
   };
   for (const int number : {0, 1}) {
     enter(number);
+    ASSERT_TRUE(Await([&] {
+      return browser().Run("return !!document.querySelector('[data-active]');").get<bool>();
+    }));
     browser().Run("document.querySelector('.window').focus();");
     browser().PressKeys("", "x");
   }
@@ -181,6 +184,16 @@ TEST_F(PageTest, NothingButTheAnnouncementsIsSpokenByItself) {
     }
   }
   EXPECT_EQ(live, std::vector<std::string>{"status \"polite\""});
+  EXPECT_EQ(browser().Run("return [...document.querySelectorAll('section')].map(window =>"
+                          "  [window.ariaLabel, window.querySelector('h1').textContent]);"),
+            json::parse(R"([["About Vamo", "About Vamo"], ["Vamo", "Vamo"]])"));
+  EXPECT_EQ(
+      browser().Run("return [...document.querySelectorAll('[data-active] .control')]"
+                    "  .map(control => control.ariaDescription || control.ariaLabel ||"
+                    "    control.textContent).filter(text => text).join(', ');"),
+      "Vamo, by Halden Q. Orrin, r =, r, Fisher's z =, Fisher's z, r, N =, N, range of N, N, t =, "
+      "Student's t, p =, two-tailed p, 95% CI of r =, 95% confidence interval of r, Info")
+      << "in the order of reading";
 }
 
 TEST_F(PageTest, LetsNothingInOrOut) {
@@ -224,7 +237,7 @@ TEST_F(PageTest, AnErrorIsOneLineAndTheEnd) {
   };
   const Case kCases[] = {
       {"WebAssembly.Memory.prototype.grow = () => { throw new RangeError(); };", Key::Command("v"),
-       "vamo: std::bad_alloc", "Vamo has stopped because of an error.\n\nStart again"},
+       "vamo: std::bad_alloc", "Vamo\n\nVamo has stopped because of an error.\n\nStart again"},
       {"Element.prototype.animate = () => { throw new Error('damaged'); };", Key::Character("x"),
        "damaged", "Vamo has stopped because of an error. Load this page again to start it anew."},
   };

@@ -225,7 +225,7 @@ TEST_F(PageTest, ComingBackToThePageResetsNothing) {
 TEST_F(PageTest, SaysThatItHasEndedAndStartsAgain) {
   PageUser user = InControlWindow();
   user.PressKey(Key::Command("q"));
-  EXPECT_EQ(browser().Run(kHasEnded), "Vamo has ended.Start again");
+  EXPECT_EQ(browser().Run(kHasEnded), "VamoVamo has ended.Start again");
   browser().PressKeys("", "\uE006");
   browser().RunAsync("setTimeout(arguments[0], 100);");
   EXPECT_EQ(user.Windows(), std::vector<std::string>{""}) << "the splash";

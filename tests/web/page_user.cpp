@@ -92,11 +92,11 @@ int Rounded(const json& number) { return static_cast<int>(std::lround(number.get
 
 std::string SeenElement::RoleName() const {
   static const std::map<std::string, std::string> kNames{
-      {"textbox", "text"},       {"slider", "slider"}, {"button", "button"},
-      {"region", "frame"},       {"dialog", "dialog"}, {"menubar", "menu bar"},
-      {"menuitem", "menu item"}, {"status", "label"},  {"LabelText", "label"},
-      {"StaticText", "label"},   {"generic", "label"}, {"label", "label"},
-      {"text leaf", "label"},
+      {"textbox", "text"},       {"slider", "slider"},    {"button", "button"},
+      {"region", "frame"},       {"dialog", "dialog"},    {"menubar", "menu bar"},
+      {"menuitem", "menu item"}, {"dialog", "frame"},     {"status", "label"},
+      {"LabelText", "label"},    {"StaticText", "label"}, {"generic", "label"},
+      {"label", "label"},        {"text leaf", "label"},
   };
   const auto found = kNames.find(user_->RoleAndName(*look_).first);
   return found == kNames.end() ? "" : found->second;
