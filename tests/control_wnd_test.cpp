@@ -1,4 +1,4 @@
-// The control window's own facts: its layout, its wiring, its recalculation.
+// The control window: its layout, the wiring of its events, its calculation.
 #include "controlwnd/control_wnd.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +42,7 @@ TEST_F(ControlWndTest, HasItsControlsInOrderWithTheirParents) {
       "rSlider, nSlider, StaticText2, StaticText3, nText, StaticText8, zFld, Qbtn, Rectangle3, "
       "StaticText5 in Rectangle3, StaticText1 in Rectangle3, pText in Rectangle3, "
       "StaticText7 in Rectangle3, ciText in Rectangle3, tText in Rectangle3, ");
-  // Most controls are fixed, so nothing else of the program would miss their accessors.
+  // Most controls never change, so nothing else in the program uses their accessors.
   using W = class ControlWnd;
   EXPECT_EQ(
       NamesOf(&W::rEdit, &W::nEdit, &W::Rectangle2, &W::Canvas3, &W::StaticText4, &W::StaticText9,
@@ -107,7 +107,7 @@ TEST_F(ControlWndTest, AboveTheRangeTheModelKeepsItsLastResults) {
   EXPECT_EQ(window_->p, p);
 }
 
-TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
+TEST_F(ControlWndTest, AnnouncesResultsOnceTheyStopChanging) {
   using std::chrono_literals::operator""ms;
   HeadlessUser& user = program_.user();
   const auto heard_after = [&](std::chrono::milliseconds time) {
@@ -142,7 +142,7 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyHaveComeToRest) {
   EXPECT_EQ(heard_after(1000ms), nothing) << "it would be spoken into another program";
 }
 
-// By themselves: behind them the masks refuse much of the same.
+// Tests the filters directly, because the masks refuse many of the same characters.
 TEST_F(ControlWndTest, EachFilterLetsDigitsAndEditingKeysThrough) {
   const std::string both = "0123456789\b\t\x10";
   for (const auto& [field, passing] :

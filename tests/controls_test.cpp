@@ -29,7 +29,7 @@ TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
   EXPECT_EQ(log->entries, (std::vector<std::string>{"3", "100", "0"}));
 }
 
-// Takes itself out of the event that it hears, and goes on.
+// Removes itself from the event that called it, and continues.
 struct Fleeting : Object {
   void Hear(Ref<Slider> slider) {
     slider->ValueChanged = {};
@@ -40,7 +40,7 @@ struct Fleeting : Object {
   static inline std::int64_t gone_with = 0;
 };
 
-TEST(SliderTest, AHandlerCanTakeItselfOut) {
+TEST(SliderTest, AHandlerCanRemoveItself) {
   TestProgram program;
   const auto slider = New<Slider>();
   slider->ValueChanged =
@@ -108,7 +108,7 @@ TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   EXPECT_EQ(fired_after(1000ms), 0U);
 }
 
-TEST(StretchedTest, ASideThatIsNotLockedGoesWithTheOppositeOne) {
+TEST(StretchedTest, ASideThatIsNotLockedMovesWithTheOppositeSide) {
   const Bounds designed{10, 20, 30, 40};
   const auto stretched = [&](bool left, bool right) {
     const Bounds box = Stretched(designed, {left, left, right, right}, 5, -50);

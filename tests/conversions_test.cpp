@@ -1,4 +1,4 @@
-// What the labels and fields show, and what is read back from them.
+// How numbers become the texts of labels and fields, and how texts are read as numbers.
 #include "toolkit/conversions.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 
 #include "toolkit/object/property_stream.h"
 
-// glibc loses the text of LOCPATH when it loads a locale from there.
+// glibc leaks the text of LOCPATH when it loads a locale from there.
 extern "C" const char* __lsan_default_suppressions() { return "leak:argz_add_sep\n"; }
 
 namespace vamo {
@@ -48,7 +48,7 @@ TEST(FormatTest, WritesANumberUnderAMask) {
       {7063.9402249, "#####.00", "7063.94"},
       {0.9999929289, ".00000", ".99999"},
       {0.5, "+.000", "+.500"},
-      // A sign position follows the value and not its digits.
+      // A sign position shows the sign of the value, not of its rounded digits.
       {-0.0, "+.000", ".000"},
       {0.0004, "+.000", "+.000"},
       {-0.0004, "+.000", "-.000"},
@@ -110,7 +110,7 @@ TEST(ValTest, ReadsTheNumberAtTheStart) {
       {"..5", 0},
       {"7\xC3\x28", 7},
       {{"1\0002", 3}, 1},
-      // 2^53 + 1 lies half-way between two doubles; anything more than nothing after it decides.
+      // 2^53 + 1 lies half-way between two doubles; any further digit above 0 decides.
       {Long("9007199254740993.", 900, '0'), 9007199254740992.0},
       {Long("9007199254740993.", 900, '0', "1"), 9007199254740994.0},
       {Long("2.2250738585072011", 400, '0'), 2.2250738585072011},
@@ -164,9 +164,9 @@ TEST(AscTest, CodeOfTheFirstCharacter) {
       {"\xF0\x9F\x98\x80", 0x1F600},
       {"\xF4\x8F\xBF\xBF", 0x10FFFF},
       {"\x80", 0xFFFD},              // continuation without a lead
-      {"\xE2\x82", 0xFFFD},          // cut off
+      {"\xE2\x82", 0xFFFD},          // truncated
       {"\xC3(", 0xFFFD},             // lead without a continuation
-      {"\xC1\xBF", 0xFFFD},          // longer than need be
+      {"\xC1\xBF", 0xFFFD},          // longer than necessary
       {"\xE0\x9F\xBF", 0xFFFD},      //
       {"\xF0\x8F\xBF\xBF", 0xFFFD},  //
       {"\xED\xA0\x80", 0xFFFD},      // surrogate
@@ -194,7 +194,7 @@ TEST(LocaleTest, ADecimalCommaHasNoInfluence) {
     if (std::setlocale(LC_ALL, name) != nullptr) comma = name;
   }
   if (comma == nullptr) GTEST_SKIP() << "this machine has no locale with a decimal comma";
-  // That of the streams of C++ and that of the C library.
+  // Changes the locale of C++ streams and that of the C library.
   const std::locale old_global = std::locale::global(std::locale(comma));
   EXPECT_STREQ(std::localeconv()->decimal_point, ",");
   EXPECT_EQ(Format(1234567.5, "#,##0.00"), "1234567.50");

@@ -1,4 +1,4 @@
-// The toolkit's rules for menus: who is asked, what is enabled, what a shortcut does.
+// The toolkit's rules for menus: which handler is asked, what is enabled, what a shortcut does.
 #include <gtest/gtest.h>
 
 #include <string>

@@ -1,4 +1,4 @@
-// The byte format of property streams, as it is written and as it is read.
+// Writing and reading the byte format of property streams.
 #include "toolkit/object/property_stream.h"
 
 #include <gtest/gtest.h>
@@ -43,7 +43,7 @@ TEST(StreamWriterTest, WritesEachTypeAsItIsStored) {
 }
 
 TEST(StreamWriterTest, TheLengthByteHoldsShortLengthsOnly) {
-  // A name, a blank and a length of 4 bytes stand before the 245 of the text.
+  // The 245 bytes of the text follow a name, a space and a length of 4 bytes.
   static constexpr std::array<char, 245> kText{};
   static constexpr std::string_view kLong(kText.data(), kText.size());
   constexpr property::Text kHints{"Hints"};
@@ -82,7 +82,7 @@ TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
   EXPECT_THROW(_SetProperties(*New<Rectangle>(), tab_stop), InvalidArgumentException);
 }
 
-TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {
+TEST(StreamReaderTest, ABrokenStreamRaisesAnExceptionAndKeepsWhatWasSet) {
   struct Case {
     std::string entries, named, offset;
   };
@@ -110,7 +110,8 @@ TEST(StreamReaderTest, ABrokenStreamIsToldAndKeepsWhatWasSet) {
   }
 }
 
-// On the heap and not a byte longer, so that the sanitizers see a read past the end.
+// The copies are on the heap and have the exact size, so that the sanitizers see a read past the
+// end.
 TEST(StreamReaderTest, AStreamIsReadToItsEndAtMost) {
   TestProgram program;
   const std::string whole =

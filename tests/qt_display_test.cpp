@@ -37,7 +37,7 @@ TEST(QtDisplayTest, AnInputMethodsTextIsTakenAsKeys) {
     QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &event);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
     EXPECT_EQ(user.Beeps(), 1);
-    // Arabic digits, and the decimal keys of a keypad and of a keyboard on the screen.
+    // Arabic digits, and the decimal keys of a keypad and of an on-screen keyboard.
     Retype(user, "r", "");
     QTest::sendKeyEvent(QTest::Click, &Named<QLineEdit>("r"), Qt::Key_Comma, QStringLiteral(","),
                         Qt::KeypadModifier);
@@ -61,7 +61,7 @@ TEST(QtDisplayTest, AnInputMethodsTextIsTakenAsKeys) {
   });
 }
 
-TEST(QtDisplayTest, ADropGoesInAsAPaste) {
+TEST(QtDisplayTest, ADropActsAsAPaste) {
   InControlWindow([](User& user) {
     auto& field = Named<QLineEdit>("r");
     QMimeData dropped;
@@ -75,7 +75,7 @@ TEST(QtDisplayTest, ADropGoesInAsAPaste) {
     QCoreApplication::sendEvent(&field, &event);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".99999");
     EXPECT_EQ(user.Sees(Role::kText, "Fisher's z").text, "6.103");
-    // Whatever way a text gets into the widget, the program hears of it.
+    // However a text gets into the widget, the program learns of it.
     field.selectAll();
     field.insert("0.2");
     EXPECT_EQ(user.Sees(Role::kText, "Fisher's z").text, "0.203");
@@ -93,13 +93,13 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
     auto* other = QAccessible::queryAccessibleInterface(&Named<QSlider>("N"));
     other->valueInterface()->setCurrentValue(30);
     EXPECT_EQ(user.Sees(Role::kText, "N").text, "30");
-    // Whatever way a position gets into the widget, the program hears of it.
+    // However a position gets into the widget, the program learns of it.
     Named<QSlider>("r").setValue(7);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".070");
   });
 }
 
-// A window with the keys in a field, closed by any of them.
+// A window with the focus in a field, which any key closes.
 class FleetingWindow : public Window {
  public:
   void Layout() override {
@@ -139,7 +139,7 @@ TEST(QtDisplayTest, ABeepIsSeen) {
   });
 }
 
-// Counts how often one window comes up.
+// Counts how often a window appears on the screen.
 class Appearances : public QObject {
  public:
   explicit Appearances(const char* window) : window_(window) { qApp->installEventFilter(this); }
@@ -153,7 +153,7 @@ class Appearances : public QObject {
   const char* window_;
 };
 
-TEST(QtDisplayTest, AWindowThatIsHiddenWithinTheEventDoesNotComeUp) {
+TEST(QtDisplayTest, AWindowThatIsHiddenWithinTheEventIsNeverShown) {
   InControlWindow([](User& user) {
     user.Choose("Help/About Vamo");
     user.Close("");
@@ -167,7 +167,7 @@ TEST(QtDisplayTest, AWindowThatIsHiddenWithinTheEventDoesNotComeUp) {
   });
 }
 
-TEST(QtDisplayTest, WhoComesBackFindsTheFocusInTheWindowNotInItsMenuBar) {
+TEST(QtDisplayTest, AWindowThatIsActivatedAgainHasTheFocusAndNotItsMenuBar) {
   InControlWindow([](User& user) {
     user.Click(Role::kButton, "Info");
     user.ActivateWindow("Vamo");
@@ -195,7 +195,7 @@ TEST(QtDisplayTest, APasteOfNoTextLeavesTheSelectionAlone) {
   });
 }
 
-TEST(QtDisplayTest, AMinimisedWindowStaysSoWhenTheSplashsTimerFires) {
+TEST(QtDisplayTest, AMinimisedWindowStaysMinimisedWhenTheTimerOfTheSplashFires) {
   InControlWindow([](User& user) {
     QWidget& window = *QApplication::activeWindow();
     window.showMinimized();
@@ -204,7 +204,7 @@ TEST(QtDisplayTest, AMinimisedWindowStaysSoWhenTheSplashsTimerFires) {
   });
 }
 
-TEST(QtDisplayTest, TheButtonLeavesTheKeysAlone) {
+TEST(QtDisplayTest, TheButtonIgnoresKeys) {
   InControlWindow([](User& user) {
     auto& button = Named<QPushButton>("Info");
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) QTest::keyClick(&button, key);
@@ -228,7 +228,7 @@ TEST(QtDisplayTest, AMenuLeavesTheSelectionToCut) {
   });
 }
 
-TEST(QtDisplayTest, ADesktopThatIsReadFromTheRightChangesNothing) {
+TEST(QtDisplayTest, ARightToLeftDesktopChangesNothing) {
   QGuiApplication::setLayoutDirection(Qt::RightToLeft);
   InControlWindow([](User&) {
     for (const QWidget* widget : QApplication::activeWindow()->findChildren<QWidget*>()) {
@@ -237,7 +237,7 @@ TEST(QtDisplayTest, ADesktopThatIsReadFromTheRightChangesNothing) {
   });
 }
 
-TEST(QtDisplayTest, EachEntryOfAMenuHasALetterOfItsOwn) {
+TEST(QtDisplayTest, EachItemOfAMenuHasItsOwnMnemonic) {
   InControlWindow([](User& user) {
     user.CanChoose("Edit/Cut");
     for (const auto* menu : QApplication::activeWindow()->findChildren<QMenu*>()) {
@@ -252,7 +252,7 @@ TEST(QtDisplayTest, EachEntryOfAMenuHasALetterOfItsOwn) {
   });
 }
 
-TEST(QtDisplayTest, ClosingTheSplashEndsAProgramThatNothingCouldReach) {
+TEST(QtDisplayTest, ClosingTheSplashEndsAProgramThatTheUserCouldNotReach) {
   bool reached = false;
   EXPECT_EQ(RunProgram([&](User& user) {
               user.Close("");

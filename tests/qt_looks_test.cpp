@@ -1,6 +1,7 @@
-// What the Qt display looks like: as its kept pictures, at each size, and what is cut off.
+// How the Qt display looks: compared with stored pictures, at each size, and whether text is cut
+// off.
 //
-// VAMO_RENEW_PICTURES=1 in the environment keeps what the windows look like now.
+// VAMO_RENEW_PICTURES=1 in the environment stores new pictures.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -29,7 +30,7 @@
 namespace vamo {
 namespace {
 
-// What a widget draws, on white, where it draws no background of its own.
+// Draws a widget, on white if it has no background of its own.
 QImage Drawn(QWidget& widget) {
   QImage image(widget.size(), QImage::Format_RGB32);
   image.fill(Qt::white);
@@ -44,7 +45,7 @@ void ForEachPixel(const QImage& image, const QRect& part, const Act& act) {
   }
 }
 
-// The smallest rectangle that holds all that a label has drawn.
+// The smallest rectangle that contains everything that a label draws.
 QRect Ink(QLabel& label) {
   QRect ink;
   ForEachPixel(Drawn(label), label.rect(), [&](const QPoint& place, const QColor& colour) {
@@ -53,7 +54,7 @@ QRect Ink(QLabel& label) {
   return ink;
 }
 
-// Whether the highlight of a selection is among what a widget shows.
+// Whether a widget shows the highlight of a selection.
 bool ShowsHighlight(QWidget& widget) {
   const QColor highlight = widget.palette().color(QPalette::Active, QPalette::Highlight);
   bool shows = false;
@@ -86,13 +87,14 @@ void ExpectNoTextCutOff() {
     const QRect ink = Ink(*label);
     const std::string text = label->text().toStdString();
     ASSERT_FALSE(text.empty() || ink.isEmpty()) << text;
-    // A text that begins at the left begins in the first column.
+    // A left-aligned text begins in the first column.
     const int left = label->alignment().testFlag(Qt::AlignHCenter) ? 1 : 0;
     EXPECT_TRUE(label->rect().adjusted(left, 0, -1, 0).contains(ink)) << text;
   }
 }
 
-// The window in front as it looked when its picture was kept; some pixels of a letter may differ.
+// Expects that the window in front looks like its stored picture; some pixels of a letter may
+// differ.
 void ExpectPicture(const std::string& name) {
   const std::string kept_in = VAMO_PICTURES "/" + name + ".png";
   const QImage shown = QApplication::activeWindow()->grab().toImage();
@@ -138,7 +140,7 @@ TEST(QtLooksTest, TheWindowsLookAsTheyDid) {
     Retype(user, "r", ".5");
     ExpectPicture("control_window");
     Retype(user, "N", "2");
-    user.LetTimePass(std::chrono::milliseconds(300));  // The beep is seen.
+    user.LetTimePass(std::chrono::milliseconds(300));  // The flash of the beep ends.
     ExpectPicture("control_window_warned");
     MakeWindowsLarger(user, 4);
     user.Click(Role::kSlider, "r");
@@ -153,7 +155,7 @@ int MenuLetters() {
   return QFontInfo(QApplication::activeWindow()->findChild<QMenu*>()->font()).pixelSize();
 }
 
-TEST(QtLooksTest, KeysMakeAllWindowsLargerAndThenAsTheyWere) {
+TEST(QtLooksTest, KeysEnlargeAllWindowsAndRestoreTheirSize) {
   InControlWindow([](User& user) {
     QApplication::setCursorFlashTime(0);
     QWidget& control = *QApplication::activeWindow();
@@ -208,7 +210,7 @@ TEST(QtLooksTest, NoWindowIsLargerThanItsScreen) {
   });
 }
 
-// A window that its user can resize, with one control locked to all of its sides.
+// A window that the user can resize, with one control locked to all sides.
 class ElasticWindow : public Window {
  public:
   void Layout() override {

@@ -1,4 +1,4 @@
-// The user of the Qt display, in the program's own process: sends events through Qt's queue and
+// The user of the Qt display inside the program's process: sends events through Qt's queue and
 // reads what a screen reader reads.
 #include <QAccessible>
 #include <QApplication>
@@ -22,7 +22,7 @@
 namespace vamo {
 namespace {
 
-// An accessible element of the program, by the names that the bus of assistive technology has.
+// An accessible element of the program, with the role names that AT-SPI uses.
 class QtElement {
  public:
   explicit QtElement(QAccessibleInterface* accessible) : accessible_(accessible) {}
@@ -108,7 +108,7 @@ class CountingDisplay : public QtDisplay {
     ++beeps_;
     QtDisplay::Beep();
   }
-  // Offscreen there is no assistive technology that could hear it.
+  // Offscreen no assistive technology can receive the announcement.
   void Announce(std::string_view sentence) override { announcements_.emplace_back(sentence); }
   int beeps() const { return beeps_; }
   std::vector<std::string> TakeAnnouncements() { return std::exchange(announcements_, {}); }
@@ -166,7 +166,7 @@ class QtUser final : public ScreenUser<QtElement> {
   }
   static void SendKey(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers) {
     for (const auto action : {QTest::Press, QTest::Release}) {
-      // The release of a key that has closed the last window has nowhere to go.
+      // No window receives the release of a key that has closed the last window.
       if (QWindow* window = QGuiApplication::focusWindow()) {
         QTest::sendKeyEvent(action, window, key, text, modifiers);
       }
@@ -200,7 +200,7 @@ class QtUser final : public ScreenUser<QtElement> {
       QGuiApplication::sync();
     } while (Running() && patience.elapsed() < 3000 && !IsSettled());
   }
-  // Whether all windows have come up and one of them has the keys.
+  // Whether all windows are on the screen and one of them has the focus.
   static bool IsSettled() {
     if (QApplication::activePopupWidget() != nullptr) return true;
     for (const QWindow* window : QGuiApplication::topLevelWindows()) {

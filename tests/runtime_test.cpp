@@ -1,4 +1,4 @@
-// The guard against threads, and who is asked about an exception that leaves an event.
+// The guard against other threads, and the handling of an exception that leaves an event.
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -139,7 +139,7 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   EXPECT_EQ(program.runtime().LiveWindows().size(), 1U);
 }
 
-TEST(EventTest, AnEndExceptionEndsTheEventAloneAndTheApplicationCanTakeTheOthers) {
+TEST(EventTest, AnEndExceptionEndsOnlyTheEventAndTheApplicationCanHandleTheOthers) {
   TestProgram program;
   const auto app = New<TestApplication>();
   app->takes = true;

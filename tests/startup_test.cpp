@@ -1,4 +1,4 @@
-// From the start of the process to its end, the application object, the menu bar, the splash.
+// The process from start to end, the application object, the menu bar, the splash.
 #include "shell/startup.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ struct Outcome {
   std::string said;
 };
 
-// Runs the program, with `failing` as the step that raises an exception, and notes what it does.
+// Runs the program with an exception in the step `failing` and records what it does.
 Outcome RunFailingAt(std::string_view failing,
                      const std::function<void(HeadlessUser&)>& user = nullptr) {
   Outcome outcome;
@@ -57,7 +57,7 @@ const Steps kStart{"RuntimeInit",
                    "_MakeDefaultView",
                    "_RuntimeRun"};
 
-// The steps from the start up to one of them, and then others.
+// The steps from the start up to `last`, followed by `then`.
 Steps StepsUpTo(std::string_view last, const Steps& then) {
   Steps steps(kStart.begin(), std::find(kStart.begin(), kStart.end(), last) + 1);
   steps.insert(steps.end(), then.begin(), then.end());
@@ -82,7 +82,7 @@ TEST(StartupTest, TakesItsStepsInOrder) {
 TEST(StartupTest, AFailingStepIsHandedOverOnceAndStillEndsInOrder) {
   for (auto step = kStart.begin() + 2; step != kStart.end(); ++step) {
     Steps end{"_UnhandledException", "RuntimePerformFinalizers", "RuntimeExit"};
-    // Out of _Main itself, there is nobody to hand it over to.
+    // Nothing hands over an exception that leaves _Main itself.
     if (*step == "_Main") end.erase(end.begin());
     const Outcome outcome = RunFailingAt(*step, [](HeadlessUser&) { FAIL() << "the loop ran"; });
     EXPECT_EQ(outcome.steps, StepsUpTo(*step, end));
@@ -91,7 +91,7 @@ TEST(StartupTest, AFailingStepIsHandedOverOnceAndStillEndsInOrder) {
   }
 }
 
-// A handler of a slider that fails at one position.
+// A slider's handler that fails at one position.
 struct FailingHandler : Object {
   explicit FailingHandler(std::function<void()> failure) : fail(std::move(failure)) {}
   void Take(Ref<Slider> slider) {
@@ -136,7 +136,7 @@ TEST(StartupTest, AHandlerThatFailsInTheMiddleOfADragEndsTheProgramInOrder) {
   }
 }
 
-// A display whose events come after Run, as a browser has it.
+// A display whose Run returns before the first event, as in a browser.
 struct LaterDisplay : HeadlessDisplay {
   explicit LaterDisplay(int& counter) : stops(counter) {}
   void Run() override {}
@@ -173,7 +173,7 @@ TEST(StartupTest, AProcessGoesOnWhereThePlatformHasTheLoop) {
   }
 }
 
-// What follows runs inside the started program.
+// Runs tests inside the started program.
 class ProgramTest : public testing::Test {
  protected:
   static void InProgram(const std::function<void(HeadlessUser&)>& act) {
@@ -245,7 +245,7 @@ TEST_F(ProgramTest, ClassesTellTheEventsThatTheyImplement) {
     EXPECT_EQ(implemented(App()), "EnableMenuItems ");
     const auto window = ControlWnd();
     EXPECT_FALSE(_RuntimeIsEventHandled(*window, "InfoWnd.InfoWnd", "Layout", true));
-    // The base implements no event, the class that is derived from it does.
+    // The base class does not implement the event, the derived class does.
     EXPECT_FALSE(_RuntimeIsEventHandled(*window, "Window", "Layout", false));
     EXPECT_TRUE(_RuntimeIsEventHandled(*window, "ControlWnd.ControlWnd", "Layout", false));
   });
@@ -270,19 +270,19 @@ TEST_F(ProgramTest, TheSplashGoesThroughItsStates) {
     user.LetTimePass(3999ms);
     EXPECT_TRUE(about->Visible());
     user.PressKey(Key::Character("x"));
-    // The timer still fires, but the user has gone to another program by then.
+    // The timer still fires, but by then the user has switched to another program.
     user.SwitchAway();
     user.LetTimePass(1ms);
     EXPECT_EQ(user.ActiveTitle(), "");
     user.ActivateWindow("Vamo");
-    // Shown again, it is the same object, and its timer is spent.
+    // When shown again it is the same object, and its timer does not fire again.
     user.Choose("Help/About Vamo");
     EXPECT_TRUE(AboutWnd() == about);
     user.LetTimePass(60000ms);
     EXPECT_TRUE(about->Visible());
     user.ActivateWindow("Vamo");
     EXPECT_FALSE(about->Visible());
-    // Closed, it makes way for a new one with a timer of its own.
+    // Once closed it is replaced with a new object, which has its own timer.
     user.Choose("Help/About Vamo");
     user.Close("");
     EXPECT_TRUE(user.Display().Running());

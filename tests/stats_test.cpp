@@ -1,4 +1,4 @@
-// Published digits, second formulas, round trips and the ends of the range.
+// Published values, second formulas, round trips and the limits of the ranges.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -24,14 +24,14 @@ testing::Message Row(double r, std::int64_t N) {
   return testing::Message() << "r = " << r << ", N = " << N;
 }
 
-// That `value` has the ten significant digits that a table has. Where the next one is a 5, machines
-// may round to either side.
+// Expects the ten significant digits of a table. If the next digit is a 5, machines may round
+// either way.
 void ExpectDigits(double value, double digits) {
   const double unit = digits == 0 ? 0 : std::pow(10, std::floor(std::log10(std::fabs(digits))) - 9);
   EXPECT_NEAR(value, digits, 0.50001 * unit);
 }
 
-// p with every term of the series added, whether it still counts or not.
+// p from all terms of the series, even those that no longer change the sum.
 double PlainP(double t, std::int64_t N) {
   const std::int64_t df = N - 2;
   const bool even = df % 2 == 0;
@@ -93,7 +93,7 @@ TEST(SignificanceTest, NoCorrelationAndFewPairsGiveNoT) {
   EXPECT_GT(ComputeT(0.5, 4), 0.0);
 }
 
-TEST(SignificanceTest, ValuesOutsideTheDomainGoOn) {
+TEST(SignificanceTest, ValuesOutsideTheDomainAreDefined) {
   EXPECT_EQ(ComputeT(1.0, 30), kInfinity);
   EXPECT_TRUE(std::isnan(ComputeT(1.5, 30)));
   EXPECT_TRUE(std::isnan(ComputeP(kNaN, 1000)));
@@ -143,9 +143,8 @@ TEST(IntervalTest, FewPairs) {
   EXPECT_NEAR(ComputeInterval(0.5, kMax).hi, 0.5, 1e-8);
 }
 
-// What the window shows is fixed to the last digit, whatever computes it. The digest (FNV-1a, 64
-// bits) is that of the texts one after the other; a machine that differs in one digit of four
-// million texts fails.
+// The texts are the same on every machine, to the last digit. The digest (FNV-1a, 64 bits) covers
+// four million texts, so a machine that differs in a single digit fails.
 TEST(GridTest, EveryTextIsTheSameOnEveryMachine) {
   std::uint64_t digest = 0xCBF29CE484222325U;
   const auto add = [&](const std::string& text) {

@@ -1,4 +1,4 @@
-// The streams of the program's windows and controls, as they reach the reader.
+// The streams of the program's windows and controls, as the reader receives them.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -13,7 +13,7 @@ namespace {
 
 std::vector<std::uint64_t> taken_digests;
 
-// FNV-1a, in 64 bits, of all bytes from the length byte to the closing zero.
+// The 64-bit FNV-1a digest of all bytes from the length byte to the closing zero.
 std::uint64_t Digest(PropertyStream stream) {
   std::uint64_t digest = 0xCBF29CE484222325;
   for (const char byte : std::string_view(stream.bytes, stream.length + 2)) {
@@ -24,7 +24,7 @@ std::uint64_t Digest(PropertyStream stream) {
 
 }  // namespace
 
-// The linker takes this reader for the toolkit's, and so nothing is set here.
+// Replaces the toolkit's reader at link time and sets nothing.
 void _SetProperties(Object& /*object*/, PropertyStream stream) {
   taken_digests.push_back(Digest(stream));
 }
@@ -32,7 +32,7 @@ void _SetProperties(Object& /*object*/, PropertyStream stream) {
 namespace {
 
 TEST(StreamsTest, EachReachesTheReaderAsItWasDesigned) {
-  // In the order in which the control window, the About window and the Info window are made.
+  // In the order of creation: the control window, the About window, the Info window.
   const std::vector<std::uint64_t> kDesigned{
       0xC990486011ED7A84, 0x9A85954F47BBEC5D, 0x137C581727007A66, 0x1819A723DEF739FF,
       0x8C7D512218CA101,  0x1529E0D3D2DCC7C,  0x810FA4D76B43391C, 0x5CECC4D43F62D067,

@@ -1,4 +1,4 @@
-// Text controls: what typing accepts, what a write and a paste do, the undo history.
+// Text controls: what typing accepts, the effect of a write and a paste, the undo history.
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -20,7 +20,7 @@ namespace {
 TEST(TypingRuleTest, TheMaskIsAPrefixPattern) {
   struct Case {
     const char *mask, *before, *typed, *after;
-    // What then stands before the caret; nothing where the character is refused.
+    // The text before the caret afterwards; nothing if the character is refused.
     std::optional<std::string> result;
   };
   const Case kCases[] = {
@@ -107,7 +107,7 @@ class TextFieldTest : public testing::Test {
 
   void Press(std::string text) { field_->TakeKey(Key::Character(std::move(text))); }
 
-  // Takes down the texts that a change has been raised with; corrects one and fails at another.
+  // Records the text of each change; corrects one text and throws at another.
   struct Recorder : Object {
     void TakeChange(Ref<TextField> field) {
       changes.push_back(field->Text());
@@ -122,7 +122,7 @@ class TextFieldTest : public testing::Test {
   Ref<Recorder> recorder_ = New<Recorder>();
 };
 
-TEST_F(TextFieldTest, AWriteRaisesTheChangeInsideAndOnlyForAnotherText) {
+TEST_F(TextFieldTest, AWriteRaisesTheChangeInsideTheWriteAndOnlyForAnotherText) {
   field_->SetText("wrong");
   EXPECT_EQ(recorder_->changes, (std::vector<std::string>{"wrong", "right"}));
   EXPECT_EQ(field_->Text(), "right");
@@ -131,7 +131,7 @@ TEST_F(TextFieldTest, AWriteRaisesTheChangeInsideAndOnlyForAnotherText) {
   EXPECT_EQ(recorder_->changes.size(), 2U);
 }
 
-TEST_F(TextFieldTest, AnEditOfTheUsersRaisesTheChangeForTheSameTextToo) {
+TEST_F(TextFieldTest, AUsersEditRaisesTheChangeForTheSameTextToo) {
   field_->SetText("7");
   for (const auto& edit : {+[](TextField& field) { field.TakeKey(Key::Character("7")); },
                            +[](TextField& field) { field.UserPasted("7"); }}) {
@@ -144,7 +144,7 @@ TEST_F(TextFieldTest, AnEditOfTheUsersRaisesTheChangeForTheSameTextToo) {
   }
 }
 
-TEST_F(TextFieldTest, APasteIsOneChangeAndOneStepBack) {
+TEST_F(TextFieldTest, APasteIsOneChangeAndOneUndoStep) {
   field_->SetText("ab");
   field_->UserSelected(1, 1);
   field_->UserPasted("x\r\ny\xFFz\n\r");
@@ -155,7 +155,7 @@ TEST_F(TextFieldTest, APasteIsOneChangeAndOneStepBack) {
   EXPECT_FALSE(field_->CanUndo());
 }
 
-TEST_F(TextFieldTest, ACorrectedEditGoesBackToTheTextBeforeIt) {
+TEST_F(TextFieldTest, UndoOfACorrectedEditRestoresTheTextBeforeIt) {
   field_->SetText("before");
   field_->UserSelected(0, 6);
   field_->UserPasted("wrong");
@@ -167,7 +167,7 @@ TEST_F(TextFieldTest, ACorrectedEditGoesBackToTheTextBeforeIt) {
   EXPECT_FALSE(field_->CanUndo()) << "the program's own write cannot be undone";
 }
 
-TEST_F(TextFieldTest, AHandlerThatFailsLeavesAFieldThatGoesOn) {
+TEST_F(TextFieldTest, AFieldWorksOnAfterItsHandlerHasFailed) {
   const auto app = New<TestApplication>();
   app->takes = true;
   program_.runtime().RegisterApp(app);
@@ -179,7 +179,7 @@ TEST_F(TextFieldTest, AHandlerThatFailsLeavesAFieldThatGoesOn) {
   EXPECT_FALSE(field_->CanUndo()) << "a write outside of the user's edit is not undone";
 }
 
-// Whoever types "0,5" means ".5", whether a filter refuses the comma or the mask does.
+// "0,5" means ".5", whether a filter or the mask refuses the comma.
 TEST_F(TextFieldTest, ADigitAfterACommaAfterZerosTakesTheirPlace) {
   _SetProperties(*field_, EncodedStream<640>().Set(property::kValidationMask, ".###"));
   const auto typed = [&](std::string_view keys) {
@@ -218,7 +218,7 @@ TEST_F(TextFieldTest, ADigitAfterACommaAfterZerosTakesTheirPlace) {
   EXPECT_EQ(typed("0,5"), "05");
 }
 
-TEST_F(TextFieldTest, DeletingTakesWholeCharactersOrTheSelection) {
+TEST_F(TextFieldTest, DeletingRemovesWholeCharactersOrTheSelection) {
   field_->SetText("aé漢b");
   Press("\b");
   Press("\b");
@@ -238,7 +238,7 @@ TEST_F(TextFieldTest, DeletingTakesWholeCharactersOrTheSelection) {
   EXPECT_EQ(recorder_->changes.size(), changes);
 }
 
-TEST_F(TextFieldTest, DeletingAWordTakesTheBlanksOnTheWay) {
+TEST_F(TextFieldTest, DeletingAWordDeletesTheSpacesInBetween) {
   const Key kBackwards = Key::Character("\b");
   const Key kForwards{KeyCode::kDelete};
   const auto after = [&](Key key, std::size_t caret) {

@@ -1,4 +1,4 @@
-// The toolkit's rules for windows: the one instance, activation, focus, the end.
+// The toolkit's rules for windows: the single instance, activation, focus, closing.
 #include <gtest/gtest.h>
 
 #include "test_window.h"
@@ -9,7 +9,7 @@
 namespace vamo {
 namespace {
 
-// Bears a name that another class has.
+// A class with the name of another class.
 struct OtherWindow : Window {
   static constexpr const ClassInfo& kClass = TestWindow::kClass;
 };
@@ -35,7 +35,7 @@ TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   EXPECT_FALSE(ImplicitInstance<TestWindow>() == window);
 }
 
-TEST(WindowTest, AWindowThatIsHeldPastTheEndHasNothingOnTheDisplay) {
+TEST(WindowTest, AWindowThatOutlivesTheRunTimeHasNothingOnTheDisplay) {
   Ref<TestWindow> held;
   TestProgram outer;
   {
@@ -52,7 +52,7 @@ TEST(WindowTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
   TestProgram program;
   for (const char* text : {"x", "several"}) {
     int keys = 0;
-    // Nobody else holds it.
+    // Nothing else holds the window.
     ImplicitInstance<TestWindow>()->at_key = [&] {
       ++keys;
       program.runtime().ActiveWindow()->Close();
@@ -115,7 +115,7 @@ TEST(WindowTest, TheRestOfAGestureThatHasDismissedAWindowIsIgnored) {
   EXPECT_TRUE(next->UserBeginsPress(true));
 }
 
-TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
+TEST(WindowTest, TheFocusSkipsWhatCannotTakeIt) {
   TestProgram program;
   const auto window = ImplicitInstance<TestWindow>();
   EXPECT_THROW(program.user().Click(Role::kText, "slider"), InvalidArgumentException);
@@ -138,7 +138,7 @@ TEST(WindowTest, TheFocusPassesOverWhatCannotTakeIt) {
   EXPECT_TRUE(window->Focus() == window->field());
 }
 
-// Has a type, and is not shown by itself.
+// A window of a given type, which is not shown when it is created.
 struct PlacedWindow : Window {
   explicit PlacedWindow(WindowType its_type) : type(its_type) {}
   void Layout() override {
@@ -180,8 +180,8 @@ TEST(WindowTest, AWindowIsPlacedByWhatElseIsOnTheScreen) {
   expect(reading, Rule::kAnywhere, nullptr);
 }
 
-// On a page there is more to come to than the program.
-TEST(WindowTest, TabLeavesAtBothEndsWhereTheDisplayWantsIt) {
+// In a page Tab goes on to the rest of the page.
+TEST(WindowTest, TabLeavesTheWindowAtBothEndsIfTheDisplayWantsIt) {
   TestProgram program;
   program.display().LetTabLeave();
   const auto window = ImplicitInstance<TestWindow>();

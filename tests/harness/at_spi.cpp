@@ -1,4 +1,4 @@
-// What assistive technology sees of a program, read by way of libatspi.
+// Reads what assistive technology sees of a program, through libatspi.
 #include "at_spi.h"
 
 #include <cmath>
@@ -22,8 +22,8 @@ using Held = std::unique_ptr<T, UnrefAny>;
 template <typename T>
 using Memory = std::unique_ptr<T, Free>;
 
-// Calls an AT-SPI function that takes its error as the last argument. Throws what the error says:
-// most often that the element has gone, or that the program does not answer.
+// Calls an AT-SPI function whose last argument receives the error. Throws the message of the error:
+// usually the element no longer exists, or the program does not answer.
 template <typename Function, typename... Args>
 auto Call(Function function, Args... args) {
   GError* error = nullptr;
@@ -57,7 +57,7 @@ double Number(AtspiAccessible* accessible, Function function) {
 
 }  // namespace
 
-// What is a button by now was a push button before at-spi2 2.53.
+// Before at-spi2 2.53 the role "button" was named "push button".
 std::string Element::RoleName() const {
   const std::string name = CallForText(atspi_accessible_get_role_name, Get());
   return name == "push button" ? "button" : name;
@@ -142,7 +142,7 @@ unsigned Element::Process() const { return Call(atspi_accessible_get_process_id,
 std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted) {
   AtspiAccessible* desktop = atspi_get_desktop(0);
   if (desktop == nullptr) throw std::runtime_error("there is no accessibility bus");
-  // The library keeps what it has read until its main loop brings news; no program here runs one.
+  // The library caches what it reads until its main loop delivers changes, and no test runs that loop.
   atspi_accessible_clear_cache(desktop);
   for (const Element& application : Element(desktop).Children()) {
     try {

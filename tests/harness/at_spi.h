@@ -1,4 +1,4 @@
-// What assistive technology sees of a program, as a tree of elements.
+// A program as assistive technology sees it: a tree of elements.
 #ifndef VAMO_TESTS_HARNESS_AT_SPI_H_
 #define VAMO_TESTS_HARNESS_AT_SPI_H_
 
@@ -16,8 +16,8 @@
 
 namespace vamo {
 
-// One accessible element of a program's tree. It holds no copy of what it shows: each function asks
-// the program and throws std::runtime_error when that has gone or does not answer.
+// One accessible element of a program. It stores no copy of the element's state: each function asks
+// the program, and throws std::runtime_error if the program has ended or does not answer.
 class Element {
  public:
   explicit Element(AtspiAccessible* owned) : accessible_(owned, g_object_unref) {}
@@ -31,22 +31,22 @@ class Element {
   bool IsEnabled() const { return HasState(ATSPI_STATE_ENABLED); }
   bool IsFocused() const { return HasState(ATSPI_STATE_FOCUSED); }
   bool IsActive() const { return HasState(ATSPI_STATE_ACTIVE); }
-  // What is read out as the content: a field's text, a slider's value, else the name.
+  // The content as it is read out: the text of a field, the value of a slider, otherwise the name.
   std::string Text() const;
-  // Empty where nothing is selected or there is no text.
+  // Empty if nothing is selected or the element has no text.
   std::string SelectedText() const;
-  // The name of the element that is the caption of this one; empty where there is none.
+  // The name of the element's caption; empty if it has none.
   std::string LabelledBy() const;
-  // Of an element with a value, such as a slider.
+  // For an element with a value, such as a slider.
   double Value() const;
   double LeastValue() const;
   double GreatestValue() const;
-  // A value of the element, counted in its steps.
+  // Converts a value of the element to a number of steps.
   std::int64_t InSteps(double value) const;
   Place Extents() const;
   void Do(std::string_view action) const;
 
-  // The process of the program that it belongs to.
+  // The process id of the element's program.
   unsigned Process() const;
 
  private:
@@ -55,8 +55,8 @@ class Element {
   std::shared_ptr<AtspiAccessible> accessible_;
 };
 
-// The first program on the accessibility bus for which `wanted` is true. One that is just starting
-// or ending is left out. Throws where there is no bus.
+// The first program on the accessibility bus for which `wanted` is true. Skips programs that are
+// starting or ending. Throws if there is no bus.
 std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted);
 
 }  // namespace vamo

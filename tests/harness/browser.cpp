@@ -18,10 +18,10 @@ namespace {
 
 using nlohmann::json;
 
-// How the standard marks an element.
+// The key by which WebDriver marks an element.
 constexpr char kElement[] = "element-6066-11e4-a52e-4f735466cecf";
 
-// A port of this machine that nobody listens to.
+// A free port of this machine.
 int FreePort() {
   const int probe = socket(AF_INET, SOCK_STREAM, 0);
   sockaddr_in address{};
@@ -168,7 +168,7 @@ Chromium::~Chromium() {
   try {
     parts_->Ask("DELETE", "/session/" + parts_->session, {});
   } catch (const std::exception&) {
-    // It has gone already.
+    // The browser has already ended.
   }
 }
 

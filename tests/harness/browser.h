@@ -1,4 +1,4 @@
-// A browser that is worked through WebDriver, the standard's interface for it.
+// A browser that is operated through WebDriver.
 #ifndef VAMO_TESTS_HARNESS_BROWSER_H_
 #define VAMO_TESTS_HARNESS_BROWSER_H_
 
@@ -11,46 +11,46 @@
 
 namespace vamo {
 
-// One window of a browser without a screen. Each function throws std::runtime_error when the
-// browser refuses or has gone.
+// One window of a headless browser. Each function throws std::runtime_error if the browser refuses
+// the command or has ended.
 class Browser {
  public:
   virtual ~Browser() = default;
 
   void Open(const std::string& address);
-  // The result of the body of a JavaScript function. An element comes as a JSON object that can be
-  // passed on as an argument.
+  // Runs the body of a JavaScript function and returns its result. An element is a JSON object, which
+  // can be passed as an argument.
   nlohmann::json Run(std::string_view body,
                      const nlohmann::json& arguments = nlohmann::json::array());
-  // The same for a function that calls its last argument when it is done.
+  // The same for a function that calls its last argument when it has finished.
   nlohmann::json RunAsync(std::string_view body,
                           const nlohmann::json& arguments = nlohmann::json::array());
-  // Goes into the frame of that number in the page, for what comes then; null goes back to the
-  // page.
+  // Directs the next commands to the frame of that number in the page; null directs them to the page.
   void EnterFrame(const nlohmann::json& number);
-  // What assistive technology reads of an element.
+  // The role and the name of an element for assistive technology.
   std::string RoleOf(const nlohmann::json& element);
   std::string NameOf(const nlohmann::json& element);
 
-  // Keys of the standard: characters, and those of its private ones for keys without. The first
-  // ones are held while the last is pressed.
+  // Presses the keys of `last` while those of `held` are down. A key is its character or, for a key
+  // without one, WebDriver's private character.
   void PressKeys(const std::string& held, const std::string& last);
   void MoveMouse(int x, int y);
-  // The mouse goes down, along these points and up. A browser loses a slider between two commands.
+  // Presses the mouse button, moves through these points and releases it, in one command: between
+  // two commands a browser ends the drag of a slider.
   void DragMouse(const std::vector<std::pair<int, int>>& points);
   void TurnWheel(int x, int y, int pixels);
-  // A finger goes down, along these points and up.
+  // Touches with a finger, moves it through these points and lifts it.
   void Swipe(const std::vector<std::pair<int, int>>& points);
 
  protected:
-  // A command in both forms of the standard's interface.
+  // A command in both protocols: WebDriver over HTTP, and Marionette.
   struct Command {
     const char* method;
-    // Behind the session and, where it is about one, the element.
+    // The path after that of the session and, for a command about an element, of the element.
     const char* path;
     const char* name;
   };
-  // Does a command with its parameters, about an element where there is one.
+  // Sends a command with its parameters, for an element if one is given.
   virtual nlohmann::json Do(const Command& command, const nlohmann::json& parameters,
                             const std::string& element = {}) = 0;
 
@@ -68,15 +68,15 @@ class Browser {
   std::string ReadElement(const Command& command, const nlohmann::json& element);
 };
 
-// Chromium, by way of its driver, with the size of the page in CSS pixels.
+// Chromium, through its driver.
 class Chromium : public Browser {
  public:
   Chromium();
   ~Chromium() override;
 
-  // A command of the browser's own tools for developers.
+  // Sends a command of the browser's DevTools protocol.
   nlohmann::json DoOwn(const std::string& command, const nlohmann::json& parameters);
-  // What pages have said on the console since the last call.
+  // The lines that pages have written to the console since the last call.
   std::vector<std::string> ConsoleLines();
 
  private:
@@ -87,7 +87,7 @@ class Chromium : public Browser {
   std::unique_ptr<Parts> parts_;
 };
 
-// Firefox, which listens itself (marionette.cpp).
+// Firefox, through its own protocol, Marionette (marionette.cpp).
 class Firefox : public Browser {
  public:
   Firefox();

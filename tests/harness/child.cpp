@@ -78,8 +78,8 @@ std::optional<int> Child::ExitStatus() {
   return status_;
 }
 
-// Files, not pipes, and none of this program's own: what goes to the background, as the holder of a
-// clipboard does, would keep the end of a pipe open, and whoever reads it waiting.
+// Uses files instead of pipes: a program that goes to the background, such as xclip, would keep the
+// end of a pipe open and its reader waiting.
 Ended RunToEnd(const std::vector<std::string>& command, std::string_view input,
                const Environment& settings) {
   const File in(std::tmpfile());

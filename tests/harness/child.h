@@ -1,4 +1,4 @@
-// Programs that this one starts.
+// Child processes, and what the harness needs around them.
 #ifndef VAMO_TESTS_HARNESS_CHILD_H_
 #define VAMO_TESTS_HARNESS_CHILD_H_
 
@@ -17,10 +17,10 @@ namespace vamo {
 
 using Environment = std::map<std::string, std::string>;
 
-// A program that runs beside this one. It is killed when the object goes.
+// A child process. The destructor kills it.
 class Child {
  public:
-  // `settings` are added to the environment of this program.
+  // `settings` are added to the environment of this process.
   Child(const std::vector<std::string>& command, const Environment& settings);
   ~Child();
   Child(const Child&) = delete;
@@ -28,7 +28,7 @@ class Child {
 
   pid_t id() const { return id_; }
   bool Running();
-  // The exit status, or 256 and the signal that has ended it; nothing while it runs.
+  // The exit status, or 256 plus the signal that ended the process; nothing while it runs.
   std::optional<int> ExitStatus();
 
  private:
@@ -36,21 +36,21 @@ class Child {
   std::optional<int> status_;
 };
 
-// What has come of a program that has run to its end.
+// The result of a program that has ended.
 struct Ended {
-  // As Child::ExitStatus gives it.
+  // As from Child::ExitStatus.
   int status = -1;
   std::string out;
   std::string err;
 };
-// Runs a program whose standard input is `input`, and kills it if it takes more than a minute.
+// Runs a program with `input` as its standard input; kills it if it takes more than a minute.
 Ended RunToEnd(const std::vector<std::string>& command, std::string_view input = {},
                const Environment& settings = {});
-// What a program says on its standard output. Throws where it fails.
+// Runs a program and returns its standard output. Throws if it fails.
 std::string Output(const std::vector<std::string>& command, std::string_view input = {},
                    const Environment& settings = {});
 
-// A folder for the files of a program, which goes with the object.
+// A temporary folder. The destructor deletes it.
 class TemporaryFolder {
  public:
   TemporaryFolder();
@@ -63,7 +63,7 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-// Asks again until it is so; false when `patience` is over.
+// Asks until `so` returns true. Returns false if it does not within `patience`.
 bool Await(const std::function<bool()>& so,
            std::chrono::milliseconds patience = std::chrono::seconds(15));
 

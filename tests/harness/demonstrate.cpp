@@ -1,4 +1,4 @@
-// Works the program as a user does, says what it then shows, and takes a picture of it.
+// Operates the program as a user does, prints what it shows, and takes a picture of it.
 #include <cstdlib>
 #include <iostream>
 #include <stdexcept>
@@ -22,7 +22,7 @@ void Show(User& user, std::string_view deed) {
 }
 
 void Demonstrate(OutsideUser& user, const std::string& picture) {
-  // The splash gives way at a key, or by itself after four seconds.
+  // A key dismisses the splash, unless its four seconds are over.
   if (user.ActiveTitle().empty()) user.PressNamed("space");
   user.Click(Role::kText, "N");
   user.Type("30");

@@ -1,4 +1,4 @@
-// The desktop that a program runs on, as its user has it.
+// The desktop of a program, as a user sees and operates it.
 #ifndef VAMO_TESTS_HARNESS_DESKTOP_H_
 #define VAMO_TESTS_HARNESS_DESKTOP_H_
 
@@ -12,10 +12,10 @@
 
 namespace vamo {
 
-// A window without what the window manager draws around it. Lengths are pixels of the screen.
+// A window without its frame. Lengths are pixels of the screen.
 struct WindowOnScreen {
   unsigned long id = 0;
-  // Empty where no title bar shows one; a list of windows shows the name all the same.
+  // The title in the title bar, empty without one. A list of windows shows `name`.
   std::string title;
   std::string name;
   int x = 0;
@@ -23,36 +23,36 @@ struct WindowOnScreen {
   int width = 0;
   int height = 0;
   bool active = false;
-  // The window in front of which this one stays; 0 for none.
+  // The window that this one stays in front of; 0 for none.
   unsigned long stays_with = 0;
-  // What the window manager draws.
+  // The widths of the frame that the window manager draws.
   int frame_right = 0;
   int frame_top = 0;
 };
 
-// Watches the windows and the alerts of a desktop, and does to windows and clipboard what its user
-// can. It sends no key and no press.
+// Watches the windows and alerts of a desktop, and changes windows and clipboard as a user can. It
+// sends neither keys nor presses.
 class Desktop {
  public:
   virtual ~Desktop() = default;
 
   virtual std::vector<WindowOnScreen> WindowsOf(pid_t process) = 0;
-  // Returns when the program has read, and the window manager has dealt with, all that had been
-  // sent to them. False when one of them does not answer within a second, or the program ends.
+  // Returns when the program has read and the window manager has handled everything sent so far.
+  // Returns false if one of them does not answer within a second, or if the program ends.
   virtual bool RoundTrip(unsigned long window, const std::function<bool()>& runs) = 0;
   virtual void Activate(unsigned long window) = 0;
-  // Takes the upper left corner of the window's frame there.
+  // Moves the window so that the upper left corner of its frame is at (x, y).
   virtual void Move(unsigned long window, int x, int y) = 0;
-  // Offers a text as a selection, "clipboard" or "primary", until another program offers one.
+  // Offers a text as the selection "clipboard" or "primary", until another program offers one.
   virtual void Offer(const std::string& selection, std::string_view text) = 0;
   virtual std::string Offered(const std::string& selection) = 0;
-  // How often the bell has rung since the start; where the platform has none, never.
+  // How often the bell has rung since the start; 0 on a platform without a bell.
   virtual int Bells() = 0;
   virtual int Width() const = 0;
   virtual int Height() const = 0;
 };
 
-// The desktop that the environment names. Throws where there is none.
+// The desktop that the environment names. Throws if there is none.
 std::unique_ptr<Desktop> OpenDesktop();
 
 }  // namespace vamo

@@ -20,7 +20,7 @@ Ears::Ears() : listener_(atspi_event_listener_new(Take, this, nullptr)) {
       throw std::runtime_error("the accessibility bus passes no news on");
     }
   }
-  // What is left over from programs before.
+  // Drops events of earlier programs.
   Listen();
   notices_.clear();
   edits_.clear();
@@ -67,7 +67,7 @@ void Ears::Note(const AtspiEvent& event) {
       notices_.push_back(source.Name());
     }
   } catch (const std::runtime_error&) {
-    return;  // It has gone already.
+    return;  // The element no longer exists.
   }
 }
 

@@ -1,4 +1,4 @@
-// The ears of a user who works with a screen reader.
+// Hears what a user of a screen reader hears.
 #ifndef VAMO_TESTS_HARNESS_EARS_H_
 #define VAMO_TESTS_HARNESS_EARS_H_
 
@@ -11,8 +11,8 @@
 
 namespace vamo {
 
-// Takes down what programs tell assistive technology of their own accord, as long as it lives. To
-// miss nothing it is there before the program.
+// Records the events that programs send to assistive technology while this object lives. Create it
+// before the program, so that it misses nothing.
 class Ears {
  public:
   Ears();
@@ -20,9 +20,10 @@ class Ears {
   Ears(const Ears&) = delete;
   Ears& operator=(const Ears&) = delete;
 
-  // The notices that have come up, and what has been announced, since the last call.
+  // The notifications and announcements since the last call.
   std::vector<std::string> Notices();
-  // What has gone from and come into the text that bears a name since the last call: "-5", "+5".
+  // The edits of the text of that name since the last call: "-5" for a removed, "+5" for an inserted
+  // text.
   std::vector<std::string> Edits(std::string_view text);
 
  private:

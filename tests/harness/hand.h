@@ -1,26 +1,26 @@
-// The hand of a user, at the keyboard and the mouse.
+// A user's hand on keyboard and mouse.
 #ifndef VAMO_TESTS_HARNESS_HAND_H_
 #define VAMO_TESTS_HARNESS_HAND_H_
 
 #include <memory>
 #include <string>
 
-// The library's, whose header names more than others bear.
+// From libxdo, whose header is included only in hand.cpp because its names clash with others.
 struct xdo;
 
 namespace vamo {
 
-// Keys and mouse of the X server that every desktop here has at its bottom. An act returns when the
-// server has the events, not when a program has dealt with them.
+// Keyboard and mouse of the X server, which also underlies the Wayland compositor. An act returns
+// when the server has received the events, not when a program has handled them.
 class Hand {
  public:
-  // Throws where DISPLAY names no server.
+  // Throws if DISPLAY names no server.
   Hand();
 
-  // A combination of keys by their X names.
+  // Presses a combination of keys, given by their X names.
   void Press(const std::string& keys) const;
   void Type(const std::string& text) const;
-  // To a pixel of the screen.
+  // Moves the mouse to a pixel of the screen.
   void MoveTo(int x, int y) const;
   void PressButton() const;
   void ReleaseButton() const;

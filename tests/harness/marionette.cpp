@@ -1,5 +1,5 @@
-// Firefox by its own protocol, since not every system has the driver that others use it by: each
-// command is one of the standard with its length before it.
+// Operates Firefox through its own protocol, Marionette, because Debian 12 has no WebDriver for it.
+// A command is JSON preceded by its length.
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -27,7 +27,7 @@ struct Firefox::Parts {
     if (connection >= 0) close(connection);
   }
 
-  // Where the browser says that it listens.
+  // Connects to the port that the browser has written to its profile.
   bool Connects() {
     sockaddr_in address{};
     std::uint16_t port = 0;
@@ -51,7 +51,7 @@ struct Firefox::Parts {
     if (!Await([this] { return Connects(); }, std::chrono::seconds(60))) {
       throw std::runtime_error("Firefox does not listen");
     }
-    Read();  // It says who it is.
+    Read();  // The browser introduces itself.
   }
 
   std::string Receive(std::size_t size) {

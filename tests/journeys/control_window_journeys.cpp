@@ -1,5 +1,5 @@
-// The journeys of a user through the control window: how r and N are set, and what then shows. They
-// run on every display.
+// A user's journeys through the control window: setting r and N and reading the results. They run
+// on every display.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -15,7 +15,7 @@ const Key kTabKey = Key::Character(std::string(1, kTab));
 const Key kBackTabKey{KeyCode::kCharacter, std::string(1, kTab), true, false};
 constexpr char kNoResults[] = " |  | ";
 
-TEST(ControlWindowJourney, OpensEmptyWithTheKeysInR) {
+TEST(ControlWindowJourney, OpensEmptyWithTheFocusInR) {
   InControlWindow([](User& user) {
     EXPECT_EQ(FieldText(user, "r") + FieldText(user, "N") + FieldText(user, "Fisher's z"), "");
     EXPECT_EQ(ResultLine(user), kNoResults);
@@ -124,7 +124,7 @@ TEST(ControlWindowJourney, SlidersFollowTheKeysAndTheWheel) {
     EXPECT_EQ(FieldText(user, "r"), ".020");
     user.TurnWheel("N", -1);
     EXPECT_EQ(FieldText(user, "N"), "") << "the slider was at its end and has not moved";
-    // A slider knows nothing of what was typed.
+    // Typing does not move a slider.
     Retype(user, "N", "500");
     user.TurnWheel("N", 1);
     EXPECT_EQ(FieldText(user, "N"), "5");
@@ -160,7 +160,7 @@ TEST(ControlWindowJourney, TheWarningFollowsN) {
   });
 }
 
-// On a display with sizes, that is; the results are the same on every one.
+// The size changes only on a display with zoom. The results must be the same on every display.
 TEST(ControlWindowJourney, AtTwiceTheSizeAllIsAsBefore) {
   InControlWindow([](User& user) {
     for (int step = 0; step < 4; ++step) user.PressKey(Key::Command("+"));

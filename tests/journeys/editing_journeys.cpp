@@ -1,4 +1,4 @@
-// The journeys of a user who edits the texts of the control window: keys, pastes, the selection.
+// A user's journeys through editing the texts of the control window: keys, pastes, the selection.
 // They run on every display.
 #include <gtest/gtest.h>
 
@@ -81,7 +81,7 @@ TEST(EditingJourney, StandsAHugePaste) {
   });
 }
 
-TEST(EditingJourney, TheCaretAndTheSelectionAreTheUsers) {
+TEST(EditingJourney, TheUserMovesTheCaretAndSelects) {
   InControlWindow([](User& user) {
     Retype(user, "r", ".1");
     user.Type("3");
@@ -134,7 +134,7 @@ TEST(EditingJourney, ADecimalCommaMeansThePoint) {
   });
 }
 
-// After a move of the slider the field is full, and a key would be refused or go behind it.
+// After a drag of the slider the field is full, so a key would be refused or appended.
 TEST(EditingJourney, TheClickThatEntersAFieldSelectsItsText) {
   InControlWindow([](User& user) {
     for (const auto& [field, key, shown] : {std::tuple{"r", "4", ".4"}, {"N", "7", "7"}}) {
@@ -143,7 +143,7 @@ TEST(EditingJourney, TheClickThatEntersAFieldSelectsItsText) {
       user.Type(key);
       EXPECT_EQ(FieldText(user, field), shown);
     }
-    // Later than a double click.
+    // Too late for a double click.
     user.LetTimePass(std::chrono::milliseconds(1000));
     user.Click(Role::kText, "N");
     EXPECT_EQ(user.Sees(Role::kText, "N").selected_text, "") << "the next click places the caret";

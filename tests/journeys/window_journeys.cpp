@@ -1,4 +1,4 @@
-// The journeys of a user from window to window, to the program's end. They run on every display.
+// A user's journeys from window to window, to the end of the program. They run on every display.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -13,12 +13,12 @@ using std::chrono_literals::operator""ms;
 
 const Key kBackspaceKey = Key::Character(std::string(1, kBackspace));
 
-TEST(WindowJourney, TheSplashMakesWayAfterFourSeconds) {
+TEST(WindowJourney, TheControlWindowReplacesTheSplashAfterFourSeconds) {
   FromTheStart([](User& user) {
     user.LetTimePass(3000ms);
     EXPECT_EQ(user.Windows(), std::vector<std::string>{""});
     user.LetTimePass(1100ms);
-    // A window manager takes its time.
+    // A window manager may take a while.
     for (int i = 0; i < 10 && user.ActiveTitle() != "Vamo"; ++i) user.LetTimePass(500ms);
     EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
     EXPECT_EQ(user.ActiveTitle(), "Vamo");
@@ -46,7 +46,7 @@ TEST(WindowJourney, AboutStaysUntilItIsDismissed) {
   });
 }
 
-TEST(WindowJourney, TheTimerOfTheSplashTakesTheKeysFromNobody) {
+TEST(WindowJourney, TheTimerOfTheSplashTakesTheFocusFromNoWindow) {
   InControlWindow([](User& user) {
     user.Click(Role::kButton, "Info");
     user.LetTimePass(4500ms);
@@ -131,7 +131,7 @@ TEST(WindowJourney, ComingBackResetsTheModelBehindUnchangedControls) {
     EXPECT_EQ(FieldText(user, "r") + FieldText(user, "N") + FieldText(user, "Fisher's z"),
               ".5300.549");
     EXPECT_EQ(ResultLine(user), "3.06 | .00490 | +.170 to +.729");
-    // A change of N computes with the r of 0 that is behind it now, until r itself changes.
+    // A change of N calculates with the r of 0 that was set internally, until r itself changes.
     Retype(user, "N", "31");
     EXPECT_EQ(FieldText(user, "r"), ".5");
     EXPECT_EQ(ResultLine(user), ".00 | .99999 | -.354 to +.354");

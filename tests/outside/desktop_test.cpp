@@ -1,4 +1,4 @@
-// From outside: the program on other desktops than the tests' own, and its ends there.
+// From outside: the program with other desktop settings, its window positions and its ends.
 #include <gtest/gtest.h>
 
 #include "steps.h"
@@ -6,7 +6,7 @@
 namespace vamo {
 namespace {
 
-// The same act gives the same texts wherever the program runs.
+// The same actions must give the same texts wherever the program runs.
 void WorkTheWindow(OutsideUser& user) {
   Retype(user, "N", "30");
   Retype(user, "r", ".5");
@@ -42,7 +42,7 @@ TEST(Desktop, AtTwiceTheSize) {
   });
 }
 
-TEST(Desktop, TheMenusAreWorkedByTheirLetters) {
+TEST(Desktop, TheMenusOpenByTheirMnemonics) {
   InControlWindow({}, [](OutsideUser& user) {
     Retype(user, "r", ".5");
     user.PressKey(Key::Command("a"));
@@ -56,7 +56,7 @@ TEST(Desktop, TheMenusAreWorkedByTheirLetters) {
   });
 }
 
-TEST(Desktop, TheMiddleButtonPastesWhatIsSelectedElsewhere) {
+TEST(Desktop, TheMiddleButtonPastesTheSelectionOfAnotherProgram) {
   InControlWindow({}, [](OutsideUser& user) {
     Retype(user, "N", "30");
     user.PasteSelection(Role::kText, "r", "1.5");
@@ -74,7 +74,7 @@ void ExpectOnScreen(OutsideUser& user, const WindowOnScreen& window) {
   EXPECT_LE(window.y + window.height, user.ScreenHeight());
 }
 
-TEST(Desktop, KeysMakeTheWindowsLargerAndSmaller) {
+TEST(Desktop, KeysEnlargeAndReduceTheWindows) {
   InControlWindow({}, [](OutsideUser& user) {
     if (user.ScreenHeight() < 960) GTEST_SKIP() << "the screen is too low";
     user.PressNamed("ctrl+minus");
@@ -94,7 +94,7 @@ TEST(Desktop, KeysMakeTheWindowsLargerAndSmaller) {
 }
 
 void ExpectSameMiddle(const WindowOnScreen& window, const WindowOnScreen& other) {
-  // Menu bars and frames may be of any height and do not count.
+  // The tolerance allows for menu bars and frames of any height.
   EXPECT_NEAR(window.x + window.width / 2, other.x + other.width / 2, 2);
   EXPECT_NEAR(window.y + window.height / 2, other.y + other.height / 2, 20);
 }

@@ -1,4 +1,4 @@
-// From outside: what is wrong around the program, and what the program then does.
+// From outside: how the program copes with faults in its environment.
 #include <gtest/gtest.h>
 #include <signal.h>
 
@@ -28,14 +28,14 @@ void AwaitEnd(OutsideUser& user) {
   Await([&] { return !user.Running(); });
 }
 
-// Whether a window has more than one colour where its picture of 92 by 72 belongs.
+// Whether a window shows more than one colour in the area of its picture, 92 by 72 pixels.
 bool ShowsPicture(const WindowOnScreen& window, int left, int top) {
   const std::string place = "92x72+" + std::to_string(left) + "+" + std::to_string(top);
   return Output({"convert", "x:" + std::to_string(window.id), "-crop", place, "+repage", "-format",
                  "%k", "info:"}) != "1";
 }
 
-// The program with a picture of its own beside it.
+// A copy of the program with its own picture file.
 class Copy {
  public:
   Copy() { fs::copy_file(ProgramPath(), Program()); }
@@ -53,7 +53,7 @@ void WritePicture(const Copy& copy, std::size_t length) {
   std::ofstream(copy.Picture(), std::ios::binary) << bytes.substr(0, length);
 }
 
-TEST(Faults, APictureThatIsNotOneLeavesItsPlaceEmpty) {
+TEST(Faults, ABrokenPictureLeavesItsPlaceEmpty) {
   struct Case {
     const char* what;
     std::function<void(const Copy&)> make;
@@ -82,7 +82,7 @@ TEST(Faults, APictureThatIsNotOneLeavesItsPlaceEmpty) {
   }
 }
 
-TEST(Faults, WhatQtSaysWhileItReadsThePictureIsNoDamage) {
+TEST(Faults, AMessageOfQtWhileItReadsThePictureIsNoFault) {
   FromTheStart({{"QT_LOGGING_RULES", "qt.core.library.debug=true"}}, [](OutsideUser& user) {
     EXPECT_TRUE(ShowsPicture(user.WindowTitled(""), 104, 60));
   });
@@ -99,14 +99,14 @@ TEST(Faults, WithoutADisplayOneLineSaysWhatToDo) {
   expect_line({{"QT_QPA_PLATFORM", "nonsense"}}, "QT_QPA_PLATFORM may not fit this desktop");
 }
 
-TEST(Faults, ADisplayWithTooFewColoursIsSaidInOneLine) {
+TEST(Faults, OneLineSaysThatADisplayHasTooFewColours) {
   const Ended ended =
       RunToEnd({ProgramPath()}, {}, {{"DISPLAY", std::string(std::getenv("DISPLAY")) + ".1"}});
   EXPECT_EQ(ended.status, 1);
   EXPECT_EQ(ended.err, "vamo: the display has too few colours; it needs a depth of 15 bits.\n");
 }
 
-TEST(Faults, ADisplayThatGoesEndsTheProgram) {
+TEST(Faults, ABrokenConnectionToTheDisplayEndsTheProgram) {
   const auto journey = [](OutsideUser& user) {
     Output({"xdotool", "windowkill", std::to_string(user.WindowTitled("Vamo").id)});
     AwaitEnd(user);
@@ -114,13 +114,13 @@ TEST(Faults, ADisplayThatGoesEndsTheProgram) {
   EXPECT_EQ(InControlWindow({}, journey), 1);
 }
 
-TEST(Faults, AClipboardWhoseOwnerHangsDisturbsNobody) {
+TEST(Faults, AClipboardWhoseOwnerHangsDoesNotDelayTheProgram) {
   Child owner({"xclip", "-quiet", "-selection", "clipboard", "-i", VAMO_CHART}, {});
   const auto offers = [] {
     try {
       return !OpenDesktop()->Offered("clipboard").empty();
     } catch (const std::runtime_error&) {
-      return false;  // It has not begun to.
+      return false;  // It does not offer it yet.
     }
   };
   ASSERT_TRUE(Await(offers));
@@ -132,7 +132,7 @@ TEST(Faults, AClipboardWhoseOwnerHangsDisturbsNobody) {
   });
 }
 
-TEST(Faults, TheSystemsRequestToEndIsFollowedAtOnce) {
+TEST(Faults, TheProgramEndsAtOnceWhenTheSystemAsksForIt) {
   const auto journey = [](OutsideUser& user) {
     ExpectResultsAfterTyping(user);
     kill(user.Process(), SIGTERM);
@@ -141,7 +141,7 @@ TEST(Faults, TheSystemsRequestToEndIsFollowedAtOnce) {
   EXPECT_EQ(InControlWindow({}, journey), 256 + SIGTERM);
 }
 
-TEST(Faults, ClosedStandardStreamsAreNobodyElses) {
+TEST(Faults, ClosedStandardStreamsAreNotReused) {
   const auto journey = [](OutsideUser& user) {
     const fs::path files = "/proc/" + std::to_string(user.Process()) + "/fd";
     for (const char* stream : {"0", "1", "2"}) {
@@ -154,7 +154,7 @@ TEST(Faults, ClosedStandardStreamsAreNobodyElses) {
   EXPECT_EQ(InControlWindow({}, journey, without), 0);
 }
 
-TEST(Faults, TwoProgramsBesideEachOtherKeepTheirOwnNumbers) {
+TEST(Faults, TwoProgramsAtTheSameTimeKeepTheirOwnNumbers) {
   InControlWindow({}, [](OutsideUser& first) {
     ExpectResultsAfterTyping(first);
     const auto journey = [](OutsideUser& second) {

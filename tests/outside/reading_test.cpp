@@ -25,8 +25,8 @@ std::ostream& operator<<(std::ostream& stream, const ReadOut& read) {
                 << (read.showing ? ")" : ", hidden)");
 }
 
-// All that is read out of the active window, in alphabetical order; boxes, pictures and hidden
-// scroll bars, which have nothing to say, are left out.
+// Everything that is read out of the active window, in alphabetical order, without boxes, pictures
+// and hidden scroll bars, which have no text.
 std::vector<ReadOut> ReadAll(OutsideUser& user) {
   std::vector<ReadOut> all;
   for (const Element& element : user.Elements()) {
@@ -74,7 +74,7 @@ TEST(Reading, TheControlWindow) {
   });
 }
 
-TEST(Reading, AnEditIsWhatHasGoneAndWhatHasCome) {
+TEST(Reading, AnEditIsReadAsTheTextsRemovedAndInserted) {
   using Edits = std::vector<std::string>;
   InControlWindow({}, [](OutsideUser& user) {
     Retype(user, "r", ".355");

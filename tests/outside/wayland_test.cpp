@@ -1,4 +1,4 @@
-// From outside: the program on a Wayland compositor, as far as that differs from an X server.
+// From outside: the program on a Wayland compositor, where it differs from an X server.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -8,13 +8,13 @@
 namespace vamo {
 namespace {
 
-// Nothing tells when a program has dealt with a key.
+// Waits for the text, because a Wayland client cannot learn when another program has handled a key.
 template <class Look>
 void ExpectSoon(const std::string& expected, const Look& look) {
   EXPECT_TRUE(Await([&] { return look() == expected; })) << look();
 }
 
-TEST(Wayland, TheProgramIsWorkedAsOnAnXServer) {
+TEST(Wayland, TheProgramWorksAsOnAnXServer) {
   const auto journey = [](OutsideUser& user) {
     user.Click(Role::kText, "N");
     user.Type("30");

@@ -1,4 +1,4 @@
-// How the page looks, and how it gets on with what is around it: screens, other pages, servers.
+// How the page looks, and how it fits into its environment: screens, course pages, servers.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -21,7 +21,7 @@ namespace {
 
 using nlohmann::json;
 
-// A page of the test's own.
+// Opens a page that the test writes.
 void OpenHost(const std::string& html) {
   const std::filesystem::path host = std::filesystem::temp_directory_path() / "vamo-host.html";
   std::ofstream(host) << html;
@@ -54,7 +54,7 @@ TEST_F(PageTest, TwoCopiesInFramesKeepTheirNumbersAndLetTabThrough) {
   browser().Run("document.querySelector('input').focus();");
   browser().PressKeys("", "5");
   EXPECT_EQ(browser().Run("return document.querySelector('input').value;"), ".5");
-  // Over N and the two sliders.
+  // Past N and the two sliders.
   for (int stops = 0; stops < 4; ++stops) browser().PressKeys("", "\uE004");
   browser().EnterFrame(nullptr);
   EXPECT_EQ(
@@ -64,8 +64,8 @@ TEST_F(PageTest, TwoCopiesInFramesKeepTheirNumbersAndLetTabThrough) {
   EXPECT_EQ(browser().Run("return document.querySelector('input').value;"), "");
 }
 
-// The sizes are those of phones, of one with its keyboard on the screen, of tablets, and of a page
-// that the browser has made four times as large.
+// The sizes of phones, of one with an open on-screen keyboard, of tablets, and of a page at a
+// browser zoom of 400%.
 TEST_F(PageTest, FlowsOnNarrowScreensAndForFingers) {
   for (const auto& [width, height, fits] : {std::tuple{320, 568, true},
                                             {360, 640, true},
@@ -137,7 +137,7 @@ TEST_F(PageTest, AFingerSlidesScrollsAndTypes) {
   EXPECT_NEAR(value(), .5, .03) << "first down and then sideways";
 }
 
-TEST_F(PageTest, TextsStandOutFromTheWindow) {
+TEST_F(PageTest, TextsHaveEnoughContrast) {
   PageUser user = InControlWindow();
   Retype(user, "N", "3");
   ASSERT_TRUE(Warned(user));
@@ -171,7 +171,7 @@ TEST_F(PageTest, NarrowsATextAsLongAsItIsTooWide) {
   EXPECT_EQ(width_when_it_takes(60), 60);
 }
 
-TEST_F(PageTest, NothingButTheAnnouncementsIsSpokenByItself) {
+TEST_F(PageTest, OnlyAnnouncementsAreLiveRegions) {
   PageUser user = InControlWindow();
   const json tree = browser().DoOwn("Accessibility.getFullAXTree", json::object());
   std::vector<std::string> live;
@@ -213,11 +213,11 @@ TEST_F(PageTest, LetsNothingInOrOut) {
                 "new Image().src = 'http://localhost/';"
                 "fetch('http://localhost/').catch(() => {});"),
             json({"connect-src", "frame-src", "img-src", "script-src-elem", "style-src-elem"}));
-  // The browser says so, too.
+  // The browser also reports this on the console.
   browser().ConsoleLines();
 }
 
-TEST_F(PageTest, FlashesWhereMotionIsWelcome) {
+TEST_F(PageTest, FlashesUnlessMotionIsToBeReduced) {
   for (const char* motion : {"no-preference", "reduce"}) {
     browser().DoOwn("Emulation.setEmulatedMedia",
                     {{"features", {{{"name", "prefers-reduced-motion"}, {"value", motion}}}}});
@@ -228,7 +228,7 @@ TEST_F(PageTest, FlashesWhereMotionIsWelcome) {
   }
 }
 
-TEST_F(PageTest, AnErrorIsOneLineAndTheEnd) {
+TEST_F(PageTest, AnErrorPrintsOneLineAndEndsTheProgram) {
   struct Case {
     const char* damage;
     Key key;
@@ -268,7 +268,7 @@ TEST_F(PageTest, SaysWhyItDoesNotRun) {
   browser().Open(PageAddress());
   EXPECT_EQ(says(), "Vamo computes in the page ");
   browser().DoOwn("Emulation.setScriptExecutionDisabled", {{"value", false}});
-  // Those of a server hold beside the page's own.
+  // The content policies of a server apply in addition to the page's own.
   for (const auto& [policy, sentence] :
        {std::pair{"default-src 'self'", "Vamo computes in the page "},
         {"script-src 'unsafe-inline'", "Vamo is kept from computin"}}) {
@@ -282,8 +282,8 @@ TEST_F(PageTest, SaysWhyItDoesNotRun) {
   browser().ConsoleLines();
 }
 
-// Which goes on for longer than the splash shows.
-TEST_F(PageTest, LeavesTheKeysToTheCoursePageAroundIt) {
+// Also after the splash has ended by itself.
+TEST_F(PageTest, LeavesTheFocusToTheCoursePageAroundIt) {
   OpenHost("<textarea></textarea><iframe src='" + PageAddress() +
            "' width=600 height=500></iframe>");
   browser().Run("document.querySelector('textarea').focus();");
@@ -306,11 +306,11 @@ TEST_F(PageTest, LeavesTheKeysToTheCoursePageAroundIt) {
       << "a press in it is what takes the keys there";
 }
 
-TEST_F(PageTest, GoesOnWhereOthersWorkOnThePage) {
+TEST_F(PageTest, SurvivesTranslatorsForeignErrorsAndSaving) {
   PageUser user = InControlWindow();
   Retype(user, "N", "30");
   Retype(user, "r", ".4");
-  // As a translator does, and then another script fails.
+  // Does what a translator does; then another script fails.
   browser().Run(
       "for (const output of document.querySelectorAll('output')) {"
       "  const font = document.createElement('font');"
@@ -324,10 +324,10 @@ TEST_F(PageTest, GoesOnWhereOthersWorkOnThePage) {
   EXPECT_EQ(browser().Run("return getComputedStyle(document.querySelector('.text')).userSelect;"),
             "none");
   browser().ConsoleLines();
-  // What Ctrl+S saves.
+  // Opens a copy as Ctrl+S saves it.
   OpenHost(browser().Run("return document.documentElement.outerHTML;"));
   EXPECT_EQ(browser().Run("return document.querySelectorAll('.window').length;"), 1);
-  // The styles that have been saved are not the page's own.
+  // The page's content policy refuses the saved styles, which the console reports.
   browser().ConsoleLines();
 }
 

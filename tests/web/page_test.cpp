@@ -1,4 +1,4 @@
-// The journeys in a page, and what no other display has.
+// The journeys in a page, and what only the page has.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -16,7 +16,7 @@ using nlohmann::json;
 constexpr char kHasEnded[] =
     "const end = document.querySelector('.end'); return end && end.textContent;";
 
-TEST_F(PageTest, TakesWhatIsComposedOrComesFromAKeyboardOnTheScreen) {
+TEST_F(PageTest, TakesCompositionsAndOnScreenKeyboards) {
   PageUser user = InControlWindow();
   browser().DoOwn("Input.imeSetComposition",
                   {{"text", "3"}, {"selectionStart", 1}, {"selectionEnd", 1}});
@@ -25,7 +25,7 @@ TEST_F(PageTest, TakesWhatIsComposedOrComesFromAKeyboardOnTheScreen) {
   browser().DoOwn("Input.insertText", {{"text", "x"}});
   EXPECT_EQ(FieldText(user, "r"), ".37") << "the filter of r holds for it too";
   EXPECT_EQ(user.Beeps(), 1);
-  // This one changes the field before the page hears of it.
+  // This command changes the field before the page gets an event.
   browser().Run("document.execCommand('delete');");
   EXPECT_EQ(FieldText(user, "r"), ".3");
   EXPECT_EQ(FieldText(user, "Fisher's z"), "0.310");
@@ -46,8 +46,8 @@ TEST_F(PageTest, TakesWhatIsComposedOrComesFromAKeyboardOnTheScreen) {
   EXPECT_EQ(FieldText(user, "N"), "27") << "a correction is about a part of the text";
 }
 
-// Synthetic, since no tool has a layout with dead keys or a decimal comma.
-TEST_F(PageTest, TellsTheKeysAndPressesOfAllKinds) {
+// The events are synthetic, because WebDriver has no layout with dead keys or a decimal comma.
+TEST_F(PageTest, ReportsKeysAndPressesOfAllKinds) {
   const auto press = [&](const char* event, const json& what) {
     browser().Run(
         "const [name, what] = arguments;"
@@ -82,7 +82,7 @@ TEST_F(PageTest, TellsTheKeysAndPressesOfAllKinds) {
   EXPECT_EQ(user.Beeps(), 0) << "a keyboard on the screen sends an edit, too";
 }
 
-TEST_F(PageTest, KeepsCaretAndKeysFromOneWindowToTheNext) {
+TEST_F(PageTest, KeepsTheCaretAndLosesNoKeyBetweenWindows) {
   PageUser user = InControlWindow();
   Retype(user, "N", "12");
   const Place field = user.Find(Role::kText, "N").Extents();
@@ -91,7 +91,7 @@ TEST_F(PageTest, KeepsCaretAndKeysFromOneWindowToTheNext) {
   ASSERT_EQ(user.ActiveTitle(), "Info");
   EXPECT_EQ(browser().Run("return document.querySelector('[aria-keyshortcuts=F1]') !== null;"),
             true);
-  // Two keys before the first has had its effect.
+  // Sends the second key before the first one has taken effect.
   browser().Run(
       "for (const key of ['Escape', 'F1']) (document.activeElement || document).dispatchEvent("
       "    new KeyboardEvent('keydown', {key, bubbles: true, cancelable: true}));");
@@ -102,7 +102,7 @@ TEST_F(PageTest, KeepsCaretAndKeysFromOneWindowToTheNext) {
   EXPECT_EQ(FieldText(user, "N"), "312");
 }
 
-// As speech control does, and what fills in forms.
+// Speech control and form fillers set a value in this way.
 TEST_F(PageTest, TakesAValueThatIsSetFromOutside) {
   PageUser user = InControlWindow();
   for (const auto& [value, shown, z] :
@@ -148,7 +148,7 @@ TEST_F(PageTest, LeavesTheBrowserItsOwnKeysAndItsWheel) {
       << "there is nothing to select beside a slider";
 }
 
-TEST_F(PageTest, CopiesAndPastesByTheMenusAsFarAsTheBrowserAllows) {
+TEST_F(PageTest, CopiesAndPastesByMenuAsFarAsTheBrowserAllows) {
   PageUser user = InControlWindow();
   user.Type("5");
   user.PressKey(Key::Command("a"));
@@ -173,7 +173,7 @@ TEST_F(PageTest, CopiesAndPastesByTheMenusAsFarAsTheBrowserAllows) {
   EXPECT_EQ(user.Clipboard(), "before") << "neither what has been refused nor nothing";
 }
 
-TEST_F(PageTest, TheMenusAreWorkedByTheKeyboardAlone) {
+TEST_F(PageTest, TheMenusWorkByKeyboardAlone) {
   PageUser user = InControlWindow();
   user.Type("5");
   for (const char* key : {"F10", "Right", "Right", "Down", "Down"}) user.PressNamed(key);
@@ -188,7 +188,7 @@ TEST_F(PageTest, TheMenusAreWorkedByTheKeyboardAlone) {
   EXPECT_EQ(user.ActiveTitle(), "") << "the splash";
 }
 
-TEST_F(PageTest, AMenuClosesByAPressElsewhereAndIsOpenedByEveryKindOfClick) {
+TEST_F(PageTest, APressElsewhereClosesAMenuAndEveryKindOfClickOpensIt) {
   PageUser user = InControlWindow();
   const auto is_open = [&]() -> bool {
     return browser().Run("return !!document.querySelector('[aria-expanded=true]');");

@@ -12,7 +12,7 @@ namespace {
 
 using nlohmann::json;
 
-// Listens for what is heard and not seen. The page has opened just before.
+// Records beeps, flashes and announcements from the time when the page has just opened.
 constexpr std::string_view kListen = R"(
   window.heard = {beeps: 0, flashes: 0, sentences: []};
   const make = AudioContext.prototype.createOscillator;
@@ -34,7 +34,7 @@ constexpr std::string_view kListen = R"(
   }).observe(document.getElementById('vamo'), {childList: true, subtree: true});
 )";
 
-// The windows with their menus and controls.
+// Reads the windows with their menus and controls.
 constexpr std::string_view kLook = R"(
   const look = (element, children) => {
     const box = element.getBoundingClientRect();
@@ -72,7 +72,7 @@ constexpr std::string_view kLook = R"(
   });
 )";
 
-// The names that the standard has for keys without a character, by their X names.
+// The code that WebDriver uses for a key without a character, by the key's X name.
 std::string KeyNamed(const std::string& name) {
   static const std::map<std::string, std::string> kKeys{
       {"BackSpace", "\uE003"}, {"Tab", "\uE004"},   {"Return", "\uE006"}, {"shift", "\uE008"},
@@ -102,7 +102,7 @@ std::string SeenElement::RoleName() const {
   return found == kNames.end() ? "" : found->second;
 }
 
-// A label is read by its text, as everywhere.
+// The name of a label is its text, as on the other displays.
 std::string SeenElement::Name() const {
   return RoleName() == "label" ? Text() : user_->RoleAndName(*look_).second;
 }
@@ -143,13 +143,13 @@ std::pair<std::string, std::string> PageUser::RoleAndName(const json& look) {
   const std::string key = look.at("key");
   const auto known = read_.find(key);
   if (known != read_.end()) return known->second;
-  // What does not show is not read.
+  // Assistive technology does not read hidden elements.
   if (!look.at("showing").get<bool>()) return {"label", ""};
   const json& element = look.at("element");
   return read_[key] = {browser_.RoleOf(element), browser_.NameOf(element)};
 }
 
-// On the way round, Tab leaves the program for the browser and comes back by the menus.
+// Tab also visits the browser and the menus before it returns to the controls; this skips them.
 void PageUser::PressKey(const Key& key) {
   ScreenUser::PressKey(key);
   if (key.text != std::string(1, kTab)) return;
@@ -253,7 +253,7 @@ std::optional<SeenElement> PageUser::Application() {
   return SeenElement(*this, std::make_shared<const json>(std::move(look)));
 }
 
-// What has been posted has its turn, and what that has posted.
+// Lets posted events run, and the events that these post.
 void PageUser::Settle() {
   browser_.RunAsync(
       "const done = arguments[0]; setTimeout(() => setTimeout(() => setTimeout(done, 0), 0), 0);");
