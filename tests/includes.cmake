@@ -1,4 +1,4 @@
-# Fails where a room includes from one that it does not stand on. Usage: cmake -D ROOT=folder -P includes.cmake
+# Fails if a folder includes from one that it must not depend on. Usage: cmake -D ROOT=folder -P includes.cmake
 set(toolkit "toolkit/[a-z0-9_]+\\.h")
 set(toolkit/object "${toolkit}|toolkit/object/")
 set(toolkit/runtime "${toolkit/object}|toolkit/runtime/")
@@ -12,20 +12,20 @@ set(displays "toolkit/")
 set(displays/headless "displays/(headless/|user\\.h)|toolkit/")
 set(displays/qt "displays/qt/|toolkit/")
 set(displays/web "displays/web/|toolkit/")
-# It knows what a user sees and does, and nothing of how the program is made.
+# The harness knows what a user sees and does, and nothing about the program's code.
 set(tests/harness "[a-z_]+\\.h|displays/user\\.h|toolkit/utf8\\.h")
-foreach(room
+foreach(folder
         toolkit toolkit/object toolkit/runtime toolkit/control toolkit/text toolkit/window
         stats controlwnd shell displays displays/headless displays/qt displays/web tests/harness)
-  file(GLOB sources RELATIVE ${ROOT} ${ROOT}/${room}/*.h ${ROOT}/${room}/*.cpp)
-  # The programs, which stand above all rooms.
+  file(GLOB sources RELATIVE ${ROOT} ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)
+  # The main programs may include from every folder.
   list(REMOVE_ITEM sources shell/main.cpp shell/web_main.cpp)
   if(NOT sources)
-    message(SEND_ERROR "${room}: no sources")
+    message(SEND_ERROR "${folder}: no sources")
   endif()
   foreach(source IN LISTS sources)
     file(STRINGS ${ROOT}/${source} includes REGEX "^#include \"")
-    list(FILTER includes EXCLUDE REGEX "^#include \"(${${room}})")
+    list(FILTER includes EXCLUDE REGEX "^#include \"(${${folder}})")
     foreach(include IN LISTS includes)
       message(SEND_ERROR "${source}: ${include}")
     endforeach()

@@ -1,4 +1,4 @@
-// What the tests of the Qt display have in common.
+// Steps that the tests of the Qt display share.
 #ifndef VAMO_TESTS_QT_STEPS_H_
 #define VAMO_TESTS_QT_STEPS_H_
 
@@ -8,7 +8,7 @@
 
 namespace vamo {
 
-// The widget of that class and that name for a screen reader in the active window.
+// The widget of that class and accessible name in the active window.
 template <class Widget>
 Widget& Named(const char* accessible_name) {
   for (auto* widget : QApplication::activeWindow()->findChildren<Widget*>()) {

@@ -1,4 +1,4 @@
-// A run time of a test's own, on the display without pixels.
+// A run time for one test, on the headless display.
 #ifndef VAMO_TESTS_TEST_PROGRAM_H_
 #define VAMO_TESTS_TEST_PROGRAM_H_
 
@@ -11,7 +11,7 @@
 
 namespace vamo {
 
-// Made at the start of a test and gone with it, with everything in it.
+// Created at the start of a test and destroyed at its end, with everything in it.
 class TestProgram {
  public:
   TestProgram() : TestProgram(std::make_unique<HeadlessDisplay>()) {}

@@ -17,7 +17,7 @@
 
 namespace vamo {
 
-// Handlers, and what has come to them.
+// Handlers, and a list of their calls.
 struct Log : Object {
   bool Pass() {
     entries.push_back("pass");
@@ -32,7 +32,7 @@ struct Log : Object {
   std::vector<std::string> entries;
 };
 
-// With a control of each kind that takes input, each named as its class.
+// A window with one control of each kind that takes input, each named after its class.
 class TestWindow : public Window {
  public:
   static inline const ClassInfo kClass{"TestWindow.TestWindow", &Window::kClass, {}};

@@ -142,7 +142,8 @@ unsigned Element::Process() const { return Call(atspi_accessible_get_process_id,
 std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted) {
   AtspiAccessible* desktop = atspi_get_desktop(0);
   if (desktop == nullptr) throw std::runtime_error("there is no accessibility bus");
-  // The library caches what it reads until its main loop delivers changes, and no test runs that loop.
+  // The library caches what it reads until its main loop delivers changes, and no test runs that
+  // loop.
   atspi_accessible_clear_cache(desktop);
   for (const Element& application : Element(desktop).Children()) {
     try {

@@ -18,14 +18,15 @@ class Browser {
   virtual ~Browser() = default;
 
   void Open(const std::string& address);
-  // Runs the body of a JavaScript function and returns its result. An element is a JSON object, which
-  // can be passed as an argument.
+  // Runs the body of a JavaScript function and returns its result. An element is a JSON object,
+  // which can be passed as an argument.
   nlohmann::json Run(std::string_view body,
                      const nlohmann::json& arguments = nlohmann::json::array());
   // The same for a function that calls its last argument when it has finished.
   nlohmann::json RunAsync(std::string_view body,
                           const nlohmann::json& arguments = nlohmann::json::array());
-  // Directs the next commands to the frame of that number in the page; null directs them to the page.
+  // Directs the next commands to the frame of that number in the page; null directs them to the
+  // page.
   void EnterFrame(const nlohmann::json& number);
   // The role and the name of an element for assistive technology.
   std::string RoleOf(const nlohmann::json& element);

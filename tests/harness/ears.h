@@ -22,8 +22,8 @@ class Ears {
 
   // The notifications and announcements since the last call.
   std::vector<std::string> Notices();
-  // The edits of the text of that name since the last call: "-5" for a removed, "+5" for an inserted
-  // text.
+  // The edits of the text of that name since the last call: "-5" for a removed, "+5" for an
+  // inserted text.
   std::vector<std::string> Edits(std::string_view text);
 
  private:

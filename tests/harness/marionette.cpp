@@ -57,7 +57,7 @@ struct Firefox::Parts {
   std::string Receive(std::size_t size) {
     std::string data(size, 0);
     if (recv(connection, data.data(), size, MSG_WAITALL) != static_cast<ssize_t>(size)) {
-      throw std::runtime_error("Firefox has gone");
+      throw std::runtime_error("Firefox has ended");
     }
     return data;
   }
@@ -73,7 +73,7 @@ struct Firefox::Parts {
     const std::string framed = std::to_string(sent.size()) + ":" + sent;
     if (send(connection, framed.data(), framed.size(), MSG_NOSIGNAL) !=
         static_cast<ssize_t>(framed.size())) {
-      throw std::runtime_error("Firefox has gone");
+      throw std::runtime_error("Firefox has ended");
     }
     const json answer = Read();
     if (!answer.at(2).is_null()) {

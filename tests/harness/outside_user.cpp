@@ -19,8 +19,8 @@ OutsideUser::OutsideUser(Child& program, Desktop& desktop, Ears& ears)
   AwaitRest();
 }
 
-// A logical pixel of the program may be several of the screen, and on Wayland no program knows
-// where its windows are.
+// Converts between the program's logical pixels and the screen's pixels, relative to the window: on
+// Wayland a program does not know the positions of its windows.
 void OutsideUser::MoveTo(int x, int y) {
   const Place content = Frame().Extents();
   const WindowOnScreen window = WindowTitled(ActiveTitle());
@@ -42,7 +42,7 @@ void OutsideUser::Close(std::string_view title) {
 
 void OutsideUser::ClickCloseButton(std::string_view title) {
   const WindowOnScreen window = WindowTitled(title);
-  // The window manager puts it at the right end of the title bar, as wide as the bar is high.
+  // The button is at the right end of the title bar and as wide as the bar is high.
   const int half = window.frame_top / 2;
   hand_.MoveTo(window.x + window.width + window.frame_right - half, window.y - half);
   Act([this] { hand_.Click(1); });
@@ -86,7 +86,7 @@ std::optional<Element> OutsideUser::Application() {
   return application_;
 }
 
-// Asking for them takes a while; as long as the windows are the same, so are their elements.
+// Reading the elements takes a while, so they are kept as long as the windows stay the same.
 std::vector<Element> OutsideUser::Elements() {
   if (elements_.empty()) elements_ = ScreenUser::Elements();
   return elements_;
@@ -100,7 +100,7 @@ bool OutsideUser::IsSettled() {
   try {
     frames_ = ReadFrames();
   } catch (const std::runtime_error&) {
-    return false;  // A window has gone between two questions about it.
+    return false;  // A window was closed between two requests.
   }
   std::vector<std::string> titles;
   std::optional<std::string> active;
@@ -113,7 +113,8 @@ bool OutsideUser::IsSettled() {
          active.value_or("") == frames_.active_title;
 }
 
-// What is settled twice has stayed so while the window manager had its turn.
+// Waits until two checks in a row find the program settled, with a turn of the window manager
+// between them.
 void OutsideUser::AwaitRest() {
   const std::vector<std::string> titles = frames_.titles;
   const std::string active = frames_.active_title;

@@ -1,4 +1,4 @@
-// A user who knows only the running program: what is on the screen, and what is read out of it.
+// A user who knows only the running program: what is on its screen and what a screen reader reads.
 #ifndef VAMO_TESTS_HARNESS_OUTSIDE_USER_H_
 #define VAMO_TESTS_HARNESS_OUTSIDE_USER_H_
 
@@ -19,8 +19,8 @@
 
 namespace vamo {
 
-// Works a program by keys and mouse and reads it as assistive technology does.
-// It knows nothing of how the program is made, and does not judge what it sees.
+// Operates a program with keys and mouse and reads it as assistive technology does. It knows
+// nothing about the program's code and checks nothing.
 class OutsideUser final : public ScreenUser<Element> {
  public:
   // Waits until the program shows its first window.
@@ -29,7 +29,8 @@ class OutsideUser final : public ScreenUser<Element> {
   void SetClipboard(std::string_view text) override { desktop_.Offer("clipboard", text); }
   void Close(std::string_view title) override;
   void ActivateWindow(std::string_view title) override;
-  // Time goes on while the user looks: waits with no act between them count from the last act.
+  // Real time also passes while the user looks, so consecutive waits without an act between them
+  // are measured from the last act.
   void LetTimePass(std::chrono::milliseconds time) override;
   std::string Clipboard() override { return desktop_.Offered("clipboard"); }
   int Beeps() override { return desktop_.Bells(); }
@@ -37,12 +38,12 @@ class OutsideUser final : public ScreenUser<Element> {
   std::vector<Element> Elements() override;
   bool Running() override { return program_.Running(); }
 
-  // What other displays have no word for.
+  // Only for this user:
   //
-  // What a screen reader is told that the user has done to a field's text since the last call.
+  // The edits of a field's text that a screen reader was told of since the last call.
   std::vector<std::string> HearsEdits(std::string_view field) { return ears_.Edits(field); }
   void ClickCloseButton(std::string_view title);
-  // Takes the upper left corner of the window's frame there.
+  // Moves the window so that the upper left corner of its frame is at (x, y).
   void MoveWindow(std::string_view title, int x, int y);
   void PasteSelection(Role role, std::string_view name, std::string_view text);
   WindowOnScreen WindowTitled(std::string_view title);
@@ -70,14 +71,14 @@ class OutsideUser final : public ScreenUser<Element> {
   const Hand hand_;
   Ears& ears_;
   std::optional<Element> application_;
-  // As they were when the program had come to rest.
+  // The windows as they were when the program had settled.
   Frames frames_;
   std::vector<Element> elements_;
   std::chrono::steady_clock::time_point now_;
 };
 
-// Runs a program from its start to its end, with settings in its environment, and gives its exit
-// status; kStillRunning when the journey has left it running.
+// Runs a program from its start to its end, with settings in its environment, and returns its exit
+// status; kStillRunning if it is still running after the journey.
 int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
                    const std::vector<std::string>& command);
 

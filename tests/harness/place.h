@@ -3,7 +3,7 @@
 
 namespace vamo {
 
-// Where an element is, in logical pixels of the program's window or of the page.
+// The position and size of an element, in logical pixels of the program's window or of the page.
 struct Place {
   int x = 0;
   int y = 0;

@@ -37,7 +37,7 @@ std::string NameOf(const Key& key) {
 }
 
 int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int width) {
-  // 15 pixels of 450, and at each size of the windows the same share.
+  // 15 of 450 pixels, and the same share at every zoom.
   const int knob = width / 30;
   const auto offset = (position - least) * (width - knob) / (greatest - least);
   return knob / 2 + static_cast<int>(offset);

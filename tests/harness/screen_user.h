@@ -1,4 +1,4 @@
-// What the users of a screen have in common, whatever brings them to it.
+// The common part of all users who operate a screen.
 #ifndef VAMO_TESTS_HARNESS_SCREEN_USER_H_
 #define VAMO_TESTS_HARNESS_SCREEN_USER_H_
 
@@ -16,19 +16,19 @@
 
 namespace vamo {
 
-// The name that X gives to a key without a printable character, or to one that is held with others,
-// such as "ctrl+shift+Left". Empty for a key that only types its character.
+// The X name of a key without a printable character, or of a combination of keys, such as
+// "ctrl+shift+Left". Empty for a key that only types its character.
 std::string NameOf(const Key& key);
-// Where the middle of a slider's knob is at a position, from the left of its box.
+// The distance from the left of a slider's box to the middle of its knob at a position.
 int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int width);
-// What is read out as text, slider, button or label, and no other role.
+// The role with that name; nothing if it is not that of a text, slider, button or label.
 std::optional<Role> RoleNamed(std::string_view role_name);
 [[noreturn]] void FailToFind(std::string_view what);
 
-// A user with a keyboard, a mouse and a screen reader. Everything that a user does is made of a few
-// acts of the hand, after each of which the program comes to rest, and of a look at the tree of
-// accessible elements. An Element has the functions of Element in at_spi.h, is cheap to copy, and
-// throws std::runtime_error when what it stands for has gone.
+// A user with a keyboard, a mouse and a screen reader. Everything that the user does consists of a
+// few acts, after each of which the program settles, and of reading the tree of accessible
+// elements. An Element has the functions of Element in at_spi.h, is cheap to copy, and throws
+// std::runtime_error when its element no longer exists.
 template <class Element>
 class ScreenUser : public User {
  public:
@@ -37,7 +37,7 @@ class ScreenUser : public User {
     if (name.empty()) return Act([&] { TypePrintable(key.text); });
     PressNamed(name);
   }
-  // A combination of keys by their X names.
+  // Presses a combination of keys, given by their X names.
   void PressNamed(const std::string& keys) {
     Act([&] { PressCombination(keys); });
   }
@@ -68,7 +68,7 @@ class ScreenUser : public User {
   bool Choose(std::string_view path) override {
     const Element item = Open(path);
     const bool enabled = item.IsEnabled();
-    // A second press on its title closes a menu.
+    // A second press on the title of a menu closes it.
     ClickOn(enabled ? item : MenuTitle(path));
     return enabled;
   }
@@ -93,7 +93,7 @@ class ScreenUser : public User {
 
   // The active window.
   Element Frame() { return Look().active.value(); }
-  // The element of the active window that bears a name or a description.
+  // The element of the active window with that name or description.
   Element Find(Role role, std::string_view name) {
     for (const Element& element : Elements()) {
       if (RoleNamed(element.RoleName()) == role && element.Name() == name) return element;
@@ -106,7 +106,7 @@ class ScreenUser : public User {
     }
     FailToFind(description);
   }
-  // Everything in the active window, whether it shows or not, menus left out.
+  // All elements of the active window, also hidden ones, except menus.
   virtual std::vector<Element> Elements() {
     std::vector<Element> all;
     if (const std::optional<Element> window = Look().active) Collect(*window, all);
@@ -121,20 +121,20 @@ class ScreenUser : public User {
     std::optional<Element> active;
   };
 
-  // What each kind of user does in a way of its own. The acts do not wait for the program.
+  // Each kind of user implements these. The acts do not wait for the program.
   virtual void PressCombination(const std::string& keys) = 0;
   virtual void TypePrintable(std::string_view text) = 0;
-  // To a place as elements tell it.
+  // Moves the mouse to a point in the coordinates of the elements.
   virtual void MoveTo(int x, int y) = 0;
   virtual void PressMouse() = 0;
   virtual void ReleaseMouse() = 0;
   virtual void Scroll(int notches) = 0;
-  // Nothing when the program has ended.
+  // Nothing if the program has ended.
   virtual std::optional<Element> Application() = 0;
   virtual bool Running() = 0;
-  // Waits until the program and its desktop have nothing more to do.
+  // Waits until the program and its desktop have nothing left to do.
   virtual void Settle() = 0;
-  // As the windows are now, or as they were when they had come to rest, where asking costs much.
+  // The windows as they are now or, if reading them is slow, as they were when they had settled.
   virtual Frames Look() { return ReadFrames(); }
 
   template <class Deed>
@@ -221,7 +221,7 @@ class ScreenUser : public User {
     }
     Act([this] { ReleaseMouse(); });
   }
-  // Ends a drag, where a position is narrower than a pixel, by the arrow keys.
+  // Ends a drag with the arrow keys, in case a position is narrower than a pixel.
   void Nudge(std::string_view name, std::int64_t position) {
     const std::int64_t reached = Sees(Role::kSlider, name).position;
     if (std::abs(position - reached) > 3) {
@@ -241,7 +241,7 @@ class ScreenUser : public User {
     }
     FailToFind(text);
   }
-  // Opens the menu of a path with the mouse and gives the item in it.
+  // Opens the menu of a path with the mouse and returns the item.
   Element Open(std::string_view path) {
     ClickOn(MenuTitle(path));
     for (int look = 0; look < 100; ++look) {

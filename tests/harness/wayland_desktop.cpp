@@ -9,7 +9,7 @@
 namespace vamo {
 namespace {
 
-// What jq makes of an answer of the compositor.
+// Asks the compositor and filters its answer with jq.
 std::string Ask(const std::string& question, const std::string& filter) {
   return Output({"jq", "-r", filter}, Output({"swaymsg", "-r", "-t", question}));
 }

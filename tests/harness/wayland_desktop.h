@@ -10,13 +10,13 @@
 
 namespace vamo {
 
-// A desktop of the compositor sway, whose one output is a window that covers an X screen: what the
-// X server gets as keys and mouse, the compositor passes on to the programs on Wayland.
+// A desktop of the compositor sway, whose only output is a window that covers an X screen: the
+// compositor passes the keys and mouse of the X server on to the Wayland programs.
 class WaylandDesktop : public Desktop {
  public:
   std::vector<WindowOnScreen> WindowsOf(pid_t process) override;
-  // Nothing on Wayland tells whether a program has read what had been sent to it. So this waits for
-  // as long as that may take; whoever must be sure awaits what comes of it.
+  // Wayland does not tell whether a program has read what was sent to it, so this waits for as long
+  // as that usually takes. A test that must be sure waits for the result.
   bool RoundTrip(unsigned long window, const std::function<bool()>& runs) override;
   void Activate(unsigned long window) override;
   void Move(unsigned long window, int x, int y) override;

@@ -18,7 +18,7 @@ extern "C" {
 namespace vamo {
 namespace {
 
-// A window may go at any time between two questions about it.
+// A window may be closed at any time between two requests.
 int IgnoreError(Display* /*display*/, XErrorEvent* /*error*/) { return 0; }
 
 std::vector<std::string> Xclip(const std::string& selection, const std::string& direction) {
@@ -31,7 +31,7 @@ struct XDesktop::Parts {
   xdo_t* xdo = xdo_new(nullptr);
   Display* display = xdo == nullptr ? nullptr : xdo->xdpy;
   Window root = 0;
-  // A window that is never shown, for the window manager's answers.
+  // A window that is never shown and receives the window manager's answers.
   Window own = 0;
   int xkb_event = 0;
   int bells = 0;
@@ -49,7 +49,7 @@ struct XDesktop::Parts {
         data == nullptr) {
       return {};
     }
-    // The library gives each number of 32 bits as a long.
+    // Xlib returns each 32-bit number as a long.
     const auto* first = reinterpret_cast<unsigned long*>(data);
     std::vector<unsigned long> numbers(first, first + count);
     XFree(data);
@@ -119,7 +119,7 @@ XDesktop::XDesktop() : parts_(std::make_unique<Parts>()) {
   XSetErrorHandler(IgnoreError);
   if (parts_->display == nullptr) throw std::runtime_error("there is no X server");
   parts_->root = DefaultRootWindow(parts_->display);
-  // A program answers a ping to the root window.
+  // A program sends its answer to a ping to the root window.
   XSelectInput(parts_->display, parts_->root, StructureNotifyMask | SubstructureNotifyMask);
   parts_->own = XCreateSimpleWindow(parts_->display, parts_->root, 0, 0, 1, 1, 0, 0, 0);
   XSelectInput(parts_->display, parts_->own, PropertyChangeMask);
@@ -148,7 +148,7 @@ std::vector<WindowOnScreen> XDesktop::WindowsOf(pid_t process) {
 bool XDesktop::RoundTrip(unsigned long window, const std::function<bool()>& runs) {
   Parts& x = *parts_;
   const auto answered = [&](const auto& has_come) {
-    // A window that has gone meanwhile never answers; the caller then asks another.
+    // A window that was closed meanwhile never answers; the caller then asks another one.
     Await(
         [&] {
           x.ReadEvents();
@@ -184,7 +184,7 @@ void XDesktop::Move(unsigned long window, int x, int y) {
 
 void XDesktop::Offer(const std::string& selection, std::string_view text) {
   Output(Xclip(selection, "-i"), text);
-  // It goes to the background before the server knows of it.
+  // xclip goes to the background before it owns the selection.
   if (!Await([&] { return Offered(selection) == text; })) {
     throw std::runtime_error("nobody takes the text that is offered");
   }

@@ -11,10 +11,10 @@
 
 namespace vamo {
 
-// A desktop on an X server with a window manager that keeps to the conventions for one.
+// A desktop on an X server with a window manager that follows the EWMH.
 class XDesktop : public Desktop {
  public:
-  // Throws where DISPLAY names no server.
+  // Throws if DISPLAY names no server.
   XDesktop();
   ~XDesktop() override;
 

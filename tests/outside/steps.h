@@ -1,4 +1,4 @@
-// What the tests from outside do again and again, beside the steps of the journeys.
+// Steps that the tests from outside share, in addition to those of the journeys.
 #ifndef VAMO_TESTS_OUTSIDE_STEPS_H_
 #define VAMO_TESTS_OUTSIDE_STEPS_H_
 
@@ -11,14 +11,14 @@
 
 namespace vamo {
 
-// Where the program is: VAMO_PROGRAM in the environment, or else that of this build.
+// The path of the program: VAMO_PROGRAM in the environment, or else the program of this build.
 std::string ProgramPath();
 
-// A journey from the start, with settings in the program's environment. One that breaks off has
-// failed. Gives what RunProgramWith gives, as does the next one.
+// Runs a journey from the start, with settings in the program's environment. A journey that ends
+// early has failed. This function and the next return the result of RunProgramWith.
 int FromTheStart(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
                  const std::vector<std::string>& command = {ProgramPath()});
-// A journey through the control window, by a user who has dismissed the splash with a key.
+// Runs a journey through the control window, after a key has dismissed the splash.
 int InControlWindow(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
                     const std::vector<std::string>& command = {ProgramPath()});
 

@@ -1,4 +1,4 @@
-// What the tests of the page have in common.
+// The fixture of the tests of the page.
 #ifndef VAMO_TESTS_WEB_PAGE_FIXTURE_H_
 #define VAMO_TESTS_WEB_PAGE_FIXTURE_H_
 
@@ -11,7 +11,7 @@
 
 namespace vamo {
 
-// One for all tests, since it takes long to start.
+// One browser for all tests, because it takes long to start.
 inline Chromium& TheChromium() {
   static Chromium browser;
   return browser;
@@ -32,7 +32,7 @@ class PageTest : public testing::Test {
                       {{"permission", {{"name", name}}}, {"setting", state}});
     }
   }
-  // A screen of that size that is worked by fingers.
+  // Emulates a touch screen of that size.
   void BecomePhone(int width, int height) {
     browser().DoOwn(
         "Emulation.setDeviceMetricsOverride",

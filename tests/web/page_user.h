@@ -20,8 +20,7 @@ namespace vamo {
 
 class PageUser;
 
-// An element of the page, as it was when the user looked. Roles have the names that the bus of
-// assistive technology has.
+// An element of the page as it was when the user looked. Roles have the names that AT-SPI uses.
 class SeenElement {
  public:
   SeenElement(PageUser& user, std::shared_ptr<const nlohmann::json> look)
@@ -43,7 +42,7 @@ class SeenElement {
   double GreatestValue() const { return look_->at("greatest"); }
   std::int64_t InSteps(double value) const;
   Place Extents() const;
-  // As assistive technology does.
+  // Performs an action as assistive technology does.
   void Do(std::string_view action) const;
 
  private:
@@ -51,7 +50,7 @@ class SeenElement {
   std::shared_ptr<const nlohmann::json> look_;
 };
 
-// Works a page by keys and pointer and reads it as assistive technology does.
+// Operates a page with keys and pointer and reads it as assistive technology does.
 class PageUser : public ScreenUser<SeenElement> {
  public:
   // Opens the page. The browser outlives this object.
@@ -59,7 +58,7 @@ class PageUser : public ScreenUser<SeenElement> {
 
   void PressKey(const Key& key) override;
   void SetClipboard(std::string_view text) override;
-  // A wheel over a slider that has no focus is the page's.
+  // Focuses the slider first, because a wheel over an unfocused slider scrolls the page.
   void TurnWheel(std::string_view slider, std::int64_t notches) override;
   void Close(std::string_view title) override;
   void ActivateWindow(std::string_view title) override;
@@ -68,11 +67,12 @@ class PageUser : public ScreenUser<SeenElement> {
   int Beeps() override;
   std::vector<std::string> Hears() override;
   bool Running() override;
-  // As the end of the page tells it.
+  // The exit status that the page shows at its end.
   int ExitStatus();
   Browser& TheBrowser() { return browser_; }
 
-  // What assistive technology reads of an element that looks like that. Asked once.
+  // The role and name of an element that looks like `look`, for assistive technology. The browser
+  // is asked once for each look.
   std::pair<std::string, std::string> RoleAndName(const nlohmann::json& look);
 
  private:
@@ -89,11 +89,11 @@ class PageUser : public ScreenUser<SeenElement> {
   Browser& browser_;
   std::map<std::string, std::pair<std::string, std::string>> read_;
   std::pair<int, int> pointer_;
-  // Where the mouse has gone since it went down; it does so when it goes up.
+  // The points of the mouse since it was pressed. The drag is sent when it is released.
   std::vector<std::pair<int, int>> pressed_at_;
 };
 
-// Where the page is: VAMO_PAGE in the environment, or that of the build for the browser.
+// The address of the page: VAMO_PAGE in the environment, or the page of the build for the browser.
 std::string PageAddress();
 
 }  // namespace vamo
