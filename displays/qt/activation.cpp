@@ -4,6 +4,7 @@
 #include <QWindow>
 #include <chrono>
 
+#include "displays/qt/placement.h"
 #include "displays/qt/window.h"
 #include "toolkit/window/window.h"
 
@@ -13,10 +14,15 @@ namespace {
 // More than a window manager needs, less than a user to go to another window.
 constexpr std::chrono::milliseconds kPatience{1000};
 // What a compositor needs to give the focus of a menu back to its window.
-constexpr std::chrono::milliseconds kTimeToReturn{300};
+constexpr std::chrono::milliseconds kTimeToReturn{1000};
 
 void Report(const WindowWidget& widget) {
   if (Window* window = widget.ShownWindow()) window->UserActivated();
+}
+
+bool FocusIsInMenuOrNowhere() {
+  const QWindow* focus = QGuiApplication::focusWindow();
+  return focus == nullptr || focus->type() == Qt::Popup;
 }
 
 }  // namespace
@@ -26,12 +32,6 @@ Activation::Activation() {
   QObject::connect(&patience_, &QTimer::timeout, [this] { GiveUp(); });
   return_.setSingleShot(true);
   QObject::connect(&return_, &QTimer::timeout, [this] { GiveUpReturn(); });
-  QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &patience_,
-                   [this](const QWindow* window) { NoteFocus(window); });
-}
-
-void Activation::NoteFocus(const QWindow* window) {
-  focus_in_menu_ = window != nullptr && window->type() == Qt::Popup;
 }
 
 void Activation::Pressed(WindowWidget& window) {
@@ -62,15 +62,17 @@ void Activation::Activated(const WindowWidget& window) {
 
 void Activation::Deactivated(WindowWidget& window) {
   if (awaited_ == &window) return;
-  if (focus_in_menu_) {
+  if (PlatformPlacesWindows() && FocusIsInMenuOrNowhere()) {
     left_for_menu_ = &window;
     return_.start(kTimeToReturn);
-  } else if (Window* deactivated = window.ShownWindow())
+  } else if (Window* deactivated = window.ShownWindow()) {
     deactivated->UserDeactivated();
+  }
 }
 
 void Activation::GiveUpReturn() {
-  if (left_for_menu_ != nullptr && !left_for_menu_->isActiveWindow()) Deactivated(*left_for_menu_);
+  if (left_for_menu_ == nullptr || left_for_menu_->isActiveWindow()) return;
+  if (Window* left = left_for_menu_->ShownWindow()) left->UserDeactivated();
 }
 
 void Activation::GiveUp() {

@@ -5,16 +5,14 @@
 #include <QPointer>
 #include <QTimer>
 
-class QWindow;
-
 namespace vamo {
 
 class WindowWidget;
 
 // Passes on to the toolkit which window the platform has made the active one. A menu that closes
 // can give the keys back to its window for a moment although its item has just brought another
-// window up: while a shown window waits for the keys, no other one is reported. Where a menu itself
-// has the keyboard focus, as on Wayland, its window is without it for a moment when the menu
+// window up: while a shown window waits for the keys, no other one is reported. On Wayland a menu
+// itself may have the keyboard focus, and its window is without it for a moment when the menu
 // closes: that is not reported either, since a menu is no other window.
 class Activation {
  public:
@@ -32,7 +30,6 @@ class Activation {
   void Deactivated(WindowWidget& window);
 
  private:
-  void NoteFocus(const QWindow* window);
   // A menu has closed, and its window has not got the focus back.
   void GiveUpReturn();
   // The platform has given the keys to no window, or has left them where they were.
@@ -40,8 +37,6 @@ class Activation {
 
   QPointer<WindowWidget> awaited_;
   QTimer patience_;
-  // Whether the window with the keyboard focus is a menu.
-  bool focus_in_menu_ = false;
   // The window that is to get the focus back from its menu.
   QPointer<WindowWidget> left_for_menu_;
   QTimer return_;
