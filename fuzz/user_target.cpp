@@ -58,13 +58,13 @@ void CheckWindows(const HeadlessDisplay& display, const std::vector<WeakRef<Obje
     return bool(window.Value());
   });
   Require(display.Windows().size() == live.size(), "a live window is on the display, no other");
-  Require(static_cast<std::size_t>(alive) == live.size(), "a closed window goes");
+  Require(static_cast<std::size_t>(alive) == live.size(), "a closed window is destroyed");
 
   const Ref<Window>& active = Runtime::Current().ActiveWindow();
   Require(!active || (active->IsLive() && active->Visible()), "the active window is visible");
   const Ref<Window> about = _GetImplicitWindow("AboutWnd.AboutWnd");
   Require(!active || active != LiveControlWnd() || !about || !about->Visible(),
-          "the splash makes way for the window");
+          "the splash is hidden while the control window is active");
 }
 
 void CheckText(const TextEdit& edit) {
@@ -83,7 +83,7 @@ void CheckShown(const HeadlessDisplay& display) {
     Require((view->Focus() == nullptr ? nullptr : &view->Focus()->Control()) ==
                 (focus ? &*focus : nullptr),
             "the focus is shown");
-    Require(!focus || focus->CanTakeFocus(), "the focus is on what can have it");
+    Require(!focus || focus->CanTakeFocus(), "the focused control can have the focus");
     for (const HeadlessControl* control : view->Controls()) {
       Require(control->Present() == control->Shown(),
               control->Control().Name() + " is shown as it is");
@@ -97,7 +97,8 @@ void CheckShown(const HeadlessDisplay& display) {
 void CheckHeard(User& user) {
   for (const std::string& heard : user.Hears()) {
     const Ref<class ControlWnd> window = LiveControlWnd();
-    Require(window && Runtime::Current().ActiveWindow() == window, "said in the active window");
+    Require(window && Runtime::Current().ActiveWindow() == window,
+            "announced in the active window");
     const std::string results = "Student's t " + window->tText()->Text() + ", two-tailed p " +
                                 window->pText()->Text() + ", 95% confidence interval of r " +
                                 window->ciText()->Text();
@@ -133,7 +134,8 @@ class Sequence {
     Require(window.nText()->Visible() == (n < 4 || n > 1000) || n_text.empty(), "the warning");
     const bool same = r_text == r_text_ && n_text == n_text_;
     if (activated) {
-      Require(edited || (window.r == 0 && window.t == 0 && window.N == 4), "the model starts anew");
+      Require(edited || (window.r == 0 && window.t == 0 && window.N == 4),
+              "an activation resets the model");
       r_ = 0;
       n_ = 4;
     }
@@ -164,7 +166,7 @@ class Program {
     const bool bars_live_in_windows = input_.OneIn(2);
     const int status = Main(std::make_unique<UserDisplay>([this](HeadlessUser& user) { Use(user); },
                                                           bars_live_in_windows, objects_));
-    Require(status == 0, "the program ends well");
+    Require(status == 0, "the program ends with status 0");
     Require(!Runtime::Exists(), "the run time ends");
     for (const WeakRef<Object>& object : objects_)
       Require(!object.Value(), "nothing outlives the end");
@@ -182,7 +184,8 @@ class Program {
     const WeakRef<Window> active_before(Runtime::Current().ActiveWindow());
     const bool ends_program = gestures.MakeNext();
     const HeadlessDisplay& display = user.Display();
-    Require(display.Running() != ends_program, "who ends the program means it");
+    Require(display.Running() != ends_program,
+            "the program ends when a gesture is meant to end it, and only then");
     if (!display.Running()) return;
     CheckWindows(display, objects_);
     CheckShown(display);

@@ -115,7 +115,7 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyStopChanging) {
     return user.Hears();
   };
   const std::vector<std::string> nothing;
-  EXPECT_EQ(heard_after(1000ms), nothing) << "nothing has been worked out";
+  EXPECT_EQ(heard_after(1000ms), nothing) << "nothing has been calculated";
   window_->nEdit()->SetText("30");
   for (const char* r : {".4", ".6", ".5"}) {
     EXPECT_EQ(heard_after(250ms), nothing);
@@ -127,7 +127,7 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyStopChanging) {
   EXPECT_EQ(program_.display().RunningTimers(), 1U) << "only that of the splash";
   window_->rEdit()->SetText(".6");
   window_->rEdit()->SetText(".5");
-  EXPECT_EQ(heard_after(1000ms), nothing) << "it has been said";
+  EXPECT_EQ(heard_after(1000ms), nothing) << "it has been announced already";
   window_->nEdit()->SetText("9999");
   EXPECT_EQ(heard_after(1000ms), std::vector<std::string>{"range of N (4 - 1,1000)"});
   window_->nEdit()->SetText("2");

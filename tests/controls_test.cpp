@@ -46,7 +46,7 @@ TEST(SliderTest, AHandlerCanRemoveItself) {
   slider->ValueChanged =
       Delegate<void(Ref<Slider>)>(New<Fleeting>(), &Fleeting::Hear, ReceiverFlag::kStrong);
   slider->UserMovedTo(7);
-  EXPECT_EQ(Fleeting::gone_with, 7) << "it has gone before it was through";
+  EXPECT_EQ(Fleeting::gone_with, 7) << "it was destroyed before it returned";
   slider->UserMovedTo(8);
   EXPECT_EQ(Fleeting::gone_with, 7);
 }
@@ -102,7 +102,7 @@ TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   timer->SetRunMode(RunMode::kMultiple);
   EXPECT_EQ(fired_after(350ms), 3U);
   timer->Reset();
-  EXPECT_EQ(fired_after(99ms), 0U) << "the period has begun anew";
+  EXPECT_EQ(fired_after(99ms), 0U) << "the period has started again";
   EXPECT_EQ(fired_after(1ms), 1U);
   window->Close();
   EXPECT_EQ(fired_after(1000ms), 0U);

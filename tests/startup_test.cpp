@@ -301,7 +301,7 @@ TEST_F(ProgramTest, TheSplashGoesThroughItsStates) {
     user.LetTimePass(3999ms);
     EXPECT_TRUE(AboutWnd()->Visible());
     user.LetTimePass(1ms);
-    EXPECT_FALSE(AboutWnd()->Visible()) << "a showing in the first four seconds ends with them";
+    EXPECT_FALSE(AboutWnd()->Visible()) << "the timer also ends a showing within its four seconds";
     EXPECT_EQ(user.ActiveTitle(), "Vamo");
   });
 }

@@ -176,7 +176,7 @@ TEST_F(TextFieldTest, AFieldWorksOnAfterItsHandlerHasFailed) {
   EXPECT_EQ(field_->Text(), "failing");
   EXPECT_TRUE(field_->CanUndo());
   field_->SetText("written");
-  EXPECT_FALSE(field_->CanUndo()) << "a write outside of the user's edit is not undone";
+  EXPECT_FALSE(field_->CanUndo()) << "a write outside the user's edit is not undone";
 }
 
 // "0,5" means ".5", whether a filter or the mask refuses the comma.

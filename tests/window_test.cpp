@@ -58,7 +58,7 @@ TEST(WindowTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
       program.runtime().ActiveWindow()->Close();
     };
     program.user().Dictate(text);
-    EXPECT_EQ(keys, 1) << "the rest has no window to go to";
+    EXPECT_EQ(keys, 1) << "no window is left for the rest";
   }
   EXPECT_TRUE(program.runtime().LiveWindows().empty());
 }
@@ -85,7 +85,7 @@ TEST(WindowTest, APressActivatesItsWindowBeforeItActs) {
   EXPECT_EQ(window->activations, 1);
   EXPECT_TRUE(window->UserBeginsPress(false));
   window->UserActivated();
-  EXPECT_EQ(window->activations, 1) << "what the platform reports later is no other activation";
+  EXPECT_EQ(window->activations, 1) << "the platform's later report is not a second activation";
 }
 
 // A double click that dismisses the splash, and a key that is held down on it.
@@ -189,7 +189,7 @@ TEST(WindowTest, TabLeavesTheWindowAtBothEndsIfTheDisplayWantsIt) {
   EXPECT_TRUE(window->UserPressedKey(tab));
   EXPECT_FALSE(window->UserPressedKey(tab)) << "the field is the last stop";
   EXPECT_TRUE(window->Focus() == window->field())
-      << "who comes back finds the keys where they were";
+      << "a user who comes back finds the focus where it was";
   tab.shift = true;
   EXPECT_TRUE(window->UserPressedKey(tab));
   EXPECT_FALSE(window->UserPressedKey(tab));

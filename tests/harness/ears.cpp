@@ -17,7 +17,7 @@ constexpr std::array kNews{"object:state-changed:showing", "object:announcement"
 Ears::Ears() : listener_(atspi_event_listener_new(Take, this, nullptr)) {
   for (const char* news : kNews) {
     if (!atspi_event_listener_register(listener_, news, nullptr)) {
-      throw std::runtime_error("the accessibility bus passes no news on");
+      throw std::runtime_error("the accessibility bus delivers no events");
     }
   }
   // Drops events of earlier programs.

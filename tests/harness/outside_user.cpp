@@ -58,7 +58,7 @@ void OutsideUser::ActivateWindow(std::string_view title) {
   const unsigned long id = WindowTitled(title).id;
   Act([&] { desktop_.Activate(id); });
   if (!Await([&] { return IsSettled() && ActiveTitle() == title; })) {
-    throw std::runtime_error("not to be activated: " + std::string(title));
+    throw std::runtime_error("cannot be activated: " + std::string(title));
   }
 }
 
@@ -120,7 +120,7 @@ void OutsideUser::AwaitRest() {
   const std::string active = frames_.active_title;
   const bool settled = Await([&] { return !program_.Running() || (IsSettled() && IsSettled()); });
   if (titles != frames_.titles || active != frames_.active_title) elements_.clear();
-  if (!settled) throw std::runtime_error("the windows do not come to rest: " + TellWindows());
+  if (!settled) throw std::runtime_error("the windows do not settle: " + TellWindows());
 }
 
 void OutsideUser::Settle() {

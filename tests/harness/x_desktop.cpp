@@ -128,7 +128,7 @@ XDesktop::XDesktop() : parts_(std::make_unique<Parts>()) {
   int major = XkbMajorVersion;
   int minor = XkbMinorVersion;
   if (!XkbQueryExtension(parts_->display, &opcode, &parts_->xkb_event, &error, &major, &minor)) {
-    throw std::runtime_error("the X server tells of no bell");
+    throw std::runtime_error("the X server does not report bells");
   }
   XkbSelectEvents(parts_->display, XkbUseCoreKbd, XkbBellNotifyMask, XkbBellNotifyMask);
   XSync(parts_->display, False);
@@ -186,7 +186,7 @@ void XDesktop::Offer(const std::string& selection, std::string_view text) {
   Output(Xclip(selection, "-i"), text);
   // xclip goes to the background before it owns the selection.
   if (!Await([&] { return Offered(selection) == text; })) {
-    throw std::runtime_error("nobody takes the text that is offered");
+    throw std::runtime_error("xclip does not offer the text");
   }
 }
 

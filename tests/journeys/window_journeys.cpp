@@ -101,7 +101,7 @@ TEST(WindowJourney, TheInfoTextIsReadAndCopiedByKeysButNotChanged) {
     EXPECT_EQ(copied.find('\r'), std::string::npos);
     user.PressKey(Arrow(KeyCode::kRight, /*shift=*/true));
     user.PressKey(Key::Command("c"));
-    EXPECT_EQ(user.Clipboard(), "V") << "the caret has begun at the start";
+    EXPECT_EQ(user.Clipboard(), "V") << "the caret starts at the beginning";
     user.PressKey(Key::Character(std::string(1, kEscape)));
     EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
     user.ActivateWindow("Vamo");

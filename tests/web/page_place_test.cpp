@@ -115,7 +115,7 @@ TEST_F(PageTest, AFingerSlidesScrollsAndTypes) {
   EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "numeric");
   user.PressNamed("shift+Tab");
   EXPECT_EQ(browser().Run("return document.activeElement.inputMode;"), "decimal")
-      << "a tablet may have keys";
+      << "a tablet may have a keyboard";
   Place slider = user.Find(Role::kSlider, "r").Extents();
   const int y = slider.y + slider.height / 2;
   const int middle = slider.x + slider.width / 2;
@@ -125,7 +125,7 @@ TEST_F(PageTest, AFingerSlidesScrollsAndTypes) {
   EXPECT_EQ(browser().Run("return scrollY;"), 0);
   browser().Swipe({{middle + 100, y}, {middle + 101, y - 30}, {middle + 104, y - 60}});
   user.LetTimePass(std::chrono::milliseconds(300));
-  EXPECT_NEAR(value(), .5, .03) << "upright it is the page's";
+  EXPECT_NEAR(value(), .5, .03) << "a vertical swipe scrolls the page";
   EXPECT_GT(browser().Run("return scrollY;"), 20);
   browser().Run("scrollTo(0, 0);");
   slider = user.Find(Role::kSlider, "r").Extents();
@@ -167,7 +167,7 @@ TEST_F(PageTest, NarrowsATextAsLongAsItIsTooWide) {
   };
   Retype(user, "N", "30");
   EXPECT_EQ(width_when_it_takes(60), 60);
-  EXPECT_NEAR(width_when_it_takes(401), 100, .01) << "its box, and what is free beside it";
+  EXPECT_NEAR(width_when_it_takes(401), 100, .01) << "its box and the free room beside it";
   EXPECT_EQ(width_when_it_takes(60), 60);
 }
 
@@ -303,7 +303,7 @@ TEST_F(PageTest, LeavesTheFocusToTheCoursePageAroundIt) {
   browser().PressKeys("", "5");
   browser().EnterFrame(0);
   EXPECT_EQ(browser().Run("return document.querySelector('input').value;"), ".5")
-      << "a press in it is what takes the keys there";
+      << "a press in it takes the focus";
 }
 
 TEST_F(PageTest, SurvivesTranslatorsForeignErrorsAndSaving) {

@@ -79,7 +79,7 @@ TEST_F(PageTest, ReportsKeysAndPressesOfAllKinds) {
   press("keydown", key("٥", "Digit5", false));
   EXPECT_EQ(FieldText(user, "r"), ".5");
   press("keydown", key(",", "", false));
-  EXPECT_EQ(user.Beeps(), 0) << "a keyboard on the screen sends an edit, too";
+  EXPECT_EQ(user.Beeps(), 0) << "an on-screen keyboard also sends an edit";
 }
 
 TEST_F(PageTest, KeepsTheCaretAndLosesNoKeyBetweenWindows) {
@@ -141,7 +141,8 @@ TEST_F(PageTest, LeavesTheBrowserItsOwnKeysAndItsWheel) {
   const Place slider = user.Find(Role::kSlider, "N").Extents();
   browser().Run("left = [];");
   browser().TurnWheel(slider.x + 50, slider.y + slider.height / 2, -40);
-  EXPECT_EQ(browser().Run("return left;"), json({"wheel"})) << "what has no focus scrolls the page";
+  EXPECT_EQ(browser().Run("return left;"), json({"wheel"}))
+      << "a wheel over an unfocused slider scrolls the page";
   EXPECT_EQ(FieldText(user, "N"), "30");
   for (const char* keys : {"Tab", "ctrl+a"}) user.PressNamed(keys);
   EXPECT_EQ(browser().Run("return left.filter(key => key === 'a');"), json::array())
@@ -170,7 +171,7 @@ TEST_F(PageTest, CopiesAndPastesByMenuAsFarAsTheBrowserAllows) {
   EXPECT_EQ(user.Beeps(), 2);
   user.Click(Role::kSlider, "r");
   user.PressKey(Key::Command("c"));
-  EXPECT_EQ(user.Clipboard(), "before") << "neither what has been refused nor nothing";
+  EXPECT_EQ(user.Clipboard(), "before") << "neither the refused copy nor an empty one";
 }
 
 TEST_F(PageTest, TheMenusWorkByKeyboardAlone) {
