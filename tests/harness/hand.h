@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-// From libxdo, whose header is included only in hand.cpp because its names clash with others.
+// From libxdo. Its header is included only in sources, because its names clash with others.
 struct xdo;
 
 namespace vamo {
