@@ -1,8 +1,8 @@
-// How windows find each other and the menu bar: by name, without their classes.
+// Accessors by which the windows find each other and the menu bar, without their classes.
 //
-// The control window and the About window use each other. The control window includes this header
-// alone for it: the classes of the other windows and of the bar are known where their accessors are
-// defined, above this layer.
+// The control window and the About window use each other. For that, the control window includes
+// only this header: the classes of the other windows and of the menu bar are known only where their
+// accessors are defined, above this layer.
 #ifndef VAMO_CONTROLWND_ACCESSORS_H_
 #define VAMO_CONTROLWND_ACCESSORS_H_
 
@@ -11,22 +11,21 @@
 
 namespace vamo {
 
-// Each of these is the one live window of the class of that name. It is made when there is none,
-// and comes on the screen when its own state says so. Raises IllegalCastException where a window of
-// another class bears the name.
+// Each accessor returns the one live window of the class of the same name. It creates the window if
+// there is none, and a new window shows itself if its initial state is visible. Raises
+// IllegalCastException if the live window of that class name is of another class.
 //
-// Each class is declared after its accessor and bears the same name, so outside of the accessors'
-// header it is written `class AboutWnd`; inside the class itself the accessor is
-// `vamo::AboutWnd()`.
+// An accessor hides the class of the same name. So write the class as `class AboutWnd`, and inside
+// the class call the accessor as `vamo::AboutWnd()`.
 Ref<Window> AboutWnd();
 Ref<Window> InfoWnd();
 #pragma GCC diagnostic push
-// The class must be named before the accessor that hides its name.
+// The class must be declared before the accessor that hides its name.
 #pragma GCC diagnostic ignored "-Wshadow"
 Ref<class ControlWnd> ControlWnd();
 #pragma GCC diagnostic pop
 
-// The one menu bar of the program, made at the first use and never replaced.
+// The program's one menu bar, created at its first use and never replaced.
 Ref<MenuBar> Menu();
 
 }  // namespace vamo

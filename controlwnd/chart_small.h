@@ -6,8 +6,8 @@
 
 namespace vamo::_x_ChartSmall {
 
-// The picture, loaded at the first use and then shared. Nil where it cannot be loaded; the next
-// call tries again.
+// Loads the picture at its first use and then shares it. Returns nil if it cannot be loaded; the
+// next call tries again.
 Ref<Picture> ChartSmall();
 
 }  // namespace vamo::_x_ChartSmall

@@ -1,5 +1,4 @@
-// The working window: how input becomes r and N, and how r and N become the texts that the user
-// reads.
+// The control window: from the user's input to r and N, and from these to the texts that it shows.
 #include "controlwnd/control_wnd.h"
 
 #include "stats/interval.h"
@@ -18,13 +17,13 @@ constexpr std::int64_t kHighestN = 1000;
 
 bool IsDigit(std::int64_t code) { return code >= '0' && code <= '9'; }
 
-// What passes every filter.
+// The control codes that every key filter lets through.
 bool IsControlCode(std::int64_t code) {
   constexpr std::int64_t kDataLinkEscape = 16;
   return code == kBackspace || code == kTab || code == kDataLinkEscape;
 }
 
-// A key filter's answer: False lets the key through, True swallows it, with a beep.
+// The result of a key filter: False lets the key through; True swallows it, with a beep.
 bool Refuse(bool passes) {
   if (passes) return false;
   Beep();
@@ -56,8 +55,8 @@ bool ControlWnd::rEdit_KeyDown(Ref<TextField> /*sender*/, std::string key) {
   return Refuse(IsDigit(code) || code == '.' || IsControlCode(code));
 }
 
-// A write to rEdit runs this handler again inside the write, so r is read from the property after
-// it.
+// A write to rEdit runs this handler again, inside the write. So the rest of the handler reads r
+// from the member, which the inner call may have changed.
 void ControlWnd::rEdit_TextChange(Ref<TextField> /*sender*/) {
   r = Val(rEdit()->Text());
   if (r < kLowestR) {
@@ -84,7 +83,7 @@ bool ControlWnd::nEdit_KeyDown(Ref<TextField> /*sender*/, std::string key) {
   return Refuse(IsDigit(code) || IsControlCode(code));
 }
 
-// Above the highest N the warning is hidden here and shown again by DoIt.
+// For N above the maximum, this handler hides the warning and DoIt shows it again.
 void ControlWnd::nEdit_TextChange(Ref<TextField> /*sender*/) {
   N = Truncate(Val(nEdit()->Text()));
   if (N < kLowestN) {

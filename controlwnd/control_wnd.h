@@ -18,20 +18,20 @@
 
 namespace vamo {
 
-// The window in which the user sets r and N and reads t, p, the interval and Fisher's z. It holds
-// the model and keeps its controls up to date with it; the mathematics is in stats/.
+// The window in which the user sets r and N and reads t, p, the confidence interval and Fisher's z.
+// It holds the model and shows its results; the mathematics is in stats/.
 class ControlWnd : public Window {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
   bool IsEventImplemented(std::string_view event) const;
 
-  // The slider of r counts in hundredths.
+  // The slider for r counts in hundredths.
   static constexpr std::int64_t kPositionsPerR = 100;
 
-  // The model. r is the correlation in force; N the sample size that the handlers last set,
-  // while the calculation takes the one in `nEdit`; t and p are those of the last calculation; z is
-  // Fisher's z of r.
+  // The model. r is the current correlation, and N the sample size that a handler last set,
+  // although the calculation reads N from `nEdit`. t and p are the results of the last calculation;
+  // z is Fisher's z of the r last entered. Activation resets r, N and t.
   double r = 0;
   std::int64_t N = 0;
   double t = 0;
@@ -42,7 +42,7 @@ class ControlWnd : public Window {
   void CreateControls() override;
   virtual void _CreateControls0();
 
-  // The controls. Each accessor raises IllegalCastException for a control of another class.
+  // The controls. An accessor raises IllegalCastException if its control is of another class.
   virtual Ref<TextField> rEdit() { return ControlNamed<TextField>("rEdit"); }
   virtual Ref<TextField> nEdit() { return ControlNamed<TextField>("nEdit"); }
   virtual Ref<Rectangle> Rectangle2() { return ControlNamed<Rectangle>("Rectangle2"); }
@@ -66,7 +66,7 @@ class ControlWnd : public Window {
   virtual Ref<Label> ciText() { return ControlNamed<Label>("ciText"); }
   virtual Ref<Label> tText() { return ControlNamed<Label>("tText"); }
 
-  // What the fields, the sliders and the button do.
+  // The handlers of the fields, the sliders and the button.
   virtual void rEdit_TextChange(Ref<TextField> sender);
   virtual bool rEdit_KeyDown(Ref<TextField> sender, std::string key);
   virtual void nEdit_TextChange(Ref<TextField> sender);
@@ -81,15 +81,15 @@ class ControlWnd : public Window {
   void AddMenuHandlers(const Ref<Window>& window) override;
   // Closing this window ends the program.
   void Event_Close() override;
-  // Hides the About window and resets r, N and t, at each activation; no control changes.
+  // At each activation, hides the About window and resets r, N and t. Changes no control.
   void Event_Activate() override;
   void Event_EnableMenuItems() override;
   virtual bool _DescriptionMenuItem_Action();
   virtual bool _AboutKEL_Action();
 
-  // Works out t, p and the interval for the correlation `rArg` and the sample size in `nEdit`, and
-  // shows them; `nArg` is ignored. Above a sample size of 1000 it beeps, shows the warning
-  // and empties the results instead.
+  // Computes and shows t, p and the interval for the correlation `rArg` and the sample size in
+  // `nEdit`; ignores `nArg`. For a sample size above 1000 it beeps, shows the warning and clears
+  // the results instead.
   virtual void DoIt(double rArg, std::int64_t nArg);
 };
 

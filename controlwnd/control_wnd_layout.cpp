@@ -1,5 +1,5 @@
-// The working window: its state, its 22 controls in the order of their creation, and what is wired
-// to them.
+// The control window: its initial state, its 22 controls in order of creation, their handlers and
+// their accessibility data.
 #include <array>
 #include <span>
 #include <string_view>
@@ -139,7 +139,7 @@ constexpr std::array kAccessibleTexts{
         .control = "nText", .description = "range of N", .announced = Announced::kAlways},
 };
 
-// Makes a control, enters it in the window under its name, and then sets its properties.
+// Creates a control, adds it to the window under its name, and then sets its properties.
 template <class ControlClass>
 void Create(Window& window, std::string_view name, PropertyStream stream) {
   window._AddControl(name, window.__New<ControlClass>());
@@ -160,8 +160,8 @@ void ControlWnd::Layout() {
 
 void ControlWnd::CreateControls() { _CreateControls0(); }
 
-// Events are wired after the properties of their control, so that setting a property calls no
-// handler.
+// The handlers of a control are bound after its properties are set, so that setting a property
+// calls no handler.
 void ControlWnd::_CreateControls0() {
   Create<TextField>(*this, "rEdit", kREdit);
   AddHandler(rEdit()->TextChange, this, &ControlWnd::rEdit_TextChange);

@@ -1,4 +1,4 @@
-// The working window: what it does at the points of its life that are not input of r or N.
+// The control window: activation, closing, menu items and the "?" button.
 #include <cstdint>
 #include <string_view>
 

@@ -1,11 +1,11 @@
-// The accessors of the menu items, for the classes of window that have the menu bar.
+// Accessors of the menu items, for the window classes that have the menu bar.
 #ifndef VAMO_CONTROLWND_MENU_ACCESSORS_H_
 #define VAMO_CONTROLWND_MENU_ACCESSORS_H_
 
 #include "toolkit/window/menu_item.h"
 
-// One accessor per item, with the item's name, looked up in the window's bar. Each raises
-// IllegalCastException for an item of another class.
+// Each accessor has the name of its item, which it finds in the window's menu bar. It raises
+// IllegalCastException if the item is of another class.
 #define VAMO_MENU_ACCESSOR(Class, Item) \
   virtual Ref<Class> Item() const { return Cast<Class>(MenuBar()->_Lookup(#Item)); }
 

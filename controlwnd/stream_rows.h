@@ -1,5 +1,5 @@
-// The rows of the tables that windows and controls are made from. Defaults hold what most
-// objects share; a row names only what differs. Lengths in logical pixels.
+// The rows of the tables that set the initial state of windows and controls. The defaults are what
+// most objects share; a row names only what differs. Lengths are in logical pixels.
 #ifndef VAMO_CONTROLWND_STREAM_ROWS_H_
 #define VAMO_CONTROLWND_STREAM_ROWS_H_
 
@@ -28,12 +28,12 @@ struct WindowRow {
 
 inline constexpr Locks kAllLocked{true, true, true, true};
 
-// What every visible control begins with.
+// The properties with which the stream of every visible control begins.
 struct PlaceRow {
   std::string_view name;
   std::int64_t left, top, width, height;
   std::int64_t tab_index;
-  // The name of the control that this one lies in; empty for the window itself.
+  // The name of the control that contains this one; empty if the window does.
   std::string_view parent = {};
   Locks locks = kAllLocked;
 };

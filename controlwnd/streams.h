@@ -1,4 +1,4 @@
-// Property streams written from rows.
+// Writes property streams from rows.
 #ifndef VAMO_CONTROLWND_STREAMS_H_
 #define VAMO_CONTROLWND_STREAMS_H_
 
@@ -11,7 +11,8 @@
 
 namespace vamo {
 
-// Enough for the entries of any object of this program, and just what the Info text takes.
+// kCapacity is enough for the entries of every object except the Info text, which takes exactly
+// kLongCapacity.
 inline constexpr std::size_t kCapacity = 640;
 inline constexpr std::size_t kLongCapacity = 1592;
 
@@ -39,8 +40,8 @@ constexpr EncodedStream<kSize> Head(const PlaceRow& row) {
 
 }  // namespace internal
 
-// The stream of a row, in the order of its entries. What stands here as a constant is the same for
-// every object of the class in this program.
+// Each function writes a row as a stream, in the order of the entries. The constants are the same
+// for all objects of the class in this program.
 
 constexpr EncodedStream<kCapacity> WindowStream(const WindowRow& row) {
   return EncodedStream<kCapacity>()
@@ -207,7 +208,7 @@ constexpr EncodedStream<kCapacity> CanvasStream(const CanvasRow& row) {
       .Set(property::kAllowTabs, false)
       .Set(property::kTransparent, true)
       .Set(property::kDoubleBuffer, false)
-      .Set(property::kTransparent, true)  // It comes twice in this stream.
+      .Set(property::kTransparent, true)  // This stream has the entry twice.
       .Set(property::kInitialParent, row.place.parent);
 }
 

@@ -1,4 +1,4 @@
-// A user of the running program, whatever display it runs on.
+// A user of the running program, on any display.
 #ifndef VAMO_DISPLAYS_USER_H_
 #define VAMO_DISPLAYS_USER_H_
 
@@ -12,13 +12,13 @@
 
 namespace vamo {
 
-// How a screen reader tells the kinds of control apart.
+// The kinds of control, as a screen reader tells them apart.
 enum class Role { kText, kSlider, kButton, kLabel };
 
 // What a user sees of a control.
 struct ShownControl {
   Role role = Role::kLabel;
-  // The name that a screen reader reads; of a label without one, its text.
+  // The name that a screen reader reads; for a label without a name, its text.
   std::string name;
   std::string description;
   // The caption of a control that has one.
@@ -33,12 +33,12 @@ struct ShownControl {
   bool operator==(const ShownControl&) const = default;
 };
 
-// What a run of the program gives in place of an exit status when its user has left it running.
+// The result of a run, in place of an exit status, if its user has left the program running.
 inline constexpr int kStillRunning = -1;
 
-// What a user can do and see, in the active window where nothing else is said. Controls are found
-// by what a screen reader reads, so a wrong name fails whoever needs it: what is not on the screen
-// raises an exception. After the program has ended, nothing of this has an effect.
+// What a user can do and see, in the active window unless something else is said. Controls are
+// found by what a screen reader reads, and one that is not there raises an exception: so a test
+// that needs it fails if its name is wrong. After the program has ended, nothing has an effect.
 class User {
  public:
   virtual ~User() = default;
@@ -46,35 +46,35 @@ class User {
   virtual void PressKey(const Key& key) = 0;
   virtual void Type(std::string_view text) = 0;
   virtual void SetClipboard(std::string_view text) = 0;
-  // With the clipboard and the paste shortcut, into what has the keys.
+  // Pastes into the focused control, through the clipboard and the shortcut of Paste.
   void Paste(std::string_view text);
   virtual void Click(Role role, std::string_view name) = 0;
-  // Presses the slider's knob and takes it to each of the positions in turn.
+  // Drags the slider's knob to each of the positions in turn.
   virtual void DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) = 0;
-  // Presses the slider beside its knob, at the place of a position, and goes on from there.
+  // Presses the slider beside its knob, at the position `at`, and drags on to `drag_to`.
   virtual void PressGroove(std::string_view name, std::int64_t at, std::int64_t drag_to) = 0;
   virtual void TurnWheel(std::string_view slider, std::int64_t notches) = 0;
   virtual void PressByAssistiveTechnology(std::string_view button) = 0;
-  // A menu item by its texts, such as "Edit/Copy", after its menu has been opened. False where the
-  // item is disabled.
+  // Opens a menu and chooses an item by its texts, such as "Edit/Copy". Returns false if the item
+  // is disabled.
   virtual bool Choose(std::string_view path) = 0;
   virtual bool CanChoose(std::string_view path) = 0;
   virtual void Close(std::string_view title) = 0;
-  // A click on another window of the program.
+  // Clicks on another window of the program.
   virtual void ActivateWindow(std::string_view title) = 0;
   virtual void LetTimePass(std::chrono::milliseconds time) = 0;
 
-  // The titles of the windows on the screen, in the order of the alphabet.
+  // The titles of the windows on the screen, in alphabetical order.
   virtual std::vector<std::string> Windows() = 0;
-  // The title of the window that has the keys; empty where none has, as of one without a title.
+  // The title of the active window; empty if there is none or it has no title.
   virtual std::string ActiveTitle() = 0;
   virtual ShownControl Sees(Role role, std::string_view name) = 0;
   virtual ShownControl SeesDescribed(std::string_view description) = 0;
-  // What has the keys; without a name where nothing has.
+  // The control that has the focus; one without a name if there is none.
   virtual ShownControl Focused() = 0;
   virtual std::string Clipboard() = 0;
   virtual int Beeps() = 0;
-  // What the program has had a screen reader say since the last call.
+  // What the program has announced to a screen reader since the last call.
   virtual std::vector<std::string> Hears() = 0;
 };
 

@@ -40,7 +40,7 @@ static_assert(kTimer1.Length() == 31, "the streams are fixed to the byte");
 constexpr std::array kAccessibleTexts{
     AccessibleText{.control = "StaticText5", .describes_window = true}};
 
-// Both windows are reached by name, not through the object that an event came to.
+// Reaches both windows through their accessors, not through the object that received the event.
 void HandOver() {
   vamo::AboutWnd()->Hide();
   ControlWnd()->Show();

@@ -14,8 +14,8 @@
 
 namespace vamo {
 
-// The window that shows the program's name and rights and then makes way for the control window:
-// after its timer, a key or a press. It has no logic beyond that hand-over.
+// The splash: shows the program's name and rights until its timer fires or the user presses a key
+// or the mouse; then hides itself and shows the control window. It has no other logic.
 class AboutWnd : public Window {
  public:
   using _wrapper_Timer1 = vamo::_wrapper_Timer1;

@@ -1,4 +1,4 @@
-// The accessors of the windows whose classes are known here and not below.
+// The accessors of the windows whose classes are defined in this layer.
 #include "controlwnd/accessors.h"
 
 #include "shell/about_wnd.h"

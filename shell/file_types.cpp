@@ -21,7 +21,7 @@ void WriteProperties(FileType& type, std::string_view name, std::string_view mac
   type.SetConformsTo("");
 }
 
-// Converting to a text registers the type; the text itself is not needed.
+// Converting a type to text registers it; the text itself is not needed.
 void Enter(const Ref<FileType>& type) {
   ModuleFields().pAllFileTypes.push_back(type);
   static_cast<void>(type->Operator_Convert());

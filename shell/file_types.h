@@ -1,4 +1,4 @@
-// The file type set of the program.
+// The program's file type set.
 #ifndef VAMO_SHELL_FILE_TYPES_H_
 #define VAMO_SHELL_FILE_TYPES_H_
 
@@ -10,20 +10,20 @@
 // The set is registered at start-up; nothing in the program opens or saves a file of these types.
 namespace vamo::FileTypes {
 
-// The module-level fields, nil and empty before the set is made.
+// The module-level fields: nil and empty before _Initialize.
 struct Fields {
   std::vector<Ref<FileType>> pAllFileTypes;
   Ref<FileType> pText;
   Ref<FileType> pUntitledType;
 };
 
-// Makes the two types and registers them, in the order of their names here. Called once.
+// Creates the two types and registers them, Text first. Called once.
 void _Initialize();
 
 Ref<FileType> Text();
 Ref<FileType> UntitledType();
 
-// All types of the set.
+// All types in the set.
 const std::vector<Ref<FileType>>& AllFileTypes();
 
 }  // namespace vamo::FileTypes

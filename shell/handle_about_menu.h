@@ -9,8 +9,8 @@
 
 namespace vamo {
 
-// The application: it answers the About items. One object lives from its registration to the end of
-// the process; the run time holds it.
+// The application object, which handles the About items. The run time holds the one object from its
+// registration to the end of the process.
 class HandleAboutMenu : public Application {
  public:
   static const ClassInfo kClass;
@@ -20,11 +20,12 @@ class HandleAboutMenu : public Application {
   void Event_EnableMenuItems() override;
   virtual bool _AboutKEL_Action();
   virtual bool _AboutMenuItem_Action();
-  // Called by start-up before anything else is; there is nothing to set up.
+  // Called once by start-up, before anything else; there is nothing to set up.
   virtual void Constructor() {}
 };
 
-// The registered application object. Raises NilObjectException on use before its registration.
+// The registered application object. Before its registration it is nil, and using it raises
+// NilObjectException.
 Ref<HandleAboutMenu> App();
 
 // The About item of the application's menu bar.

@@ -11,8 +11,8 @@
 
 namespace vamo {
 
-// The window with a fixed text: what the program does, its rights, citation and disclaimer. It has
-// no logic of its own.
+// The window with a fixed text: purpose, terms, citation and disclaimer. It has no logic of its
+// own.
 class InfoWnd : public Window {
  public:
   static const ClassInfo kClass;

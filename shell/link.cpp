@@ -24,7 +24,7 @@ std::optional<unsigned> HexDigit(char c) {
   return std::nullopt;
 }
 
-// A percent sign that no two hexadecimal digits follow stands for itself.
+// A percent sign without two hexadecimal digits after it stands for itself.
 std::string Decoded(std::string_view text) {
   std::string decoded;
   for (std::size_t at = 0; at < text.size(); ++at) {

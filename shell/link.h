@@ -1,4 +1,4 @@
-// Values that a link to the program brings.
+// Values in a link to the program.
 #ifndef VAMO_SHELL_LINK_H_
 #define VAMO_SHELL_LINK_H_
 
@@ -14,16 +14,16 @@ struct LinkedValue {
   bool operator==(const LinkedValue&) const = default;
 };
 
-// The values in the fragment of a link, such as "#r=.5&N=30", in their order; %2E is a point. A
-// part without a name or a value, or one with more characters than a number has, is left out, and
-// so is everything in a fragment that is too long to be meant.
+// Returns the values in the fragment of a link, such as "#r=.5&N=30", in their order; %2E is a
+// point. Ignores a part without a name or a value, a part longer than a number can be, and a
+// fragment too long to be meant for the program.
 std::vector<LinkedValue> ParseLink(std::string_view fragment);
 
-// Presses a key where the splash is the active window. The control window comes in front
-// afterwards, as an event of its own.
+// Presses a key if the splash is the active window. The control window is activated later, in a
+// separate event.
 void EndSplash();
 
-// Types the values over the texts of the control window's fields of these names, as a user would:
+// Types each value over the text of the control window's field of that name, as a user would:
 // through the same filters and masks. The focus stays where it is.
 void TypeLinkedValues(const std::vector<LinkedValue>& values);
 

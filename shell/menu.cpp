@@ -9,7 +9,7 @@ namespace {
 
 enum class Level { kMenu, kItem };
 
-// A menu, or an item of the menu above it. Items are found by name alone; one with an empty text is
+// A menu, or an item of the menu above it. Items are found only by name; one with an empty text is
 // not drawn.
 struct Row {
   Level level;

@@ -6,8 +6,8 @@
 
 namespace vamo {
 
-// The one bar that the application and its windows share. It has no handlers: they are bound by
-// name elsewhere.
+// The menu bar that the application and its windows share. It has no handlers: they are bound
+// elsewhere, by the names of the items.
 class Menu : public MenuBar {
  public:
   static const ClassInfo kClass;
@@ -22,7 +22,7 @@ class Menu : public MenuBar {
   virtual void Untitled4();
 };
 
-// The module-level field: the one bar, nil before its first use.
+// The module-level field: the menu bar, nil before its first use.
 struct MenuFields {
   Ref<class Menu> _implicitInstance;
 };

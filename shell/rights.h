@@ -1,4 +1,4 @@
-// The program's rights notice, in the forms that it is shown in.
+// The program's rights notice, terms and citation.
 #ifndef VAMO_SHELL_RIGHTS_H_
 #define VAMO_SHELL_RIGHTS_H_
 

@@ -1,4 +1,4 @@
-// The process from its entry to the event loop and back, in the order of its steps.
+// The process from its entry to the event loop and back, step by step.
 #include "shell/startup.h"
 
 #include <cstdint>
@@ -27,7 +27,7 @@ void Tell(const StepObserver& observer, std::string_view step) {
   if (observer != nullptr) observer(step);
 }
 
-// Tells the observer of a step, then takes it.
+// Tells the observer about a step, then runs it.
 template <class StepFunction>
 void Step(std::string_view name, StepFunction&& step) {
   Tell(Runtime::Current().ModuleFields<StartupFields>().observer, name);
@@ -38,8 +38,7 @@ std::unique_ptr<Runtime> RuntimeInit(std::unique_ptr<Display> display) {
   return std::make_unique<Runtime>(std::move(display));
 }
 
-// The tables of the classes are constants, so only the fields of the modules are left to begin
-// with.
+// The class tables are constants, so only the module-level fields need to be initialised.
 void RuntimePerformInitializers() {
   Runtime& runtime = Runtime::Current();
   runtime.ModuleFields<FileTypes::Fields>() = {};
@@ -48,7 +47,8 @@ void RuntimePerformInitializers() {
 
 void _InitFileTypes() { FileTypes::_Initialize(); }
 
-// The menu bar is there before the object is registered, and App works from the registration on.
+// The menu bar is created before the object is registered, and App() works from the registration
+// on.
 void _NewAppInstance() {
   constexpr std::int64_t kFinalStage = 3;
   const Ref<HandleAboutMenu> app = New<HandleAboutMenu>();
@@ -74,18 +74,17 @@ void _EarlyStartup() {
   Step("_ApplicationAddMenuHandlers", _ApplicationAddMenuHandlers);
 }
 
-// Naming the window makes it, and its own state brings it on the screen.
+// The accessor creates the window, which shows itself because its initial state is visible.
 void _MakeDefaultView() { AboutWnd(); }
 
 void _LateStartup() { Step("_MakeDefaultView", _MakeDefaultView); }
 
-// The toolkit's own start is over once the display is there, so all that is left is the program's
-// part.
+// The toolkit is ready as soon as the display exists, so only the program's own start remains.
 void _RunFrameworkInitialization(const Delegate<void()>& late_startup) { late_startup.Invoke(); }
 
 void _RuntimeRun() { Runtime::Current().Run(); }
 
-// Takes what leaves the steps for an unhandled exception.
+// Treats an exception that leaves the steps as unhandled.
 template <class Steps>
 void Guarded(Steps&& steps) {
   try {
@@ -131,7 +130,7 @@ int Process::Finish() {
   } catch (...) {
     _UnhandledException(std::current_exception());
   }
-  // The finalisers take the module-level fields.
+  // The finalisers destroy the module-level fields, and the observer with them.
   const StepObserver observer = std::move(runtime_->ModuleFields<StartupFields>().observer);
   Tell(observer, "RuntimePerformFinalizers");
   RuntimePerformFinalizers();

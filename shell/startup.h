@@ -10,7 +10,7 @@
 
 namespace vamo {
 
-// Told the name of each step before the step runs. An exception that it throws makes the step fail.
+// Called with the name of each step before the step runs. If it throws, the step fails.
 using StepObserver = std::function<void(std::string_view step)>;
 
 class Runtime;
@@ -18,21 +18,21 @@ class Runtime;
 // The program on a display, from the start of the run time to its end.
 class Process {
  public:
-  // Takes the steps up to the event loop and the loop itself, as far as the display runs one.
+  // Runs the start-up steps and then the event loop, unless the platform owns the loop.
   explicit Process(std::unique_ptr<Display> display, StepObserver observer = nullptr);
   ~Process();
   Process(const Process&) = delete;
   Process& operator=(const Process&) = delete;
 
-  // To be called once, when the event loop has ended. The result is the exit status of the process:
-  // the argument of Quit, or 1 after an unhandled exception.
+  // Call this once, when the event loop has ended. Returns the exit status of the process: the
+  // argument of Quit, or 1 after an unhandled exception.
   int Finish();
 
  private:
   const std::unique_ptr<Runtime> runtime_;
 };
 
-// Runs the program on a display whose event loop is its own, and gives the exit status.
+// Runs the program on a display that runs its own event loop, and returns the exit status.
 int Main(std::unique_ptr<Display> display, StepObserver observer = nullptr);
 
 }  // namespace vamo

@@ -1,5 +1,5 @@
-// The program: Vamo on the display in a browser's page. The browser has the event loop, so the
-// process goes on when main has returned, and may be started again on the same page.
+// The program: Vamo in a browser page. The browser owns the event loop, so the process outlives
+// main, and it can be started again on the same page.
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -13,7 +13,7 @@ namespace {
 
 std::unique_ptr<vamo::Process> process;
 
-// What is typed has to wait for the window behind the splash.
+// Typing must wait for the window behind the splash.
 void Follow(std::string_view link) {
   std::vector<vamo::LinkedValue> values = vamo::ParseLink(link);
   if (values.empty()) return;
@@ -39,5 +39,5 @@ void StartWithLink() {
 
 }  // namespace
 
-// As an event of its own, whose errors the page takes for the end.
+// Starts in an event, because the page treats an error in an event as the end of the program.
 int main() { vamo::page::Post(StartWithLink); }

@@ -1,4 +1,5 @@
-// Fisher's z and the interval. The order of the operations is kept: the result depends on it.
+// Fisher's z and the confidence interval. Keep the order of the operations: the last bits of the
+// results depend on it.
 #include "stats/interval.h"
 
 #include <algorithm>
@@ -8,11 +9,11 @@
 namespace vamo {
 namespace {
 
-// The two-tailed 5% point of the normal distribution, to the two decimals that textbooks use.
+// The two-tailed 5% point of the normal distribution, to two decimals as in textbooks.
 constexpr double kStandardErrors = 1.96;
 
 double StandardError(std::int64_t N) {
-  // Every N below 3 has the root of a negative number here; 0 stands for those below 0, so that the
+  // Every N below 3 gives the root of a negative number here. N below 0 counts as 0, so that the
   // difference cannot overflow.
   const std::int64_t pairs = std::max<std::int64_t>(N, 0);
   return 1.0 / Sqrt(static_cast<double>(pairs - 3));
@@ -39,7 +40,8 @@ Interval ComputeInterval(double r, std::int64_t N) {
   const double zHigh = z + kStandardErrors * se;
   double lo = CorrelationOf(zLow);
   double hi = CorrelationOf(zHigh);
-  // Not std::clamp: not-a-number passes, and each limit has the one end that it can reach.
+  // Not std::clamp, which does not allow not-a-number. Each limit can leave the range at one end
+  // only.
   if (lo < -1.0) {
     lo = -1.0;
   }

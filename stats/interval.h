@@ -6,22 +6,23 @@
 
 namespace vamo {
 
-// Fisher's z transformation of the correlation `r`, artanh r: half the natural logarithm of
-// (1 + r) / (1 - r). Domain: r from 0 up to .99999; every r between -1 and 1 works. 1 and -1 give
-// the infinities, an r beyond them gives not-a-number.
+// Fisher's z transformation of the correlation `r`: artanh r, half the natural logarithm of
+// (1 + r) / (1 - r). Domain: r from 0 to .99999; any r between -1 and 1 works. 1 and -1 give
+// infinities; an r beyond them gives not-a-number.
 double FisherZ(double r);
 
-// The limits of a confidence interval, both correlations between -1 and 1.
+// The limits of a confidence interval: correlations between -1 and 1.
 struct Interval {
   double lo;
   double hi;
 };
 
-// The 95% confidence interval of the correlation of which a sample of `N` pairs gave `r`.
+// The 95% confidence interval for a correlation, where `r` is the correlation of a sample of `N`
+// pairs.
 //
-// Fisher's z plus and minus 1.96 standard errors of 1 / sqrt(N - 3), brought back to the scale of
-// r. Domain: r from 0 up to .99999, N of 4 and above. N = 3 has an infinite standard error: lo is
-// -1 and hi is not-a-number. Below that both are not-a-number.
+// It is Fisher's z plus and minus 1.96 standard errors of 1 / sqrt(N - 3), transformed back to the
+// scale of r. Domain: r from 0 to .99999, N of 4 or more. For N = 3 the standard error is infinite:
+// lo is -1 and hi is not-a-number. For N below 3 both are not-a-number.
 Interval ComputeInterval(double r, std::int64_t N);
 
 }  // namespace vamo

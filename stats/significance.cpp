@@ -1,4 +1,5 @@
-// Student's t and its p. The order of the operations is kept: the result depends on it.
+// Student's t and its p. Keep the order of the operations: the last bits of the results depend on
+// it.
 #include "stats/significance.h"
 
 #include <algorithm>
@@ -10,23 +11,23 @@ namespace {
 
 constexpr std::int64_t kSmallestN = 4;
 
-// The smallest t that is distinguished from 0.
+// A smaller t counts as 0.
 constexpr double kSmallestT = 0.00001;
-// What p is shown between.
+// The values that stand for a p too close to 0 and for the p of t = 0.
 constexpr double kSmallestP = 0.00001;
 constexpr double kLargestP = 0.99999;
 
-// 1 - 2 / pi to eight places: the odd series has the factor 2 / pi, the even one 1.
+// 1 - 2 / pi to eight places. The factor of the odd series is 2 / pi, that of the even series 1.
 constexpr double kOddSeriesShortfall = 0.36338023;
 
-// An N below 0 counts as 0, which has no distribution either: N - 2 cannot overflow.
+// N below 0 counts as 0, which has no degrees of freedom either, so that N - 2 cannot overflow.
 std::int64_t DegreesOfFreedom(std::int64_t N) { return std::max<std::int64_t>(N, 0) - 2; }
 
-// Adds `passes` terms to `sum`, the first of them the one that follows `term`; `i` is the numerator
-// of the factor of `term`, its denominator is always one more.
+// Adds `passes` terms to `sum`, beginning with the one that follows `term`. `i` is the numerator of
+// the factor of `term`; its denominator is i + 1.
 //
-// The terms have one sign and never grow. So once a term is too small to change the sum, no later
-// one changes it, and the sum is what all the passes would give.
+// All terms have the same sign and never grow. So once a term is too small to change the sum, no
+// later one changes it, and the sum is the same as after all passes.
 double AddTerms(double sum, double term, double c, std::int64_t i, std::int64_t passes) {
   for (std::int64_t k = 1; k <= passes; ++k) {
     i += 2;

@@ -1,6 +1,5 @@
-// The conversions. The C library reads and writes the digits, and only the digits: its decimal mark
-// is the one thing that the process's locale can change, so no mark is given to it or taken from
-// it.
+// The conversions. They use only the digits that the C library reads and writes, never its decimal
+// mark, the one thing that depends on the process's locale.
 #include "toolkit/conversions.h"
 
 #include <algorithm>
@@ -16,10 +15,10 @@
 namespace vamo {
 namespace {
 
-// No double has more decimals than this; all further ones are zeros.
+// No double has more decimals than this; any further ones are zeros.
 constexpr std::size_t kMostDecimals = 1074;
 
-// No double, and no tie between two, has more significant digits than this.
+// No double, and no tie between two of them, has more significant digits than this.
 constexpr std::size_t kMostSignificantDigits = 768;
 
 struct Layout {
@@ -57,7 +56,8 @@ struct Digits {
 };
 
 Digits RoundToDecimals(double magnitude, std::size_t decimals) {
-  // Room for the 309 whole digits of the largest double, a mark of several bytes and the decimals.
+  // Room for the 309 whole digits of the largest double, a decimal mark of several bytes and the
+  // decimals.
   std::array<char, 309 + 17 + kMostDecimals> buffer{};
   const std::size_t exact = std::min(decimals, kMostDecimals);
   const int length =
@@ -87,7 +87,7 @@ std::string_view SignText(bool negative, bool plus_shown) {
   return plus_shown ? "+" : "";
 }
 
-// A decimal number without a sign while it is read, digit by digit.
+// An unsigned decimal number while it is read, digit by digit.
 class Decimal {
  public:
   void Append(char digit, bool after_point) {
@@ -109,7 +109,7 @@ class Decimal {
     if (digits_.empty()) {
       return 0.0;
     }
-    // Of the digits left out, rounding needs to know only whether there is one that is not zero.
+    // Rounding only needs to know whether any of the omitted digits is not zero.
     const std::string text = digits_ + (rest_ ? "1e" : "0e") + std::to_string(exponent_ - 1);
     return std::min(std::strtod(text.c_str(), nullptr), std::numeric_limits<double>::max());
   }
@@ -135,7 +135,7 @@ double UnsignedVal(std::string_view text) {
   return decimal.Value();
 }
 
-// U+FFFD for what is no well-formed character.
+// Returns U+FFFD if the text does not start with a well-formed character.
 std::int64_t FirstCodePoint(std::string_view text) {
   const std::size_t length = SequenceLength(text);
   if (length == 0) {
@@ -189,7 +189,7 @@ double Val(std::string_view text) {
     text.remove_prefix(1);
   }
   const double magnitude = UnsignedVal(text);
-  return negative ? 0.0 - magnitude : magnitude;  // the difference has no negative zero
+  return negative ? 0.0 - magnitude : magnitude;  // never a negative zero
 }
 
 std::string Str(std::int64_t value, std::string_view mask) {

@@ -5,7 +5,7 @@
 namespace vamo {
 namespace {
 
-// The same in one dimension.
+// Stretched, in one dimension.
 void Stretch(std::int64_t& begin, std::int64_t& length, std::int64_t growth, bool begin_locked,
              bool end_locked) {
   if (!end_locked) return;

@@ -1,4 +1,4 @@
-// Where things lie on a window, and how they look.
+// Positions, colours and fonts on a window.
 #ifndef VAMO_TOOLKIT_STYLE_H_
 #define VAMO_TOOLKIT_STYLE_H_
 
@@ -14,7 +14,7 @@ struct Colour {
   bool operator==(const Colour&) const = default;
 };
 
-// How text on a control is drawn. "System" as the name is the platform's interface font.
+// The font of a control's text. The name "System" means the platform's interface font.
 struct Font {
   std::string name = "System";
   float size = 12;
@@ -23,10 +23,10 @@ struct Font {
   bool underline = false;
 };
 
-// How a text lies in its control. The numbers are those of the property TextAlignment.
+// How text is aligned in its control. The numbers are those of the property TextAlignment.
 enum class TextAlignment : std::int64_t { kDefault = 0, kLeft = 1, kCentre = 2, kRight = 3 };
 
-// A rectangle on a window, from the top left corner of its content area.
+// A rectangle on a window, in logical pixels from the top left corner of the content area.
 struct Bounds {
   std::int64_t left = 0;
   std::int64_t top = 0;
@@ -34,8 +34,8 @@ struct Bounds {
   std::int64_t height = 0;
 };
 
-// Whether each side of a control keeps its distance to the window's side when the window changes
-// its size.
+// Whether each side of a control keeps its distance from that side of the window when the window is
+// resized.
 struct Locks {
   bool left = false;
   bool top = false;
@@ -43,9 +43,9 @@ struct Locks {
   bool bottom = false;
 };
 
-// Where a control designed for `bounds` lies once its window has grown by `wider` and `taller`:
-// locked on both sides it stretches, to no length below 0; locked at the right or the bottom alone
-// it moves; else it stays.
+// Returns the bounds of a control that is designed for `bounds` when its window has grown by
+// `wider` and `taller`. A control locked on both sides stretches, but never to less than 0; one
+// locked only at the right or bottom moves; any other stays.
 Bounds Stretched(const Bounds& bounds, const Locks& locks, std::int64_t wider, std::int64_t taller);
 
 }  // namespace vamo

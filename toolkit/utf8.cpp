@@ -11,7 +11,8 @@ unsigned char Byte(char c) { return static_cast<unsigned char>(c); }
 
 bool IsContinuation(char c) { return (Byte(c) & 0xC0) == 0x80; }
 
-// The UTF-16 units of the character that begins with this byte; 0 for a byte inside a character.
+// The number of UTF-16 code units of the character that begins with this byte; 0 for a byte inside
+// a character.
 std::size_t Utf16Units(char c) {
   if (IsContinuation(c)) return 0;
   return Byte(c) >= 0xF0 ? 2 : 1;

@@ -1,4 +1,4 @@
-// The few things that must be known about UTF-8.
+// The few operations on UTF-8 that the toolkit needs.
 #ifndef VAMO_TOOLKIT_UTF8_H_
 #define VAMO_TOOLKIT_UTF8_H_
 
@@ -8,28 +8,29 @@
 
 namespace vamo {
 
-// The length in bytes of the character at the start of `text`, which is not empty; 0 where it is
-// not well-formed: a stray or missing continuation byte, an overlong form, a surrogate, a code
-// point above U+10FFFF.
+// Returns the length in bytes of the character at the start of `text`, which must not be empty; 0
+// if it is not well-formed: a stray or missing continuation byte, an overlong form, a surrogate, or
+// a code point above U+10FFFF.
 std::size_t SequenceLength(std::string_view text);
 
-// `text` with every broken sequence replaced by U+FFFD. What comes from outside, a paste say,
-// passes through here, so that all other code can count on whole characters. Linear in the length.
+// Returns `text` with U+FFFD in place of each byte that is not part of a well-formed character.
+// Text from outside, such as a paste, passes through here, so that all other code can rely on whole
+// characters. Takes linear time.
 std::string ValidUtf8(std::string_view text);
 
-// The number of characters (code points) of valid UTF-8.
+// The number of characters (code points) in valid UTF-8.
 std::size_t CharacterCount(std::string_view text);
 
-// The byte offset of the character before or after the one that stands at byte offset `at` of
-// valid UTF-8. Stops at the ends of the text.
+// The byte offset of the character before or after the one at byte offset `at` in valid UTF-8.
+// Stops at the ends of the text.
 std::size_t PreviousCharacter(std::string_view text, std::size_t at);
 std::size_t NextCharacter(std::string_view text, std::size_t at);
 
-// The greatest character boundary of valid UTF-8 that is not above `at`.
+// The last character boundary at or before byte offset `at` in valid UTF-8.
 std::size_t CharacterBoundary(std::string_view text, std::size_t at);
 
-// The offset in the UTF-16 form of valid UTF-8 that belongs to a byte offset, and the other way
-// round, for displays whose texts are UTF-16. An offset past the end is the end.
+// Convert a byte offset in valid UTF-8 to the offset in its UTF-16 form and back, for displays
+// whose texts are UTF-16. An offset past the end gives the end.
 std::size_t Utf16Offset(std::string_view text, std::size_t byte_offset);
 std::size_t ByteOffset(std::string_view text, std::size_t utf16_offset);
 

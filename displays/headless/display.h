@@ -19,9 +19,9 @@ class HeadlessTimer;
 class HeadlessUser;
 class HeadlessWindow;
 
-// A whole display in memory, without pixels, for tests and measurements. What its user does while
-// the program runs is a function passed to it. Positions on the screen mean nothing to it, and its
-// clock stands still unless it is told to go on.
+// A complete display in memory, without pixels, for tests and measurements. The function passed to
+// it does what the user does while the program runs. It has no positions on the screen, and its
+// clock stands still until LetTimePass.
 class HeadlessDisplay : public Display {
  public:
   // The loop ends when `act` returns.
@@ -46,14 +46,14 @@ class HeadlessDisplay : public Display {
   // ended.
   void Do(const std::function<void()>& act);
   void LetTimePass(std::chrono::milliseconds time);
-  // The images that can be opened; by default every one can.
+  // From now on no image can be opened; by default every one can.
   void RemovePictures() { has_pictures_ = false; }
-  // By default Tab stays in the window.
+  // From now on Tab can leave a window; by default it stays inside.
   void LetTabLeave() { tab_leaves_ = true; }
 
   bool Running() const { return !stopped_; }
   WindowOrder<HeadlessWindow>& Order() { return order_; }
-  // The window that has the keys. InvalidArgumentException where none has.
+  // The active window. Raises InvalidArgumentException if there is none.
   HeadlessWindow& ActiveWindow() const;
   const std::string& Clipboard() const { return clipboard_; }
   // How often the clipboard has been read.
@@ -67,7 +67,7 @@ class HeadlessDisplay : public Display {
   friend class HeadlessTimer;
   friend class HeadlessWindow;
 
-  // Activates what the last act has shown, or what has come to the front by it.
+  // Activates the window that the last act has shown or brought to the front.
   void RunEvents();
 
   std::function<void(HeadlessUser&)> act_;

@@ -15,7 +15,7 @@
 namespace vamo {
 namespace {
 
-// Where a key takes the caret.
+// Where a key moves the caret.
 std::size_t MovedCaret(std::string_view text, std::size_t caret, KeyCode code) {
   switch (code) {
     case KeyCode::kLeft:
@@ -54,7 +54,7 @@ ControlClass& HeadlessUser::Find(Role role, std::string_view name) const {
 
 void HeadlessUser::PressKey(const Key& key) {
   display_.Do([&] {
-    // Held, since the key may close it.
+    // Held here, because the key may close it.
     const Ref<vamo::Window> window = Self(&display_.ActiveWindow().Shown());
     if (window->UserPressedKey(key) || !window->Focus()) return;
     if (auto* text = dynamic_cast<TextEdit*>(&*window->Focus())) MoveCaret(*text, key);
@@ -97,7 +97,7 @@ void HeadlessUser::ClickOn(const HeadlessControl& control) {
     button->UserPressed(1, 1);
   } else if (target.CanTakeFocus()) {
     window.UserFocused(Self(&target));
-    // The caret goes to the end, since there are no places here.
+    // There are no positions here, so the caret goes to the end.
     auto* text = dynamic_cast<TextEdit*>(&target);
     if (text != nullptr) text->UserSelected(text->Text().size(), text->Text().size());
     window.UserClicked(Self(&target));

@@ -17,8 +17,8 @@ namespace vamo {
 class HeadlessControl;
 class MenuItem;
 
-// The user of a display without pixels. A key in a text control that the program leaves alone moves
-// the caret or, with A and the command key, selects all.
+// The user of the headless display. A key that the program does not handle moves the caret of a
+// text control or, if it is A with the command key, selects all.
 class HeadlessUser : public User {
  public:
   explicit HeadlessUser(HeadlessDisplay& display) : display_(display) {}
@@ -45,13 +45,13 @@ class HeadlessUser : public User {
   int Beeps() override { return display_.Beeps(); }
   std::vector<std::string> Hears() override { return display_.TakeAnnouncements(); }
 
-  // What only this display's user does and knows.
+  // What only the user of this display does and knows.
   void Drop(Role role, std::string_view name, std::string_view text);
-  // Text from an input method, as a whole.
+  // Enters text as a whole, as an input method does.
   void Dictate(std::string_view text);
   void Select(std::string_view field, std::size_t anchor, std::size_t caret);
   void ClickDescribed(std::string_view description);
-  // A click on another program's window.
+  // Clicks on a window of another program.
   void SwitchAway();
   HeadlessDisplay& Display() const { return display_; }
 

@@ -14,7 +14,7 @@
 namespace vamo {
 namespace {
 
-// Copies what only controls of one class have.
+// Copies the state that is specific to one class of control.
 void CopyOwn(const Canvas& /*canvas*/, ShownControl& /*shown*/) {}
 
 void CopyOwn(const Rectangle& /*rectangle*/, ShownControl& /*shown*/) {}
@@ -78,7 +78,7 @@ std::unique_ptr<ControlView> HeadlessWindow::CreateControl(AnyControl control) {
 
 void HeadlessWindow::Show(bool activate) {
   on_screen_ = true;
-  // A screen activates a window when it comes around to it, not while the program asks for it.
+  // A desktop activates a window some time after the program has asked for it, not during the call.
   if (activate) display_.order_.Show(*this);
 }
 

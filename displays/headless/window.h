@@ -1,4 +1,4 @@
-// The windows, controls and timers of the display without pixels.
+// The windows, controls and timers of the headless display.
 #ifndef VAMO_DISPLAYS_HEADLESS_WINDOW_H_
 #define VAMO_DISPLAYS_HEADLESS_WINDOW_H_
 
@@ -14,8 +14,8 @@
 
 namespace vamo {
 
-// A control as it is shown: the copy of its state, made when it asked for it. What a control
-// forgets to have shown stays out of it.
+// A control as it is shown: a copy of its state, made at its last Update. A change without an
+// Update does not show.
 class HeadlessControl : public ControlView {
  public:
   HeadlessControl(HeadlessWindow& window, AnyControl control);
@@ -26,7 +26,7 @@ class HeadlessControl : public ControlView {
   RectControl& Control() const { return control_; }
   HeadlessWindow& Window() const { return window_; }
   const ShownControl& Shown() const { return shown_; }
-  // The control's present state, as it would be shown.
+  // The control's current state, as an Update would show it.
   ShownControl Present() const;
 
  private:
@@ -36,7 +36,7 @@ class HeadlessControl : public ControlView {
   ShownControl shown_;
 };
 
-// A window as it is shown: whether it is on the screen, and which of its controls has the keys.
+// A window as it is shown: whether it is on the screen, and which of its controls has the focus.
 class HeadlessWindow : public WindowView {
  public:
   HeadlessWindow(HeadlessDisplay& display, vamo::Window& window);
@@ -70,7 +70,7 @@ class HeadlessTimer : public RunningTimer {
   ~HeadlessTimer() override;
 
   std::chrono::milliseconds Due() const { return due_; }
-  // Fires, and is due again a period later. The timer may be gone afterwards.
+  // Fires, and is due again after a period. What fires may destroy the timer.
   void Fire();
 
  private:

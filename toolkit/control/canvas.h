@@ -10,7 +10,7 @@
 
 namespace vamo {
 
-// An image that the display has decoded. It cannot be drawn into.
+// An image that the display has decoded. The program cannot draw into it.
 class Picture : public Object {
  public:
   static const ClassInfo kClass;
@@ -18,7 +18,7 @@ class Picture : public Object {
 
   explicit Picture(std::shared_ptr<DisplayPicture> image) : image_(std::move(image)) {}
 
-  // The image of that file name among the application's resources; nil where there is none or it
+  // Opens the image of that file name in the application's resources; nil if there is none or it
   // cannot be decoded.
   static Ref<Picture> _OpenFromApp(std::string_view file_name);
 

@@ -1,4 +1,4 @@
-// What a window holds: the roots of the controls.
+// The base classes of what a window holds: children, controls, and controls with a rectangle.
 #ifndef VAMO_TOOLKIT_CONTROL_CONTROL_H_
 #define VAMO_TOOLKIT_CONTROL_CONTROL_H_
 
@@ -19,24 +19,23 @@
 namespace vamo {
 
 class Label;
-// A control can tell which window holds it. It asks nothing of it: a window knows its controls, not
-// the other way round.
+// A control knows which window holds it but calls nothing of it.
 class Window;
 
-// What a window asks of everything that it holds under a name, be it a control or not.
+// What a window needs of everything that it holds under a name, whether it is a control or not.
 class _PaneChild {
  public:
   virtual ~_PaneChild() = default;
-  // The window keeps its children alive; none of them keeps the window alive.
+  // The window keeps its children alive; a child must not keep the window alive.
   virtual void _SetWindow(const Ref<class Window>& window) = 0;
-  // The window, or nil before _SetWindow and once the window has gone.
+  // The window; nil before _SetWindow and once the window is destroyed.
   virtual Ref<class Window> Window() const = 0;
-  // The place in a control set.
+  // The index in a control set.
   virtual std::int64_t _Index() const = 0;
   virtual void _SetIndex(std::int64_t index) = 0;
 };
 
-// The root of the controls: it knows its name and its window. It has no place on the screen.
+// The base of all controls, with a name and a window but no place on the screen.
 class Control : public Object, public _PaneChild {
  public:
   static const ClassInfo kClass;
@@ -56,8 +55,8 @@ class Control : public Object, public _PaneChild {
   std::int64_t index_ = 0;
 };
 
-// A control with a rectangle on the window. It holds what all visible controls have in common; what
-// a key or the mouse does to it is up to its subclasses.
+// A control with a rectangle on the window. It holds what all visible controls have in common; its
+// subclasses handle keys and the mouse.
 class RectControl : public Control {
  public:
   static const ClassInfo kClass;
@@ -65,8 +64,8 @@ class RectControl : public Control {
 
   const vamo::Bounds& Bounds() const { return Trapped(bounds_); }
   const vamo::Locks& Locks() const { return Trapped(locks_); }
-  // The name of the control in which this one lies; empty where it lies on the window itself.
-  // Bounds are the window's coordinates in both cases.
+  // The name of the control that contains this one; empty if the window does. In both cases the
+  // bounds are in window coordinates.
   const std::string& InitialParent() const { return Trapped(initial_parent_); }
 
   bool Visible() const { return Trapped(visible_); }
@@ -78,41 +77,41 @@ class RectControl : public Control {
   std::int64_t TabIndex() const { return Trapped(tab_index_); }
   bool TabStop() const { return Trapped(tab_stop_); }
   void SetTabStop(bool tab_stop);
-  // Whether the control can have the keys at all, now.
+  // Whether the control can have the focus now.
   bool CanTakeFocus() const { return Trapped(TakesKeys() && enabled_ && visible_); }
 
-  // What a screen reader says of the control. A label without a name of its own is read by its
-  // text.
+  // What a screen reader reads for the control. For a label without a name it reads the text.
   const std::string& AccessibleName() const { return Trapped(accessible_name_); }
   const std::string& AccessibleDescription() const { return Trapped(accessible_description_); }
   void SetAccessibleName(std::string_view name);
   void SetAccessibleDescription(std::string_view description);
-  // The caption that stands for this control, or nil.
+  // The label that is the caption of this control, or nil.
   Ref<Label> LabelledBy() const { return Trapped(labelled_by_.Value()); }
   void SetLabelledBy(const Ref<Label>& label);
 
-  // Called by the window when a key comes while this control has the focus. True: the key has been
-  // dealt with. False: it is free for the window, and then for the display.
+  // Called by the window for a key while this control has the focus. True: the key is handled.
+  // False: it is left to the window, and then to the display.
   virtual bool TakeKey(const Key& /*key*/) { return false; }
-  // Called by the window when Tab has brought the focus here, or a click that was no drag.
+  // Called by the window when Tab, or a click that was not a drag, has entered the control.
   virtual void EnteredByTab() {}
   virtual void EnteredByClick() {}
-  // Called by the window with a text that an input method has typed as a whole, in valid UTF-8: the
-  // characters that are then typed one by one.
+  // Called by the window with text that an input method has entered as a whole, in valid UTF-8.
+  // Returns the characters that are then typed one by one.
   virtual std::string Typed(std::string_view text) const { return std::string(text); }
 
-  // Called once by the window: makes the control's part on the display.
+  // Called once by the window: creates the control's view.
   void Open(WindowView& window_view) { view_ = window_view.CreateControl(AsAny()); }
-  // Calls `changed`, too, after each change of something that is shown. One observer at most.
+  // Also calls `changed` after each change of something that is shown. There is at most one
+  // observer.
   void SetObserver(std::function<void()> changed) { observer_ = std::move(changed); }
-  // Gives up the part on the display and the observer.
+  // Destroys the view and drops the observer.
   void TakeOffDisplay();
 
  protected:
   virtual AnyControl AsAny() = 0;
-  // Whether keys mean anything to controls of this class.
+  // Whether controls of this class handle keys.
   virtual bool TakesKeys() const { return false; }
-  // Shows the present state. To be called after each change of something that is shown.
+  // Shows the current state. Call this after each change of something that is shown.
   void Changed();
 
  private:

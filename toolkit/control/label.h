@@ -8,8 +8,8 @@
 
 namespace vamo {
 
-// A text that the user can read and not change. A text that is wider than the label is left to
-// the display, which draws it narrower, never cut off.
+// Text that the user can read but not change. A text wider than the label extends beyond it where
+// there is room and is narrowed to fit the room; it is never cut off.
 class Label : public RectControl {
  public:
   static const ClassInfo kClass;

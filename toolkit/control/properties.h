@@ -1,5 +1,5 @@
-// The properties that streams carry, by name and type. Which class has which, and what a property
-// sets, stands in the table of the class.
+// The names and types of the properties that streams carry. The table of each class says which of
+// them it has and what they set.
 #ifndef VAMO_TOOLKIT_CONTROL_PROPERTIES_H_
 #define VAMO_TOOLKIT_CONTROL_PROPERTIES_H_
 
@@ -115,13 +115,13 @@ inline constexpr Text kValidationMask{"ValidationMask"};
 inline constexpr PropertyName<RunMode> kRunMode{"RunMode"};
 inline constexpr PropertyName<TextAlignment> kTextAlignment{"TextAlignment"};
 inline constexpr PropertyName<WindowType> kType{"Type"};
-// A text on a control, and the position of a slider.
+// The text of a control, and the position of a slider.
 inline constexpr Text kValue{"Value"};
 inline constexpr Integer kPosition{"Value"};
 
 }  // namespace property
 
-// The rows of a class that keeps its font in the member `kFont`.
+// The table rows of a class that keeps its font in the member `kFont`.
 template <auto kFont>
 constexpr std::array<Property, 6> FontRows() {
   return {Sets<kFont, &Font::name>(property::kFontName),

@@ -9,7 +9,7 @@
 
 namespace vamo {
 
-// A button for the mouse and for assistive technology. It never has the keys: Space and Return do
+// A button for the mouse and for assistive technology. It never has the focus: Space and Return do
 // nothing to it.
 class PushButton : public RectControl {
  public:
@@ -20,14 +20,15 @@ class PushButton : public RectControl {
   const vamo::Font& Font() const { return Trapped(font_); }
   bool Default() const { return Trapped(default_); }
 
-  // Raised when the mouse goes down on the button, with the place in the button's own coordinates.
-  // True: the handler has dealt with the press. False: the button goes on as buttons do.
+  // Raised when the mouse is pressed on the button, with the position in the button's own
+  // coordinates. True: the handler has handled the press. False: the button reacts as buttons do.
   Delegate<bool(Ref<PushButton>, std::int64_t, std::int64_t)> MouseDown;
 
-  // The mouse has gone down at that place of the button. Returns MouseDown's answer. A disabled
-  // button raises nothing.
+  // The mouse has been pressed at that position in the button. Returns the result of MouseDown. A
+  // disabled button raises nothing and returns False.
   bool UserPressed(std::int64_t x, std::int64_t y);
-  // Assistive technology has pressed the button: as the mouse at its centre.
+  // Assistive technology has pressed the button. This is handled as a press of the mouse at its
+  // centre.
   bool UserPressedByAssistiveTechnology();
 
  protected:

@@ -5,8 +5,7 @@
 
 namespace vamo {
 
-// A filled rectangle with a border in two colours, which other controls may lie in. It takes no
-// input.
+// A filled rectangle with a border in two colours. Other controls may lie in it. It takes no input.
 class Rectangle : public RectControl {
  public:
   static const ClassInfo kClass;
@@ -15,7 +14,7 @@ class Rectangle : public RectControl {
   // In logical pixels, on each side.
   double BorderThickness() const { return Trapped(border_thickness_); }
   Colour FillColour() const { return Trapped(fill_colour_); }
-  // The colours of the border at the left and the top, and at the right and the bottom.
+  // The colours of the border: left and top, and right and bottom.
   Colour TopLeftColour() const { return Trapped(top_left_colour_); }
   Colour BottomRightColour() const { return Trapped(bottom_right_colour_); }
 

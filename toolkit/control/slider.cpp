@@ -28,8 +28,7 @@ constinit const ClassInfo Slider::kClass{
 
 std::int64_t Slider::Value() const {
   _UITrap();
-  // A stream sets the position before the range, so the range is applied here and not in the
-  // setter.
+  // A stream sets the position before the range, so the range is applied here, not in the setter.
   return std::max(minimum_, std::min(value_, maximum_));
 }
 
@@ -77,7 +76,7 @@ bool Slider::TakeKey(const Key& key) {
   }
 }
 
-// A stream may set any step, so this is computed in doubles, which do not overflow.
+// A stream may set any step, so this calculates in doubles, which do not overflow.
 void Slider::MoveBy(std::int64_t times, std::int64_t step) {
   const double way = static_cast<double>(times) * static_cast<double>(step);
   UserMovedTo(Truncate(static_cast<double>(Value()) + way));

@@ -8,8 +8,8 @@
 
 namespace vamo {
 
-// A knob on a horizontal line of whole positions, moved by the user alone. Where on the screen a
-// position lies is the display's matter.
+// A knob on a horizontal line of whole positions. Only the user moves it. The display decides where
+// on the screen a position lies.
 class Slider : public RectControl {
  public:
   static const ClassInfo kClass;
@@ -21,18 +21,18 @@ class Slider : public RectControl {
   std::int64_t MaximumValue() const { return Trapped(maximum_); }
   std::int64_t LineStep() const { return Trapped(line_step_); }
   std::int64_t PageStep() const { return Trapped(page_step_); }
-  // What assistive technology reads for a position: position / positions.
+  // Assistive technology reads a position as position / positions.
   void SetPositionsPerUnit(std::int64_t positions) { positions_per_unit_ = Trapped(positions); }
   double InUnits(std::int64_t position) const {
     return static_cast<double>(Trapped(position)) / static_cast<double>(positions_per_unit_);
   }
 
-  // Raised for each new position that the user has set.
+  // Raised for each new position that the user sets.
   Delegate<void(Ref<Slider>)> ValueChanged;
 
-  // The user has moved the knob to a position; one outside of the range is the nearer end.
+  // The user has moved the knob to a position; outside the range, it moves to the nearer end.
   void UserMovedTo(std::int64_t position);
-  // Assistive technology has set a value, in its own unit: the nearest position.
+  // Assistive technology has set a value in its own unit; the knob moves to the nearest position.
   void UserSetByAssistiveTechnology(double value);
   // The user has turned the wheel by `notches`, positive away from the user.
   void UserTurnedWheel(std::int64_t notches);

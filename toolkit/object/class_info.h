@@ -1,4 +1,4 @@
-// The table of a class: its name, and the names, types and setters of its properties.
+// The table of a class: its name, its events, and the names, types and setters of its properties.
 #ifndef VAMO_TOOLKIT_OBJECT_CLASS_INFO_H_
 #define VAMO_TOOLKIT_OBJECT_CLASS_INFO_H_
 
@@ -17,45 +17,44 @@
 
 namespace vamo {
 
-// A property's name and the type of its values: what the table of a class and the writer of a
-// stream have in common. An enumeration is an integer in a stream.
+// A property's name and the type of its values, shared by the class tables and the writer of
+// streams. In a stream an enumeration is an integer.
 template <class T>
 struct PropertyName {
   std::string_view text;
 };
 
-// A property's value. The order of the alternatives is that of PropertyType.
+// A property's value. The alternatives are in the order of PropertyType.
 using PropertyValue = std::variant<bool, std::int64_t, double, float, Colour, std::string_view>;
 
-// The declared type of a property, which alone tells how wide its value is in a stream.
+// The declared type of a property. It determines how a stream stores the value.
 enum class PropertyType : std::size_t { kBoolean, kInteger, kDouble, kSingle, kColour, kText };
 
 // One property of a class.
 struct Property {
   std::string_view name;
   PropertyType type = PropertyType::kBoolean;
-  // Sets the property on an object of the class; null where the value is skipped, since no display
-  // has anything to show for it.
+  // Sets the property on an object of the class; null if the value is skipped, because no display
+  // has a use for it.
   void (*set)(Object& object, const PropertyValue& value) = nullptr;
 };
 
-// What a class tells about itself at run time. The tables are constants from
-// the start (`constinit`), so that no other constant of the program can see one that is still
-// empty.
+// What is known about a class at run time. The tables are `constinit`, so that no other static
+// object can see an empty one.
 struct ClassInfo {
   std::string_view name;
   const ClassInfo* base = nullptr;
   std::span<const Property> properties = {};
   // The events that the class implements.
   std::span<const std::string_view> events = {};
-  // Allocates an object; null for a class of which a window holds none.
+  // Allocates an object; null if windows hold no objects of this class.
   Ref<Object> (*allocate)() = nullptr;
 
-  // The property of that name in the class or in one of its bases; null where there is none.
+  // Finds the property of that name in the class or its bases; null if there is none.
   const Property* Find(std::string_view property) const;
 };
 
-// For the table of the class T.
+// The function for `allocate` in the table of the class T.
 template <class T>
 Ref<Object> Allocate() {
   return New<T>();
@@ -96,7 +95,7 @@ T Get(const PropertyValue& value) {
 
 }  // namespace internal
 
-// A property that is written by a setter, or to the member that keeps it.
+// A property that is set by a setter or directly in a member.
 template <auto kMember, class T>
 constexpr Property Sets(const PropertyName<T>& name) {
   static_assert(std::is_same_v<T, internal::TypeOf<kMember>>);
@@ -110,7 +109,7 @@ constexpr Property Sets(const PropertyName<T>& name) {
   });
 }
 
-// A property kept in a field of a struct member.
+// A property that is kept in a field of a struct member.
 template <auto kStruct, auto kMember, class T>
 constexpr Property Sets(const PropertyName<T>& name) {
   static_assert(std::is_same_v<T, internal::TypeOf<kMember>>);
@@ -120,13 +119,13 @@ constexpr Property Sets(const PropertyName<T>& name) {
   });
 }
 
-// A property that streams carry and that has no meaning for any display of this toolkit.
+// A property that streams carry but no display has a use for.
 template <class T>
 constexpr Property Skipped(const PropertyName<T>& name) {
   return internal::MakeProperty(name, nullptr);
 }
 
-// Several tables in one.
+// Joins several tables.
 template <std::size_t... kSizes>
 constexpr auto Joined(const std::array<Property, kSizes>&... tables) {
   std::array<Property, (kSizes + ...)> joined;

@@ -1,5 +1,5 @@
-// Delegates: a function, with or without a receiver, that is called later; and the events that hold
-// them.
+// Delegates: functions, with or without a receiver, that are called later; and how an event of a
+// control gets one.
 #ifndef VAMO_TOOLKIT_OBJECT_DELEGATE_H_
 #define VAMO_TOOLKIT_OBJECT_DELEGATE_H_
 
@@ -18,19 +18,19 @@ enum class ReceiverFlag { kStrong = 0, kWeak = 1 };
 template <class Signature>
 class Delegate;
 
-// A function that is called later, with its receiver if it has one. Its owner decides when: an
-// event, a menu or start-up.
+// A function that is called later, on its receiver if it has one. Its owner decides when: an event,
+// a menu or start-up.
 template <class Result, class... Arguments>
 class Delegate<Result(Arguments...)> {
  public:
   Delegate() = default;
 
-  // Over a plain function.
+  // Wraps a plain function.
   explicit Delegate(Result (*function)(Arguments...))
       : function_(std::make_shared<const Function>(function)) {}
 
-  // Over a method of `receiver`, called through its virtual operation. A weakly bound receiver is
-  // not kept alive; a call after it has gone raises NilObjectException.
+  // Wraps a method of `receiver`, which is called virtually. A weakly bound receiver is not kept
+  // alive; a call after its destruction raises NilObjectException.
   template <class Receiver>
   Delegate(const Ref<Receiver>& receiver, Result (Receiver::*method)(Arguments...),
            ReceiverFlag flag) {
@@ -51,8 +51,8 @@ class Delegate<Result(Arguments...)> {
 
   explicit operator bool() const { return function_ != nullptr; }
 
-  // Calls the function, which may give this very delegate another one. Raises NilObjectException
-  // where there is none or its receiver has gone.
+  // Calls the function, which may assign another one to this delegate. Raises NilObjectException if
+  // there is no function or its receiver no longer exists.
   Result Invoke(Arguments... arguments) const {
     const std::shared_ptr<const Function> running = function_;
     if (running == nullptr) throw NilObjectException("A delegate without a function was called.");
@@ -65,9 +65,9 @@ class Delegate<Result(Arguments...)> {
   std::shared_ptr<const Function> function_;
 };
 
-// Binds a method of a window to one event of one of its controls. The event's type is its
-// signature: a method with another one does not compile. The control does not keep the window
-// alive: the window holds the control.
+// Binds a method of a window to an event of one of its controls. The type of the event fixes the
+// signature, so that any other method does not compile. The binding does not keep the window alive,
+// since the window holds the control.
 template <class Receiver, class Result, class... Arguments>
 void AddHandler(Delegate<Result(Arguments...)>& event, Receiver* receiver,
                 Result (Receiver::*method)(Arguments...)) {

@@ -1,4 +1,4 @@
-// The exceptions that the toolkit and the program raise.
+// The exception classes of the toolkit.
 #ifndef VAMO_TOOLKIT_OBJECT_EXCEPTIONS_H_
 #define VAMO_TOOLKIT_OBJECT_EXCEPTIONS_H_
 
@@ -11,7 +11,7 @@
 
 namespace vamo {
 
-// The root of all exceptions of the toolkit. It carries what went wrong; it reports nothing.
+// The base of all exceptions of the toolkit. It says what went wrong but reports nothing.
 class RuntimeException : public std::exception {
  public:
   RuntimeException() = default;
@@ -22,7 +22,7 @@ class RuntimeException : public std::exception {
   const std::string& Message() const { return message_; }
   void SetMessage(std::string message) { message_ = std::move(message); }
   std::int64_t ErrorNumber() const { return error_number_; }
-  // Why it went wrong, beside what did.
+  // The cause, in addition to the message.
   const std::string& Reason() const { return reason_; }
   void SetReason(std::string reason) { reason_ = std::move(reason); }
   const char* what() const noexcept override { return message_.c_str(); }
@@ -42,7 +42,7 @@ struct ExceptionName {
   char text[kSize];
 };
 
-// One class of exception, distinguished by its name. It adds nothing to its base.
+// An exception class that differs from its base only in its name.
 template <ExceptionName kName>
 class NamedException : public RuntimeException {
  public:

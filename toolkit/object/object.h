@@ -1,4 +1,4 @@
-// Counted references: how every object of the toolkit is held, checked and cast.
+// Counted references: how all objects of the toolkit are held, checked and cast.
 #ifndef VAMO_TOOLKIT_OBJECT_OBJECT_H_
 #define VAMO_TOOLKIT_OBJECT_OBJECT_H_
 
@@ -14,7 +14,8 @@ namespace vamo {
 
 struct ClassInfo;
 
-// The root of what a Ref can hold. It has an identity and a class; it is never copied.
+// The base of everything that a Ref can hold. It has an identity and a class, and it is never
+// copied.
 class Object : public std::enable_shared_from_this<Object> {
  public:
   Object() = default;
@@ -22,12 +23,12 @@ class Object : public std::enable_shared_from_this<Object> {
   Object& operator=(const Object&) = delete;
   virtual ~Object() = default;
 
-  // The table of the object's class: its name and its properties. Null for a class without one.
+  // The table of the object's class; null if the class has none.
   virtual const ClassInfo* Class() const { return nullptr; }
 };
 
-// A counted reference to a T, or nil. It keeps its object alive, and it never lets nil be used:
-// `->` and `*` on nil raise NilObjectException before the member is reached.
+// A counted reference to a T, or nil. It keeps its object alive. `->` and `*` on nil raise
+// NilObjectException before any member is accessed.
 template <class T>
 class Ref {
  public:
@@ -55,13 +56,13 @@ class Ref {
   std::shared_ptr<T> object_;
 };
 
-// Allocates a T. Its `Constructor`, where it has one, is a call of its own.
+// Allocates a T. The caller calls its `Constructor`, if it has one.
 template <class T, class... Arguments>
 Ref<T> New(Arguments&&... arguments) {
   return Ref<T>(std::make_shared<T>(std::forward<Arguments>(arguments)...));
 }
 
-// A reference to the object that a method runs on.
+// A counted reference to `object`, typically `this`.
 template <class T>
 Ref<T> Self(T* object) {
   return Ref<T>(std::static_pointer_cast<T>(object->shared_from_this()));
@@ -70,7 +71,7 @@ Ref<T> Self(T* object) {
 // The name of an object's class, for messages.
 std::string ClassName(const Object& object);
 
-// The same object as a T; nil stays nil. Raises IllegalCastException when the object is no T.
+// The same object as a T; nil stays nil. Raises IllegalCastException if the object is not a T.
 template <class T, class U>
 Ref<T> Cast(const Ref<U>& object) {
   if (!object) return nullptr;
@@ -89,7 +90,7 @@ class WeakRef {
   WeakRef() = default;
   explicit WeakRef(const Ref<T>& object) : object_(object.Share()) {}
 
-  // The object, or nil once it has gone.
+  // The object, or nil once it is destroyed.
   Ref<T> Value() const { return Ref<T>(object_.lock()); }
 
  private:

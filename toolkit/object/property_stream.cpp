@@ -10,7 +10,7 @@
 namespace vamo {
 namespace {
 
-// Walks the entries of one stream. It knows no class: the caller gives each value's type.
+// Reads the entries of one stream. It knows no classes: the caller gives the type of each value.
 class StreamReader {
  public:
   explicit StreamReader(std::string_view entries) : entries_(entries) {}

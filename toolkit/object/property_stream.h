@@ -1,11 +1,11 @@
-// Property streams: the byte strings that hold the initial state of windows and controls.
+// Property streams: byte strings that hold the initial state of windows and controls.
 //
 // A stream is a length byte, the entries one after the other, and a zero byte. The length byte is
-// the entries' length where that is below 255, else 0xFF; nothing depends on it. An entry is the
-// property's name, one blank and the value: a Boolean in 1 byte, an integer in 8, a double in 8, a
-// single in 4, a colour in 4 (red, green, blue and a 0, which does not mean transparent), a text as
-// its length in 4 bytes and then its bytes of UTF-8; numbers little-endian. An entry has no type of
-// its own: the class of the object that is set tells it.
+// the length of the entries if that is below 255, else 0xFF; nothing depends on it. An entry is the
+// property's name, one blank and the value: a Boolean takes 1 byte, an integer 8, a double 8, a
+// single 4, a colour 4 (red, green, blue and a 0, which does not mean transparent), and a text its
+// length in 4 bytes followed by its bytes in UTF-8. Numbers are little-endian. An entry does not
+// contain its type: the class of the object being set determines it.
 #ifndef VAMO_TOOLKIT_OBJECT_PROPERTY_STREAM_H_
 #define VAMO_TOOLKIT_OBJECT_PROPERTY_STREAM_H_
 
@@ -20,27 +20,27 @@
 
 namespace vamo {
 
-// A stream as it is stored: the bytes from the length byte to the zero byte, and beside them the
-// length of the entries alone.
+// A stored stream: its bytes from the length byte to the zero byte, and the length of the entries
+// alone.
 struct PropertyStream {
   const char* bytes;
   std::size_t length;
 };
 
-// Sets the stream's properties on the object, each at once and in the order of the stream; a name
-// that comes twice is set twice. Raises InvalidArgumentException, with the property's name and its
-// offset in the stream, for a name that the object's class lacks and for a value or text that runs
-// past the end; what was set before stays set.
+// Sets the properties on the object one by one, in the order of the stream; a name that occurs
+// twice is set twice. Raises InvalidArgumentException, with the property's name and its offset
+// among the entries, if the object's class does not have the property or if a name or value runs
+// past the end. Properties set before that stay set.
 void _SetProperties(Object& object, PropertyStream stream);
 
-// std::bit_cast, which libc++ 13 does not have yet. The compilers have what it is made of.
+// std::bit_cast, which libc++ 13 lacks, through the compilers' built-in function.
 template <class To, class From>
 constexpr To BitCast(const From& from) {
   return __builtin_bit_cast(To, from);
 }
 
-// A stream that is written when the program is compiled, entry by entry, with room for `kRoom`
-// bytes of entries. What does not fit does not compile, or raises std::out_of_range at run time.
+// A stream that is written entry by entry at compile time, with room for `kRoom` bytes of entries.
+// One byte more does not compile, or throws std::out_of_range at run time.
 template <std::size_t kRoom>
 class EncodedStream {
  public:
@@ -49,9 +49,9 @@ class EncodedStream {
     return Bytes(name.text).Byte(' ').Value(static_cast<internal::StoredAs<T>>(value));
   }
 
-  // The entries' length.
+  // The length of the entries.
   constexpr std::size_t Length() const { return length_; }
-  // Valid as long as this object lives.
+  // Valid while this object lives.
   constexpr operator PropertyStream() const {  // NOLINT(google-explicit-constructor)
     return {bytes_.data(), length_};
   }
@@ -78,7 +78,7 @@ class EncodedStream {
     return *this;
   }
   constexpr EncodedStream& Byte(char byte) {
-    // The last byte stays the zero after the entries.
+    // The last byte stays 0, after the entries.
     if (length_ == kRoom) throw std::out_of_range("no room in the stream");
     bytes_[++length_] = byte;
     bytes_[0] = static_cast<char>(length_ < 255 ? length_ : 255);

@@ -4,11 +4,11 @@
 
 namespace vamo {
 
-// Raises ThreadAccessingUIException when an application object exists and the caller is not on the
-// main thread. Each operation on a window, a control, a menu item or a picture begins with it.
+// Raises ThreadAccessingUIException if an application object exists and the caller is not on the
+// main thread. Every operation on a window, a control, a menu item or a picture begins with it.
 void _UITrap();
 
-// The same value, after the guard: for an operation that is over in one line.
+// Returns `value` after the guard, for operations of one line.
 template <class T>
 const T& Trapped(const T& value) {
   _UITrap();

@@ -15,33 +15,31 @@
 
 namespace vamo {
 
-// The tree of menus. The application keeps one and asks nothing of it.
+// The tree of menus. The application keeps it but calls nothing of it.
 class MenuBar;
 
-// What a chosen menu item calls. True: the item has been dealt with; False passes it on.
+// Called when a menu item is chosen. True: the item is handled; False: it is passed on.
 using MenuHandler = Delegate<bool()>;
-// The handlers of a window or of the application, by the items' names.
+// The menu handlers of a window or of the application, by the names of the items.
 using MenuHandlers = std::map<std::string, MenuHandler, std::less<>>;
 
-// What the program is as a whole: its version data, its menu bar, its menu handlers. One object of
-// a derived class is registered for the life of the process. It holds no windows; the run time
-// does.
+// The program as a whole: its version data, its menu bar, its menu handlers. One object of a
+// derived class is registered for the life of the process. It holds no windows; the run time does.
 class Application : public Object {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  // Called first in start-up, before there is an application object.
+  // The first call of start-up, before there is an application object.
   static void _SetSupportsHiDPI(bool supports);
 
-  // Enters the function for the menu item of that name. The first one entered for a name stands.
+  // Adds the handler of the menu item of that name. The first handler added for a name stays.
   virtual void _AddMenuHandler(std::string_view name, MenuHandler handler);
   const vamo::MenuHandlers& MenuHandlers() const { return menu_handlers_; }
-  // Called at the end of the process: a handler may hold this very object as its receiver.
+  // Called at the end of the process, because a handler may hold this object as its receiver.
   void ReleaseMenuHandlers() { menu_handlers_.clear(); }
 
-  // The version data, which nothing but a reader of the object looks at. `stage_code` 3 is a final
-  // version; the region code is never set.
+  // Sets the version data. `stage_code` 3 is a final version; the region code is never set.
   virtual void _x_SetVersionData(std::int64_t major, std::int64_t minor, std::int64_t bug,
                                  std::int64_t non_release, std::int64_t stage_code,
                                  std::string_view long_version, std::string_view short_version,
@@ -58,15 +56,15 @@ class Application : public Object {
   const std::string& PackageInfo() const { return _x_mPackageInfo; }
   const std::string& Description() const { return _x_mPackageInfo; }
 
-  // The menu tree that is used where no window gives one.
+  // The menu bar that applies if no window is active or the active one has none.
   const Ref<class MenuBar>& MenuBar() const { return menu_bar_; }
   void SetMenuBar(Ref<class MenuBar> menu_bar);
 
-  // The thread that the caller is on; nothing on the main thread.
+  // The caller's thread; nothing if it is the main thread.
   std::optional<std::thread::id> CurrentThread() const;
 
   virtual void Event_EnableMenuItems() {}
-  // Whether the program has taken an exception that left an event.
+  // Called for an exception that left an event. True: the program has handled it.
   virtual bool Event_UnhandledException(const RuntimeException& /*exception*/) { return false; }
 
  private:

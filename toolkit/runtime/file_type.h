@@ -9,8 +9,8 @@
 
 namespace vamo {
 
-// One entry of a file type set. It opens and saves nothing. Writing one of its texts takes a
-// registration back, since it no longer says what is registered.
+// An entry of a file type set. It opens and saves nothing. A write to one of its texts deregisters
+// it, because the text is no longer what was registered.
 class FileType : public Object {
  public:
   static const ClassInfo kClass;
@@ -33,11 +33,11 @@ class FileType : public Object {
   void SetConformsTo(std::string_view conforms_to) { Write(conforms_to_, conforms_to); }
 
   bool Registered() const { return registered_; }
-  // Enters the type with the run time; once only.
+  // Registers the type with the run time, unless it is registered.
   void Register();
   void Deregister();
 
-  // The type as a text, which is its name. Using a type so registers it.
+  // Returns the type as text, which is its name. This use registers the type.
   std::string Operator_Convert();
 
  private:

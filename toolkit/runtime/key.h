@@ -7,7 +7,7 @@
 
 namespace vamo {
 
-// What a key does where it carries no character.
+// What a key without a character does.
 enum class KeyCode {
   kCharacter,
   kLeft,
@@ -19,32 +19,32 @@ enum class KeyCode {
   kHome,
   kEnd,
   kHelp,
-  // Deletes forward. Like an arrow key it is a command to the text, so no key filter sees it.
+  // Forward delete. Like an arrow key it is an editing command, so no key filter sees it.
   kDelete,
   kOther
 };
 
-// The control codes among the characters that keys carry.
+// The control codes that keys carry as characters.
 inline constexpr char kBackspace = 8;
 inline constexpr char kTab = 9;
 inline constexpr char kReturn = 13;
 inline constexpr char kEscape = 27;
 
-// One press of a key that is not a bare modifier; a dead key is one without a character. A display
-// makes it; the toolkit decides what it does.
+// One press of a key that is not a bare modifier. A dead key carries no character. A display makes
+// the object; the toolkit decides what the key does.
 struct Key {
   KeyCode code = KeyCode::kCharacter;
-  // The character, as UTF-8: printable, or one of the control codes above. Empty where `code` is
-  // something else than kCharacter.
+  // The character in UTF-8: printable, or one of the control codes above. Empty unless `code` is
+  // kCharacter.
   std::string text = {};
   bool shift = false;
-  // Held with the platform's command key: Cmd on macOS, Ctrl elsewhere. `text` is then the bare
+  // Pressed with the platform's command key: Cmd on macOS, Ctrl elsewhere. `text` is then the plain
   // letter in lower case.
   bool command = false;
-  // A backspace or forward delete that takes a word, as the platform has it: with Option on macOS,
+  // A backspace or forward delete of a whole word, as the platform has it: with Option on macOS,
   // with Ctrl elsewhere.
   bool word = false;
-  // The key is held down and repeats by itself.
+  // An automatic repeat: the key is held down.
   bool repeat = false;
 
   static Key Character(std::string text) { return {KeyCode::kCharacter, std::move(text)}; }

@@ -29,7 +29,7 @@ Runtime::~Runtime() {
   current_ = outer_;
 }
 
-// Somebody may still hold a window, and a view must not outlive its display.
+// A window may still be held elsewhere, but its view must not outlive the display.
 void Runtime::PerformFinalizers() {
   active_window_ = nullptr;
   for (const Ref<Window>& window : live_windows_) TakeOffDisplay(*window);
@@ -64,8 +64,8 @@ void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
   try {
     if (const std::exception_ptr exception = exception_helper_(event)) TakeException(exception);
   } catch (...) {
-    // A display's event loop need not let an exception through, so it goes around the loop. There
-    // is room for one: that of an event inside this one is reported now.
+    // A display's event loop may not let an exception through, so it is kept until after the loop.
+    // There is room for one: that of a nested event is reported now.
     if (raised_again_ != nullptr) _UnhandledException(raised_again_);
     raised_again_ = std::current_exception();
     End(1);

@@ -1,4 +1,5 @@
-// The run time: the one object that holds all process-wide state, and the operations that reach it.
+// The run time: the one object that holds the toolkit's process-wide state, and the operations on
+// it.
 #ifndef VAMO_TOOLKIT_RUNTIME_RUNTIME_H_
 #define VAMO_TOOLKIT_RUNTIME_RUNTIME_H_
 
@@ -23,20 +24,20 @@
 namespace vamo {
 
 class FileType;
-// The run time keeps the windows and takes them off the display at the end; it asks nothing else of
-// them.
+// The run time keeps the windows and takes them off the display at the end; it calls nothing else
+// of them.
 class Window;
 
-// Calls a function and gives back the RuntimeException that it raised, or null; anything else that
-// it raises propagates to the caller.
+// Calls a function and returns the RuntimeException that it raised, or null. Any other exception
+// passes on to the caller.
 using ExceptionHelper = std::function<std::exception_ptr(const std::function<void()>&)>;
 
-// The helper that the run time has from the start, and that start-up hands to it.
+// The helper that the run time has from the start; start-up sets it again.
 std::exception_ptr _CallFunctionWithExceptionHandling(const std::function<void()>& function);
 
-// All process-wide state: the display, the application object, the live windows, the module-level
-// fields, the exit code. One object with one owner; while it lives, `Current` finds it, or the
-// innermost of nested ones. It knows nothing of what the program does.
+// All process-wide state of the toolkit: the display, the application object, the live windows, the
+// module-level fields, the exit code. It has one owner. While it lives, `Current` returns it, or
+// the innermost of nested ones. It does not know what the program does.
 class Runtime {
  public:
   explicit Runtime(std::unique_ptr<vamo::Display> display);
@@ -44,13 +45,13 @@ class Runtime {
   Runtime(const Runtime&) = delete;
   Runtime& operator=(const Runtime&) = delete;
 
-  // Raises NilObjectException where no run time lives.
+  // Raises NilObjectException if there is no run time.
   static Runtime& Current();
   static bool Exists() { return current_ != nullptr; }
 
   vamo::Display& Display() { return *display_; }
 
-  // Whether pictures are drawn in the screen's own pixels, where these are finer than logical ones.
+  // Whether pictures are drawn in physical pixels where these are smaller than logical ones.
   bool SupportsHiDPI() const { return supports_hidpi_; }
   void SetSupportsHiDPI(bool supports) { supports_hidpi_ = supports; }
 
@@ -59,57 +60,57 @@ class Runtime {
   const Ref<Application>& App() const { return app_; }
   void RegisterApp(Ref<Application> app) { app_ = std::move(app); }
 
-  // The windows that have been constructed and not closed, in the order of their construction.
+  // The windows that are constructed and not closed, in the order of their construction.
   const std::vector<Ref<Window>>& LiveWindows() const { return live_windows_; }
   void AddLiveWindow(Ref<Window> window);
   void RemoveLiveWindow(const Window& window);
 
-  // The window that has the user's keys, or nil.
+  // The window that has the keyboard focus, or nil.
   const Ref<Window>& ActiveWindow() const { return active_window_; }
   void SetActiveWindow(Ref<Window> window) { active_window_ = std::move(window); }
 
   // The module-level fields that the struct `Fields` declares, default-constructed at their first
-  // use and gone with the run time. They are told apart by the struct's name, which must be the
-  // only one of its kind in the program, and so not local to a file.
+  // use and destroyed by the finalisers. They are identified by the type, so the struct's name must
+  // be unique in the program, and the struct must not be local to a file.
   template <class Fields>
   Fields& ModuleFields() {
     std::any& fields = module_fields_[typeid(Fields)];
     if (!fields.has_value()) fields.emplace<Fields>();
     return *std::any_cast<Fields>(&fields);
   }
-  // Takes the windows off the display and lets go of them, of the module-level fields and of the
+  // Takes the windows off the display and releases them, the module-level fields and the
   // application object, in this order.
   void PerformFinalizers();
 
-  // The file types of the program, in the order of their registration.
+  // The program's file types, in the order of their registration.
   const std::vector<Ref<FileType>>& RegisteredFileTypes() const { return file_types_; }
   void RegisterFileType(Ref<FileType> type);
   void DeregisterFileType(const FileType& type);
 
   void SetExceptionHelper(ExceptionHelper helper) { exception_helper_ = std::move(helper); }
 
-  // Who has caused an event.
+  // What caused an event.
   enum class Cause { kUser, kTimer };
 
-  // Runs one event. A RuntimeException that leaves it ends here: EndException and
-  // ThreadEndException silently, any other in the application's UnhandledException event or else in
-  // the default action. What is no RuntimeException ends the event loop and is kept for RaiseAgain.
+  // Runs one event. A RuntimeException that leaves the event stops here: EndException and
+  // ThreadEndException silently; any other goes to the application's UnhandledException event, and
+  // from there to the default action unless it is handled. An exception of another class ends the
+  // event loop and is kept for RaiseAgain.
   void Dispatch(const std::function<void()>& event, Cause cause = Cause::kUser);
-  // The cause of the event that runs; the user where none does.
+  // The cause of the current event; the user if there is none.
   Cause EventCause() const { return event_cause_; }
-  // Whether the event that runs may give a window the keyboard focus. One that a timer has caused
-  // may not take the focus from another program, which the user is typing into.
+  // Whether the current event may give a window the keyboard focus. A timer may not take the focus
+  // from another program, because the user may be typing into it.
   bool MayActivate() const { return event_cause_ == Cause::kUser || had_active_window_; }
 
-  // Takes the user's events until End, as the display has it; returns at once where End has been
-  // called already.
+  // Runs the display's event loop until End; returns at once if End has been called already.
   void Run();
-  // Raises again what has ended the event loop, if an exception has. To be called after the loop.
+  // Raises again the exception that ended the event loop, if one did. Call this after the loop.
   void RaiseAgain();
 
-  // Ends the event loop. The first exit code stands.
+  // Ends the event loop. The exit code of the first call counts.
   void End(std::int32_t exit_code);
-  // The process-wide word that becomes the exit status.
+  // The exit status of the process, once it ends.
   std::int32_t ExitCode() const { return exit_code_; }
 
  private:
@@ -128,32 +129,33 @@ class Runtime {
   ExceptionHelper exception_helper_;
   std::exception_ptr raised_again_;
   Cause event_cause_ = Cause::kUser;
-  // Whether a window of this program was the active one when the event began.
+  // Whether a window of this program was active when the event began.
   bool had_active_window_ = false;
   bool supports_hidpi_ = false;
   bool ending_ = false;
   std::int32_t exit_code_ = 0;
 };
 
-// Destroys a window's view. It is defined where windows are.
+// Destroys a window's view. Defined with the class Window.
 void TakeOffDisplay(Window& window);
 
-// The one application object: registers it for the rest of the process, and returns it; nil before.
+// Register the one application object for the rest of the process, and return it; nil before its
+// registration.
 void _RuntimeRegisterAppObject(Ref<Application> app);
 Ref<Application> _GetAppObject();
 
-// Sounds the system alert; no other effect.
+// Sounds the system alert; has no other effect.
 void Beep();
 
-// Ends the event loop and with it the program. `exit_code` becomes the exit status of the process.
+// Ends the event loop and so the program. `exit_code` becomes the exit status of the process.
 void Quit(std::int32_t exit_code);
 
-// The default action for an exception that nothing has taken: says its class and message in one
+// The default action for an exception that nothing has handled: prints its class and message in one
 // line on standard error and ends the event loop with exit code 1.
 void _UnhandledException(const std::exception_ptr& exception);
 
-// Whether the class of that name, which is the object's or one of its bases, implements the event.
-// `user` asks for the class itself; else an event that a base of it implements counts too.
+// Whether the class of that name, which is the object's class or one of its bases, implements the
+// event. With `user` the class itself must implement it; without, one of its bases may.
 bool _RuntimeIsEventHandled(const Object& object, std::string_view class_name,
                             std::string_view event, bool user);
 

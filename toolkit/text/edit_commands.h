@@ -13,9 +13,9 @@ enum class EditAction { kUndo, kCut, kCopy, kPaste, kDelete };
 
 struct EditCommand {
   EditAction action;
-  // The name of the menu item that the toolkit serves for the focused text control.
+  // The name of the menu item that runs the command on the focused text control.
   std::string_view item;
-  // Its title in a menu of the display's own.
+  // Its title in a context menu, which a display makes itself.
   std::string_view title;
   bool (TextEdit::*can_act)() const;
   void (TextEdit::*act)();

@@ -11,8 +11,8 @@
 namespace vamo {
 namespace {
 
-// The zeros of the scripts that have decimal digits of their own, in the order of Unicode 15. The
-// other nine digits follow each.
+// The zeros of the scripts that have their own decimal digits, in the order of their code points,
+// as of Unicode 15. The other nine digits follow each zero.
 constexpr std::int64_t kZeros[] = {
     0x00660, 0x006F0, 0x007C0, 0x00966, 0x009E6, 0x00A66, 0x00AE6, 0x00B66, 0x00BE6, 0x00C66,
     0x00CE6, 0x00D66, 0x00DE6, 0x00E50, 0x00ED0, 0x00F20, 0x01040, 0x01090, 0x017E0, 0x01810,
@@ -23,7 +23,7 @@ constexpr std::int64_t kZeros[] = {
     0x1D7EC, 0x1D7F6, 0x1E140, 0x1E2F0, 0x1E4D0, 0x1E950, 0x1FBF0};
 constexpr std::int64_t kArabicDecimalSeparator = 0x66B;
 
-// Replaces each character for which `replacement` gives another one than 0.
+// Replaces each character for which `replacement` returns a character other than 0.
 template <class Replacement>
 std::string Replaced(std::string_view text, const Replacement& replacement) {
   std::string result;

@@ -9,17 +9,17 @@
 
 namespace vamo {
 
-// Text of several lines, to be read, selected and copied. The user does not type into it. Copy
-// takes the whole where nothing is selected.
+// Text of several lines that the user can read, select and copy but not change. Copy takes the
+// whole text if nothing is selected.
 class TextArea : public TextEdit {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  // The text as paragraphs that end with a line feed each, with as many characters as Text has: a
-  // carriage return is a line end, and before a line feed it becomes a space without width.
+  // The text with a line feed at the end of each paragraph, and with as many characters as Text: a
+  // carriage return becomes a line feed or, before a line feed, a zero-width space.
   std::string TextInLines() const;
-  // Whether the selection shows only while the window is the active one.
+  // Whether the selection shows only while the window is active.
   bool HideSelection() const { return Trapped(hide_selection_); }
 
  protected:

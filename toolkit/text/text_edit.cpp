@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t kHistorySteps = 100;
 constexpr std::size_t kHistoryBytes = std::size_t{1} << 24U;
 
-// Sets a flag for the length of a scope.
+// Sets a flag for the duration of a scope.
 class ScopedFlag {
  public:
   explicit ScopedFlag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
@@ -28,7 +28,7 @@ class ScopedFlag {
   const bool before_;
 };
 
-// The text with every line break, of whatever kind, replaced by `line_break`.
+// Returns the text with every line break, of whatever kind, replaced by `line_break`.
 std::string WithLineBreaksAs(char line_break, std::string_view text) {
   std::string result;
   result.reserve(text.size());
@@ -73,7 +73,7 @@ void TextEdit::SetText(std::string_view text) {
   _UITrap();
   std::string valid = ValidUtf8(text);
   if (valid == text_) return;
-  // What the program itself wrote cannot be undone; what it corrected in the user's edit can.
+  // A write by the program cannot be undone; its correction of a user's edit can.
   if (!in_users_edit_) history_.clear();
   text_ = std::move(valid);
   selection_ = {CaretAfterWrite(), CaretAfterWrite()};
@@ -119,7 +119,7 @@ void TextEdit::Copy() {
     Runtime::Current().Display().SetClipboardText(WithLineBreaksAs('\n', TextToCopy()));
 }
 
-// A clipboard that may have held text can turn out to hold none, which is to cost no selection.
+// A clipboard that may hold text can turn out to hold none. The selection must then stay.
 void TextEdit::Paste() {
   _UITrap();
   if (!CanPaste()) return;
@@ -142,7 +142,7 @@ void TextEdit::UserPasted(std::string_view text) {
   });
 }
 
-// A line break becomes a space, so that two numbers do not become one.
+// Line breaks become spaces, so that two numbers do not become one.
 std::string TextEdit::Received(std::string_view text) const {
   return WithPlainSpaces(WithLineBreaksAs(' ', text));
 }

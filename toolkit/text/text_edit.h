@@ -11,16 +11,17 @@
 
 namespace vamo {
 
-// Byte offsets into a text, at boundaries of characters. Equal: a caret and no selection.
+// Byte offsets into a text, at character boundaries. If both are equal, there is a caret and no
+// selection.
 struct Selection {
   std::size_t anchor = 0;
   std::size_t caret = 0;
   bool operator==(const Selection&) const = default;
 };
 
-// What the text controls have in common: the text, the selection in it, the Edit commands and the
-// undo history. It knows no keys, and it does not move the caret: a display does, as its platform
-// wants it.
+// What the text controls have in common: the text, the selection, the Edit commands and the undo
+// history. It handles no keys and leaves the movement of the caret to the display, since it differs
+// by platform.
 class TextEdit : public RectControl {
  public:
   static const ClassInfo kClass;
@@ -28,9 +29,9 @@ class TextEdit : public RectControl {
 
   // Valid UTF-8, of any length.
   const std::string& Text() const;
-  // Writes the text, whatever the limits on typing, and puts the caret at its end, or at its start
-  // where the text is there to be read. Where the text really changes, the change is raised inside
-  // the call. Broken UTF-8 becomes U+FFFD.
+  // Sets the text, regardless of the limits on typing, and moves the caret to its end or, in a text
+  // area, to its start. If the text changes, raises the change before it returns; if not, does
+  // nothing. Ill-formed UTF-8 becomes U+FFFD.
   void SetText(std::string_view text);
 
   vamo::Selection Selection() const { return Trapped(selection_); }
@@ -43,7 +44,7 @@ class TextEdit : public RectControl {
   TextAlignment Alignment() const { return Trapped(alignment_); }
   bool HasBorder() const { return Trapped(has_border_); }
 
-  // The Edit commands. One that cannot act does nothing. Delete takes the selection alone.
+  // The Edit commands. A command that cannot act does nothing. Delete removes only the selection.
   bool CanUndo() const { return Trapped(!read_only_ && !history_.empty()); }
   bool CanCut() const { return Trapped(!read_only_ && !SelectedText().empty()); }
   bool CanCopy() const { return Trapped(!TextToCopy().empty()); }
@@ -55,27 +56,28 @@ class TextEdit : public RectControl {
   void Paste();
   void Delete();
 
-  // The user has moved the caret or selected text. Offsets that lie past the end or inside a
-  // character are moved to the boundary before.
+  // The user has moved the caret or selected text. An offset past the end or inside a character
+  // moves back to a character boundary.
   void UserSelected(std::size_t anchor, std::size_t caret);
-  // The user has pasted or dropped a text over the selection, or assistive technology has set it.
-  // It goes in as `Received` gives it; no filter, mask or limit holds.
+  // The user has pasted or dropped text over the selection, or assistive technology has set it.
+  // What `Received` returns is inserted; no filter, mask or limit applies.
   void UserPasted(std::string_view text);
 
  protected:
-  // What becomes of a pasted text: spaces, tabs and line breaks of all kinds are plain spaces.
+  // Returns what a pasted text becomes: spaces, tabs and line breaks of all kinds become plain
+  // spaces.
   virtual std::string Received(std::string_view text) const;
   // Counts the changes of text and selection.
   std::uint64_t Revision() const { return revision_; }
-  // What Copy takes; with line ends of any kind.
+  // The text that Copy takes, with line ends of any kind.
   virtual std::string_view TextToCopy() const { return SelectedText(); }
   virtual std::size_t CaretAfterWrite() const { return text_.size(); }
-  // Puts `text` in the place of what lies between two offsets, and the caret after it, as the
-  // user's own edit. The change is raised even where the text is the same afterwards: the program
-  // may have changed its mind about that text since. Nothing for nothing is no edit.
+  // Replaces the text between two offsets with `text`, as a user's edit, and puts the caret after
+  // it. The change is raised even if the text stays the same, because the program may have reset
+  // what it read from that text. Replacing nothing with nothing is not an edit.
   void Replace(std::size_t first, std::size_t last, std::string_view text);
   void ReplaceSelection(std::string_view text);
-  // Deletes the selection or, where there is none, from the caret to `end`.
+  // Deletes the selection or, if there is none, from the caret to `end`.
   void DeleteTo(std::size_t end);
   virtual void RaiseTextChange() {}
 
@@ -86,8 +88,8 @@ class TextEdit : public RectControl {
   };
 
   struct Properties;
-  // Adds the present state to the undo history, which is bounded in steps and, but for the last
-  // one, in memory.
+  // Adds the current state to the undo history. The history is limited in steps and in memory, but
+  // always keeps the last step.
   void Remember();
   void Restore(State state);
 

@@ -28,14 +28,14 @@ namespace {
 
 constexpr char kBlank = ' ';
 
-// Where the word before a place starts; the blanks between are part of it.
+// The start of the word before `at`; blanks in between belong to the word.
 std::size_t WordBefore(std::string_view text, std::size_t at) {
   const std::string_view before = text.substr(0, at);
   const std::size_t last = before.find_last_not_of(kBlank);
   return last == std::string_view::npos ? 0 : before.rfind(kBlank, last) + 1;
 }
 
-// Where the word after a place ends; the blanks between are part of it.
+// The end of the word after `at`; blanks in between belong to the word.
 std::size_t WordAfter(std::string_view text, std::size_t at) {
   return std::min(text.find(kBlank, text.find_first_not_of(kBlank, at)), text.size());
 }
@@ -49,7 +49,7 @@ bool TextField::TakeKey(const Key& key) {
     taken = TakeCharacter(key);
   } else {
     typist_.Forget();
-    // With shift it is the platform's key for Cut.
+    // With Shift it is the platform's key for Cut.
     taken = key.code == KeyCode::kDelete && !key.shift;
     if (taken && !ReadOnly()) {
       const std::size_t caret = Selection().caret;
@@ -101,7 +101,7 @@ std::string TextField::Received(std::string_view text) const {
   return HasPoint(rule_) ? WithDecimalPoint(std::move(received)) : received;
 }
 
-// The decimal key of a keyboard on the screen may be a comma, since it does not know the field.
+// An on-screen keyboard does not know the field, so its decimal key may be a comma.
 std::string TextField::Typed(std::string_view text) const {
   if (HasPoint(rule_) && text == ",") return ".";
   return Received(text);

@@ -11,24 +11,25 @@
 
 namespace vamo {
 
-// A field of one line that the user types into, within the limits of its typing rule.
+// A field of one line that the user types into within the limits of its typing rule.
 class TextField : public TextEdit {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  // Raised when the text has changed, by the user or by a write.
+  // Raised by a write that changes the text, and by every edit by the user.
   Delegate<void(Ref<TextField>)> TextChange;
-  // Raised for each key that carries a character, before it acts. True: the key is swallowed.
+  // Raised for each key that carries a character, before the key acts. True swallows the key.
   Delegate<bool(Ref<TextField>, std::string)> KeyDown;
 
   const TypingRule& Rule() const { return Trapped(rule_); }
-  // A text shown while the field is empty.
+  // Text that is shown while the field is empty.
   const std::string& Hint() const { return Trapped(hint_); }
   bool Password() const { return Trapped(password_); }
 
   bool TakeKey(const Key& key) override;
-  // Selects all, so that the next key begins a new number; a double click has selected already.
+  // Selects all, so that the next key begins a new number. A click keeps what a double click has
+  // selected.
   void EnteredByTab() override { UserSelected(0, Text().size()); }
   void EnteredByClick() override;
   std::string Typed(std::string_view text) const override;
@@ -37,8 +38,8 @@ class TextField : public TextEdit {
   AnyControl AsAny() override { return this; }
   bool TakesKeys() const override { return true; }
   void RaiseTextChange() override;
-  // In a field whose mask wants digits those of all scripts are digits; in one that wants a point,
-  // a decimal comma is one.
+  // If the mask has digits, the digits of all scripts count; if it has a point, so does a decimal
+  // comma.
   std::string Received(std::string_view text) const override;
 
  private:

@@ -14,7 +14,7 @@ bool IsDigit(std::string_view character) {
   return character.size() == 1 && character[0] >= '0' && character[0] <= '9';
 }
 
-// Takes the first character off a text.
+// Removes and returns the first character of a text.
 std::string_view TakeCharacter(std::string_view& text) {
   const std::size_t end = NextCharacter(text, 0);
   const std::string_view character = text.substr(0, end);
@@ -32,7 +32,7 @@ bool Fits(std::string_view text, std::string_view mask) {
   return true;
 }
 
-// The mask's literals between the end of `before` and the place where `digit` can stand.
+// The literals of the mask between the end of `before` and the place where `digit` fits.
 std::string Literals(std::string_view before, std::string_view digit, std::string_view mask) {
   for (std::size_t i = CharacterCount(before); i > 0 && !mask.empty(); --i) TakeCharacter(mask);
   std::string literals;
@@ -44,8 +44,8 @@ std::string Literals(std::string_view before, std::string_view digit, std::strin
   return literals;
 }
 
-// Whether the user has begun with zeros where the mask wants its `literals` first, which came in by
-// themselves, and now types the literal that he has had in mind all along.
+// Whether the user has typed only zeros so far, after the mask's `literals` that were inserted in
+// front of them, and now types the last literal, as the point of "0." under ".###".
 bool TakesPlaceOfZeros(std::string_view before, std::string_view character,
                        std::string_view literals) {
   return !literals.empty() && !IsDigit(character) && literals.ends_with(character) &&

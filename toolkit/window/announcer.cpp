@@ -13,7 +13,7 @@
 namespace vamo {
 namespace {
 
-// Together long enough for the next key of somebody who types, and short enough to wait for.
+// Together, longer than the pause between two keystrokes and short enough to wait for.
 constexpr std::chrono::milliseconds kPeriod{50};
 constexpr int kQuietPeriods = 6;
 

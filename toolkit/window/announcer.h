@@ -11,22 +11,22 @@ namespace vamo {
 
 class Window;
 
-// Whether a text is announced: with the others whenever one of them has changed, or only when it
-// has itself changed.
+// Whether a text is announced: never, whenever any announced text has changed, or only when it has
+// changed itself.
 enum class Announced { kNot, kAlways, kWhenChanged };
 
-// Tells a screen reader of results and warnings that have changed. They never have the focus, so it
-// would pass over them. It announces all of them in one sentence once changes have ceased, never
-// the same twice running, and only while the window is the active one.
+// Announces changed results and warnings to a screen reader, which would miss them because they
+// never have the focus. It announces all of them in one sentence once the changes have stopped,
+// never the same state twice in a row, and only while the window is active.
 class Announcer {
  public:
-  // `window` outlives it.
+  // `window` must outlive the announcer.
   explicit Announcer(Window& window) : window_(window) {}
 
-  // A text that is to be announced has changed. To be cheap at every step of a drag, a change does
-  // not restart the timer.
+  // Call this after a change of a text that is announced. A change does not restart the timer, so
+  // that it is cheap at every step of a drag.
   void TextChanged();
-  // Forgets what is still to be said.
+  // Cancels a pending announcement.
   void Stop() { timer_ = nullptr; }
 
  private:
@@ -35,9 +35,9 @@ class Announcer {
 
   Window& window_;
   std::unique_ptr<RunningTimer> timer_;
-  // The timer's periods since the last change.
+  // The number of timer periods since the last change.
   int quiet_periods_ = 0;
-  // What showed at the last announcement, control by control.
+  // The texts at the last announcement, one for each control.
   std::vector<std::string> said_;
 };
 

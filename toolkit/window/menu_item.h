@@ -12,8 +12,8 @@
 
 namespace vamo {
 
-// A menu or a menu entry. It holds its state and its children; menu_service.h says when it is
-// enabled and what happens when it is chosen.
+// A menu or a menu item: its state and its children. menu_service.h says when it is enabled and
+// what choosing it does.
 class MenuItem : public Object {
  public:
   static const ClassInfo kClass;
@@ -23,7 +23,7 @@ class MenuItem : public Object {
   void SetName(std::string_view name);
   const std::string& Value() const { return Trapped(value_); }
   void SetValue(std::string_view value);
-  // The key equivalent, such as "Cmd+Q"; empty for none.
+  // The keyboard shortcut, such as "Cmd+Q"; empty for none.
   const std::string& Shortcut() const { return Trapped(shortcut_); }
   void SetShortcut(std::string_view shortcut);
   bool AutoEnabled() const { return Trapped(auto_enabled_); }
@@ -33,11 +33,11 @@ class MenuItem : public Object {
   bool Visible() const { return Trapped(visible_); }
   void SetVisible(bool visible);
 
-  // Appends a child. Raises MenuHasParentException where `item` is already in a menu.
+  // Appends a child. Raises MenuHasParentException if `item` is already in a menu.
   virtual void AddMenu(const Ref<MenuItem>& item);
   // The direct child of that name, or nil.
   virtual Ref<MenuItem> Child(std::string_view name) const;
-  // Called on a new item before it gets its state.
+  // Called on a new item before its state is set.
   virtual void Constructor() {}
   // The item of that name anywhere below this one, or nil.
   virtual Ref<MenuItem> _Lookup(std::string_view name) const;
@@ -54,21 +54,21 @@ class MenuItem : public Object {
   std::vector<Ref<MenuItem>> children_;
 };
 
-// The root of a menu tree. It is no entry itself.
+// The root of a menu tree. It is not an item itself.
 class MenuBar : public MenuItem {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 };
 
-// An entry that goes to the application menu, where a platform has one, and else to the help menu.
+// An item that goes to the application menu if the platform has one, else to the Help menu.
 class AppleMenuItem : public MenuItem {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 };
 
-// The quit entry. Chosen, it ends the program with exit code 0.
+// The Quit item. Choosing it ends the program with exit code 0.
 class QuitMenuItem : public MenuItem {
  public:
   static const ClassInfo kClass;

@@ -108,7 +108,7 @@ bool ChooseByShortcut(const Key& key) {
   if (!bar || key.shift || key.text.size() != 1) return false;
   const char letter = key.text[0];
   std::string shortcut(kCommandPrefix);
-  // A shortcut is written with a capital. The C library's would depend on the locale.
+  // Shortcuts are written in capitals. std::toupper would depend on the locale.
   shortcut += letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
   const Ref<MenuItem> item = FindByShortcut(*bar, shortcut);
   if (!item) return false;

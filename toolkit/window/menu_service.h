@@ -11,38 +11,38 @@
 
 namespace vamo {
 
-// The bar that is in force: the active window's own or else the application's; nil for neither.
+// The current menu bar: the active window's, or else the application's, or nil.
 Ref<MenuBar> ActiveMenuBar();
 
-// A menu as it is drawn where the bar lives in a window.
+// A menu as every display draws it.
 struct DrawnMenu {
   std::string text;
   std::vector<Ref<MenuItem>> items;
 };
 
-// Whether an item is drawn as a line between others.
+// Whether an item is drawn as a separator line.
 bool IsSeparator(const MenuItem& item);
 
-// The menus to be drawn where the bar lives in a window. A menu or an item that is invisible or has
-// no text is left out; AppleMenuItems go to a "Help" menu at the end of the bar, where people look
-// for them.
+// The menus of a bar as every display draws them. Menus and items that are invisible or have no
+// text are left out. AppleMenuItems go to a "Help" menu at the end of the bar, where users look for
+// them; a display whose platform has an application menu moves them there.
 std::vector<DrawnMenu> DrawnMenus(const MenuBar& bar);
 
-// Brings the items up to date. Those below the top level get what AutoEnabled says; then the
-// application's EnableMenuItems runs, then the active window's; then each Edit item that the
-// focused text control can serve is enabled. Top-level menus always open.
+// Updates which items are enabled. Items below the top level start with what AutoEnabled says; then
+// the application's EnableMenuItems runs, then the active window's; then each Edit item that can
+// act on the focused text control is enabled. Top-level menus always open.
 void EnableMenuItems();
 
-// A display calls this before it opens a menu, as an event of its own.
+// A display calls this before it opens a menu. Runs EnableMenuItems as an event.
 void UserOpensMenu();
 
-// A display calls this when the user has chosen an item. A disabled one does nothing. The active
-// window's handler comes first, then the application's; where both pass it on, or there is none,
-// the toolkit serves Quit and the Edit items.
+// A display calls this when the user has chosen an item. A disabled item does nothing. The active
+// window's handler runs first, then the application's. If neither handles the item, the toolkit
+// handles Quit and the Edit items.
 void UserChose(const Ref<MenuItem>& item);
 
-// Chooses the item whose shortcut the key is. Whether there is one that is enabled; else the key is
-// a key like any other.
+// Chooses the item with this shortcut. Returns whether there is one that is enabled; if not, the
+// key is treated like any other.
 bool ChooseByShortcut(const Key& key);
 
 }  // namespace vamo

@@ -23,7 +23,7 @@ TextRoom RoomOfText(const RectControl& label) {
     if (2 * end <= 2 * box.left + box.width) left = std::max(left, end);
     if (2 * beside.left >= 2 * box.left + box.width) right = std::min(right, beside.left);
   }
-  // Where the boxes of two texts touch, the gap is at the end of the first.
+  // Where two boxes touch, the gap is at the right end of the left one.
   const auto box_left = static_cast<double>(box.left);
   return {box_left - std::min(box_left, static_cast<double>(left) + kGap),
           static_cast<double>(right) - kGap - static_cast<double>(box.left + box.width)};

@@ -1,4 +1,4 @@
-// How far the text of a label may reach, and where it is drawn.
+// How far a label's text may extend beyond its box, and where it is drawn.
 #ifndef VAMO_TOOLKIT_WINDOW_TEXT_ROOM_H_
 #define VAMO_TOOLKIT_WINDOW_TEXT_ROOM_H_
 
@@ -6,25 +6,26 @@
 
 namespace vamo {
 
-// What the text of a label may cover across the window, in logical pixels beyond its box.
+// How far a label's text may extend beyond its box on both sides, in logical pixels.
 struct TextRoom {
   double left = 0;
   double right = 0;
 };
 
-// The room of a label of a live window: up to a gap from what stands beside it.
+// The room of a label in a live window: up to a gap from its neighbours and from the edges of what
+// contains it.
 TextRoom RoomOfText(const RectControl& label);
 
-// Where a text of one line is drawn.
+// Where a line of text is drawn.
 struct FittedText {
-  // Its left end, from that of the box.
+  // Its left end, measured from that of the box.
   double left = 0;
-  // How much narrower than usual it is drawn, at most 1.
+  // The horizontal scale of the text, at most 1.
   double scale = 1;
 };
 
-// Fits a text of that width into a box and the room around it: a text that is too wide stands out
-// of the box, and is narrowed where the room ends too. All lengths are in one unit.
+// Fits a line of text of that width into a box and the room around it. A text wider than the box
+// extends beyond it; a text wider than the room too is narrowed. All lengths have the same unit.
 FittedText FitText(const TextRoom& room, double box, TextAlignment alignment, double width);
 
 }  // namespace vamo

@@ -12,28 +12,27 @@
 
 namespace vamo {
 
-// Whether a timer runs, and whether it goes on after the first time. The numbers are those of the
-// property RunMode.
+// Whether a timer runs, once or repeatedly. The numbers are those of the property RunMode.
 enum class RunMode : std::int64_t { kOff = 0, kSingle = 1, kMultiple = 2 };
 
-// Raises an event once or again and again after a period. It is no control: it has no window.
+// Raises an event after a period, once or repeatedly. It is not a control and has no window.
 class Timer : public Object {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
 
-  // A timer runs from the moment that it has both a mode other than off and a period above 0. Each
-  // write starts the period anew.
+  // A timer runs as soon as its mode is not off and its period is above 0. Each write restarts the
+  // period.
   void SetRunMode(RunMode run_mode);
   // In milliseconds.
   void SetPeriod(std::int64_t period);
 
-  // Raised when the period has passed; in single mode the timer is off by then.
+  // Raised when the period has passed; in single mode the timer is then already off.
   Delegate<void(Ref<Timer>)> Action;
 
-  // Begins the period anew.
+  // Restarts the period.
   virtual void Reset();
-  // Stops the timer for good. The window that holds it does so when it is closed.
+  // Stops the timer. A window stops its timers when it closes.
   void Stop() { SetRunMode(RunMode::kOff); }
 
   virtual void _CallAction();
@@ -46,7 +45,8 @@ class Timer : public Object {
   std::unique_ptr<RunningTimer> running_;
 };
 
-// A timer that can be named among a window's controls. It keeps no window alive.
+// A timer that a window can hold under a name, as it holds its controls. It does not keep the
+// window alive.
 class _wrapper_Timer1 : public Timer, public _PaneChild {
  public:
   static const ClassInfo kClass;

@@ -116,8 +116,7 @@ void Window::Close() {
   if (runtime.LiveWindows().empty() && runtime.Display().MenuBarsLiveInWindows()) runtime.End(0);
 }
 
-// The children may live longer than the window, held by somebody else; nothing of them is left on
-// the display.
+// A child that is held elsewhere may outlive the window; nothing of it stays on the display.
 void Window::TakeOffDisplay() {
   for (const Child& child : children_) {
     Object* object = child.object.Share().get();

@@ -22,69 +22,68 @@ namespace vamo {
 
 class MenuBar;
 
-// What one control is to those who do not see it or hold no mouse, beside its text. Empty: nothing
-// of the kind.
+// A control's accessibility data: name, description, caption, shortcut. An empty field means none.
 struct AccessibleText {
   std::string_view control;
   std::string_view name = {};
   std::string_view description = {};
-  // The label that is the control's caption.
+  // The label that is the caption of the control.
   std::string_view labelled_by = {};
-  // Of a label or a text.
+  // For a label or a text: when it is announced.
   Announced announced = Announced::kNot;
-  // Of a slider.
+  // For a slider: assistive technology reads its position divided by this.
   std::int64_t positions_per_unit = 1;
-  // The key that presses a button, from anywhere in the window.
+  // For a button: the key that presses it from anywhere in the window.
   std::optional<KeyCode> pressed_by = std::nullopt;
-  // Whether a label's text is the description of the whole window.
+  // For a label: whether its text describes the whole window.
   bool describes_window = false;
 };
 
 // What a window is for. The numbers are those of the property Type.
 enum class WindowType : std::int64_t {
   kWorking = 0,
-  // Without a frame, in the middle of the screen.
+  // Without a frame, over the working window or in the middle of the screen.
   kSplash = 2,
-  // To be read beside the working window; Escape and the command key with W close it.
+  // Shown beside the working window; Escape and the command key with W close it.
   kReading = 7
 };
 
-// A window: its state, its children, its focus, and what becomes of the user's keys and presses. It
-// shows nothing by itself, and it knows nothing of what its subclasses are for.
+// A window: its state, its children, its focus, and how it handles keys and presses. It draws
+// nothing itself and knows nothing about its subclasses.
 class Window : public Object {
  public:
   static const ClassInfo kClass;
   const ClassInfo* Class() const override { return &kClass; }
   ~Window() override { TakeOffDisplay(); }
 
-  // Raises Close and ends the window: it is live no longer, and none of its timers fires.
+  // Raises Close and then ends the window: it is no longer live, and its timers stop.
   virtual void Close();
-  // Builds the window: its own state, its controls, its part on the display, its menu handlers;
-  // then it is live, and comes on the screen where its state says Visible.
+  // Builds the window: its state, its controls, its view, its menu handlers. It is then live, and
+  // shows itself if its initial state is visible.
   virtual void Constructor();
-  // The controls in the order of their creation; other children are not among them.
+  // The controls in the order of their creation, without other children.
   virtual std::vector<Ref<RectControl>> Controls() const;
-  // Makes the window invisible. It stays live, with its state.
+  // Hides the window. It stays live and keeps its state.
   virtual void Hide();
   virtual void SetFocus(const Ref<RectControl>& control);
-  // Makes the window visible, brings it to the front and gives it the focus. When a timer shows it,
-  // a window that is visible already stays where it is, minimised perhaps, and one that is not gets
-  // the focus only from another window of this program.
+  // Shows the window, brings it to the front and activates it. When a timer calls this, a visible
+  // window stays where it is, even if minimised, and a hidden one is activated only if a window of
+  // this program is active.
   virtual void Show();
-  // Enters a control, or another child, in the window under its name.
+  // Adds a control or another child to the window, under a name.
   virtual void _AddControl(std::string_view name, const Ref<Object>& child);
-  // Enters the function for the menu item of that name. The first one entered for a name stands.
+  // Adds the handler of the menu item of that name. The first handler added for a name stays.
   virtual void _AddMenuHandler(std::string_view name, MenuHandler handler);
   // The child of that name, or nil.
   virtual Ref<Object> _ControlByName(std::string_view name) const;
-  // Allocates a control, or another child, of a class for this window. Its properties and its name
-  // come later.
+  // Allocates a control or another child for this window. Its name and properties are set later.
+  // Raises UnsupportedOperationException for a class of which windows hold no objects.
   virtual Ref<Object> __New(const ClassInfo& child_class);
 
-  // The events. A class implements one by overriding it; else the toolkit's default stands, which
-  // is to do nothing. `Layout` and `CreateControls` come while the window is constructed; `KeyDown`
-  // for every key but a bare modifier and an enabled item's shortcut, with the empty text for one
-  // that carries no character; True of `KeyDown` and `MouseDown` ends the event.
+  // The events. A class implements one by overriding it; the default does nothing. `Layout` and
+  // `CreateControls` come while the window is constructed. `KeyDown` comes for every key except
+  // bare modifiers and the shortcuts of enabled items, with an empty text if the key carries no
+  // character. `KeyDown` and `MouseDown` return True if they have handled the event.
   virtual void Layout() {}
   virtual void CreateControls() {}
   virtual void AddMenuHandlers(const Ref<Window>& /*window*/) {}
@@ -93,15 +92,15 @@ class Window : public Object {
   virtual void Event_EnableMenuItems() {}
   virtual bool Event_KeyDown(std::string /*key*/) { return false; }
   virtual bool Event_MouseDown(std::int64_t /*x*/, std::int64_t /*y*/) { return false; }
-  // The table that is applied once the controls are there.
+  // The accessibility data of the controls, applied once the controls exist.
   virtual std::span<const AccessibleText> AccessibleTexts() const { return {}; }
 
   bool IsLive() const { return Trapped(view_ != nullptr); }
-  // Gives up the window's part on the display, without an event, and stops its timers. The run time
-  // does so at the program's end.
+  // Destroys the window's view without raising an event, and stops its timers. The run time calls
+  // this at the end of the program.
   void TakeOffDisplay();
 
-  // A child of the class `ChildClass`, allocated or found by its name.
+  // Create and find a child of the class `ChildClass`.
   template <class ChildClass>
   Ref<ChildClass> __New() {
     return Cast<ChildClass>(__New(ChildClass::kClass));
@@ -115,7 +114,7 @@ class Window : public Object {
   const Ref<class MenuBar>& MenuBar() const;
   void SetMenuBar(Ref<class MenuBar> menu_bar);
 
-  // The initial state, as the window's stream gives it. Lengths in logical pixels.
+  // The initial state, as the window's stream sets it. Lengths are in logical pixels.
   struct State {
     std::int64_t width = 0;
     std::int64_t height = 0;
@@ -134,72 +133,74 @@ class Window : public Object {
     Colour background_colour;
   };
   const State& InitialState() const { return Trapped(state_); }
-  // What a list of windows shows: the title, or else the program's name.
+  // The title or, if it is empty, the program's name: wherever a display names the window, in its
+  // title bar, in a list of windows or to a screen reader.
   std::string ListedTitle() const;
   bool IsSplash() const { return Trapped(state_.type == WindowType::kSplash); }
   bool IsReading() const { return Trapped(state_.type == WindowType::kReading); }
-  // A splash has one size, whatever its state says: a desktop that tiles its windows would make a
-  // poster of it.
+  // A splash has a fixed size, whatever its state says: a tiling window manager would otherwise
+  // fill the screen with it.
   bool CanBeResized() const { return Trapped(state_.resizeable && !IsSplash()); }
   bool Visible() const { return Trapped(visible_); }
 
-  // Where a display is to put the window that it brings on the screen, as far as it can.
+  // Where a display puts the window when it shows it, as far as it can.
   struct Placement {
     enum class Rule {
-      // Where it was, or else where the platform puts a new window.
+      // Its last place, or where the platform puts a new window.
       kAnywhere,
       kMiddleOfScreen,
-      // Its middle where the other window has or, if that is hidden by now, had its own.
+      // Centred over the other window or, if that is hidden by now, over its last place.
       kOver,
-      // Right of the other window, else left of it, where the screen has the room; else as far to
-      // the freer side as it has.
+      // To the right of the other window or, if the screen has no room there, to its left; if
+      // neither side has room, as far to the larger side as possible.
       kBeside
     };
     Rule rule = Rule::kAnywhere;
     Ref<Window> other = nullptr;
-    // Whether it stays in front of the other one, and goes where that one goes.
+    // Whether it belongs to the other window and so stays in front of it.
     bool stays_with_other = false;
   };
   Placement WhereToShow() const;
 
-  // The control in which another one lies, or nil where that lies on the window itself.
+  // The control that contains `control`, or nil if the window itself does.
   Ref<RectControl> ParentOf(const RectControl& control) const {
     const std::string& name = control.InitialParent();
     return name.empty() ? nullptr : ControlNamed<RectControl>(name);
   }
-  // The control that has the keys while the window is active, or nil.
+  // The control that has the focus while the window is active, or nil.
   const Ref<RectControl>& Focus() const { return Trapped(focus_); }
 
-  // What a screen reader says of the window beside its title; empty for nothing.
+  // The description that a screen reader reads in addition to the title; may be empty.
   std::string AccessibleDescription() const;
   // The key that presses a control from anywhere in the window.
   std::optional<KeyCode> KeyThatPresses(const RectControl& control) const;
 
   // What a display reports.
   //
-  // The window has become the one that the user's keys go to, or has ceased to be.
+  // The window has been activated or deactivated.
   void UserActivated();
   void UserDeactivated();
-  // The close button, or what stands for it.
+  // The user has clicked the close button or its equivalent.
   void UserAskedToClose();
-  // A key. True: it has been dealt with. False: the display may do what its platform does with it.
-  // The repeats of a key that has dismissed another window do nothing.
+  // A key. True: it is handled. False: the display may do what its platform does with the key.
+  // Repeats of a key that has dismissed another window are ignored.
   bool UserPressedKey(const Key& key);
-  // Text from an input method, from dictation or from a keyboard on the screen: taken as keys, one
-  // by one.
+  // Text from an input method, from dictation or from an on-screen keyboard. It is handled as keys,
+  // one by one.
   void UserTyped(std::string_view text);
-  // A press of any mouse button, or of a finger, begins somewhere in the window; to be reported
-  // before all that comes of it. `repeat`: it follows another press as in a double click. The
-  // window becomes the active one first, so that the press acts on an active window, whichever the
-  // platform reports first. False: the press before has dismissed another window, and the display
-  // ignores this one.
+  // A press of any mouse button or of a finger begins somewhere in the window. A display must
+  // report this before anything that follows from the press. `repeat`: the press follows another
+  // one as in a double click. The window is activated first, so that a press always acts on an
+  // active window, whichever the platform reports first. False: the press before has dismissed
+  // another window, and the display must ignore this one.
   bool UserBeginsPress(bool repeat);
-  // The mouse has gone down, on no enabled control that takes it. Window coordinates.
+  // The mouse has been pressed, but not on an enabled control that handles it. In window
+  // coordinates.
   void UserPressedMouse(std::int64_t x, std::int64_t y);
-  // The user has brought the focus to a control, for example with the mouse.
+  // The user has moved the focus to a control, for example with the mouse.
   void UserFocused(const Ref<RectControl>& control);
-  // A press on a control has ended there. The press that has brought the focus enters the control
-  // as Tab does.
+  // A press on a control has ended there. If the press activated the window or moved the focus to
+  // the control, the control is entered as by Tab.
   void UserClicked(const Ref<RectControl>& control);
 
  private:
@@ -212,9 +213,9 @@ class Window : public Object {
   void ApplyAccessibleTexts();
   void MakeView();
   bool TakeKey(const Key& key);
-  // Presses the button that the key is for. Whether there is one.
+  // Presses the button whose key it is. Returns whether there is one.
   bool PressButton(const Key& key);
-  // Takes the keys to the next control. False: there is none, and they go on from here.
+  // Moves the focus to the next control. Returns false if Tab leaves the window instead.
   bool MoveFocus(bool backwards);
 
   State state_;
@@ -222,7 +223,7 @@ class Window : public Object {
   bool has_been_shown_ = false;
   std::vector<Child> children_;
   Ref<RectControl> focus_;
-  // Whether the present press has brought the focus to `focus_`.
+  // Whether the current press activated the window or moved the focus to `focus_`.
   bool entered_by_press_ = false;
   Ref<class MenuBar> menu_bar_;
   vamo::MenuHandlers menu_handlers_;
@@ -230,10 +231,10 @@ class Window : public Object {
   std::unique_ptr<WindowView> view_;
 };
 
-// The live window whose class has that name, hidden or not; nil where there is none.
+// The live window whose class has that name, visible or hidden; nil if there is none.
 Ref<Window> _GetImplicitWindow(std::string_view class_name);
 
-// The one live window of a class, which is made when there is none.
+// The one live window of a class, created if there is none.
 template <class WindowClass>
 Ref<WindowClass> ImplicitInstance() {
   Ref<Window> window = _GetImplicitWindow(WindowClass::kClass.name);

@@ -1,4 +1,4 @@
-// What a window does with what the user does: activation, keys, presses, focus.
+// How a window handles the user's input: activation, keys, presses, focus.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -16,8 +16,8 @@
 
 namespace vamo {
 
-// The windows in which the present gestures of mouse and keyboard have begun. What is left of a
-// gesture that has dismissed its window is not meant for the window that comes up behind it.
+// The windows in which the current gestures of mouse and keyboard began. The rest of a gesture that
+// dismissed its window is not meant for the window underneath.
 struct GestureFields {
   WeakRef<Window> pressed;
   WeakRef<Window> typed;
@@ -25,7 +25,7 @@ struct GestureFields {
 
 namespace {
 
-// Whether an act on `window` counts. `begun_in` is where its gesture began.
+// Whether input to `window` counts. `begun_in` is the window in which its gesture began.
 bool Continues(WeakRef<Window>& begun_in, const Ref<Window>& window, bool repeat) {
   if (!repeat) begun_in = WeakRef(window);
   const Ref<Window> first = begun_in.Value();
@@ -83,7 +83,7 @@ void Window::UserTyped(std::string_view text) {
 
 bool Window::TakeKey(const Key& key) {
   if (key.command && ChooseByShortcut(key)) return true;
-  // With the command key held, a letter is no character.
+  // With the command key held, a letter is not a character.
   const bool carries_character = key.code == KeyCode::kCharacter && !key.command;
   if (Event_KeyDown(carries_character ? key.text : "")) return true;
   if (PressButton(key)) return true;
@@ -119,7 +119,7 @@ bool Window::MoveFocus(bool backwards) {
   std::erase_if(stops, [](const Ref<RectControl>& control) { return !control->CanTakeFocus(); });
   const bool leaves = focus_ && Runtime::Current().Display().TabLeavesWindows();
   if (stops.empty()) return !leaves;
-  // Without a stop for Tab the keys go to the first control that can have them, and stay there.
+  // If no control is a tab stop, the first one that can have the focus gets it and keeps it.
   const Ref<RectControl> first = stops.front();
   std::erase_if(stops, [](const Ref<RectControl>& control) { return !control->TabStop(); });
   if (stops.empty()) {

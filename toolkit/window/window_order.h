@@ -11,8 +11,8 @@
 
 namespace vamo {
 
-// Which window lies in front of which, and which becomes the active one. It draws nothing. `View`
-// is a display's class for a window; its `Shown()` is the window.
+// The order of the windows, and which one becomes active. It draws nothing. `View` is a display's
+// class for a window; its `Shown()` returns the window.
 template <class View>
 class WindowOrder {
  public:
@@ -21,7 +21,7 @@ class WindowOrder {
     std::erase(views_, &view);
     if (next_ == &view) next_ = nullptr;
   }
-  // From the back to the front; hidden ones are among them.
+  // From back to front, including hidden ones.
   const std::vector<View*>& Views() const { return views_; }
 
   // The active window, or null.
@@ -33,11 +33,11 @@ class WindowOrder {
     return found == views_.end() ? nullptr : *found;
   }
 
-  // The program has shown the window: it is the next one to be activated.
+  // The program has shown the window, so it is activated next.
   void Show(View& view) { next_ = &view; }
 
-  // The window to be activated now: the one that was shown last or, when the active one has been
-  // hidden or closed, the foremost one that is visible; null for neither.
+  // The window to activate now: the one that was shown last or, if the active one was hidden or
+  // closed, the front one that is visible; null for neither.
   View* TakeNext() {
     View* shown = std::exchange(next_, nullptr);
     if (shown != nullptr && shown->Shown().Visible()) return shown;
@@ -47,7 +47,7 @@ class WindowOrder {
     return front == views_.rend() ? nullptr : *front;
   }
 
-  // Brings a window to the front as the active one. False: it was both already.
+  // Brings a window to the front and activates it. Returns false if it was both already.
   bool Activate(View& view) {
     View* before = Active();
     if (before == &view && views_.back() == &view) return false;
@@ -59,7 +59,7 @@ class WindowOrder {
     return true;
   }
 
-  // The user has gone to another program: none is active until one is shown or activated.
+  // The user has gone to another program: no window is active until one is shown or activated.
   void Leave() {
     away_ = true;
     if (View* active = Active()) active->Shown().UserDeactivated();

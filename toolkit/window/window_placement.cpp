@@ -36,7 +36,7 @@ Window::Placement Window::WhereToShow() const {
     const Ref<Window> working = WorkingWindowOnScreen();
     return working ? Placement{Rule::kBeside, working} : Placement{};
   }
-  // It takes the place of the splash, which is where the user looks.
+  // It appears in place of the splash, where the user is looking.
   const Ref<Window> splash = FirstLive(
       [](const Ref<Window>& window) { return window->IsSplash() && window->has_been_shown_; });
   return splash ? Placement{Rule::kOver, splash} : Placement{};
