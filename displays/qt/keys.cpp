@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #include "displays/qt/convert.h"
 #include "displays/qt/window.h"
@@ -117,9 +118,23 @@ Key WithoutRepeat(const QKeyEvent& event) {
 
 std::optional<Key> ToKey(const QKeyEvent& event) {
   if (IsBareModifier(event.key())) return std::nullopt;
-  Key key = WithoutRepeat(event);
-  key.repeat = event.isAutoRepeat();
-  return key;
+  return WithoutRepeat(event);
+}
+
+// An X server makes a release and a press of each repeat, at the same time, and Qt may get to the
+// press later.
+bool KeyRouter::Repeats(const QKeyEvent& press) {
+  constexpr quint64 kLongestDelay = 2000;
+  const HeldKey before = std::exchange(held_, {press.nativeScanCode(), press.timestamp(), {}});
+  if (press.isAutoRepeat()) return true;
+  const bool same = held_.code != 0 && held_.code == before.code;
+  const bool is_held = before.released_at.value_or(held_.pressed_at) == held_.pressed_at;
+  const quint64 delay = held_.pressed_at - before.pressed_at;
+  return same && is_held && delay > 0 && delay < kLongestDelay;
+}
+
+void KeyRouter::NoteRelease(const QKeyEvent& release) {
+  if (release.nativeScanCode() == held_.code) held_.released_at = release.timestamp();
 }
 
 KeyRouter::KeyRouter(WindowWidget& window) : QObject(&window), window_(window) { Watch(window); }
@@ -131,18 +146,20 @@ bool KeyRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
     event->accept();
     return true;
   }
-  const auto is_dead = [&] { return IsDead(static_cast<QKeyEvent&>(*event).key()); };
   if (event->type() == QEvent::KeyPress) return TakeKey(static_cast<QKeyEvent&>(*event));
+  if (event->type() != QEvent::KeyRelease) return false;
+  const auto& release = static_cast<QKeyEvent&>(*event);
+  NoteRelease(release);
   // Of a dead key an input method keeps the press to itself.
-  return event->type() == QEvent::KeyRelease && is_dead() &&
-         TakeKey(static_cast<QKeyEvent&>(*event));
+  return IsDead(release.key()) && TakeKey(release);
 }
 
 bool KeyRouter::TakeKey(const QKeyEvent& event) {
   Window* window = window_.ShownWindow();
   if (window == nullptr) return true;
-  const std::optional<Key> key = ToKey(event);
+  std::optional<Key> key = ToKey(event);
   if (!key.has_value()) return false;
+  key->repeat = Repeats(event);
   if (CharacterCount(key->text) > 1) {
     window->UserTyped(key->text);
     return true;

@@ -14,6 +14,13 @@ class WindowWidget;
 // The key that an event carries; nothing for a bare modifier.
 std::optional<Key> ToKey(const QKeyEvent& event);
 
+// The key that was pressed last, with its times in milliseconds.
+struct HeldKey {
+  quint32 code = 0;
+  quint64 pressed_at = 0;
+  std::optional<quint64> released_at;
+};
+
 // Takes the keys of all widgets of one window before the widgets see them and gives them to the
 // toolkit. A key that carries a character goes no further; one that the toolkit leaves alone and
 // that carries none goes on to the widget.
@@ -26,6 +33,13 @@ class KeyRouter : public QObject {
 
  private:
   bool TakeKey(const QKeyEvent& event);
+  // Whether the key is held down and repeats by itself. Qt does not always know when the focus has
+  // moved to another window meanwhile.
+  static bool Repeats(const QKeyEvent& press);
+  static void NoteRelease(const QKeyEvent& release);
+
+  // In any window: there is one keyboard.
+  inline static HeldKey held_;
 
   WindowWidget& window_;
 };
