@@ -137,6 +137,10 @@ void WindowWidget::Map(bool activate) {
   ShowFocus();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   setAttribute(Qt::WA_ShowWithoutActivating, !activate);
+  // Qt hands the attribute on when it makes the platform's window, which may be there already.
+  if (windowHandle() != nullptr) {
+    windowHandle()->setProperty("_q_showWithoutActivating", !activate);
+  }
   show();
   if (!activate) return;
   raise();
