@@ -12,12 +12,7 @@ namespace {
 // The two-tailed 5% point of the normal distribution, to two decimals as in textbooks.
 constexpr double kStandardErrors = 1.96;
 
-double StandardError(std::int64_t N) {
-  // Every N below 3 gives the root of a negative number here. N below 0 counts as 0, so that the
-  // difference cannot overflow.
-  const std::int64_t pairs = std::max<std::int64_t>(N, 0);
-  return 1.0 / Sqrt(static_cast<double>(pairs - 3));
-}
+double StandardError(double N_less_3) { return 1.0 / Sqrt(N_less_3); }
 
 // The correlation whose Fisher's z is `z`.
 double CorrelationOf(double z) {
@@ -25,17 +20,7 @@ double CorrelationOf(double z) {
   return (e - 1.0) / (e + 1.0);
 }
 
-}  // namespace
-
-double FisherZ(double r) {
-  const double u = 1.0 + r;
-  const double v = 1.0 - r;
-  return 0.5 * Log(u / v);
-}
-
-Interval ComputeInterval(double r, std::int64_t N) {
-  const double z = FisherZ(r);
-  const double se = StandardError(N);
+Interval IntervalAround(double z, double se) {
   const double zLow = z - kStandardErrors * se;
   const double zHigh = z + kStandardErrors * se;
   double lo = CorrelationOf(zLow);
@@ -49,6 +34,25 @@ Interval ComputeInterval(double r, std::int64_t N) {
     hi = 1.0;
   }
   return {lo, hi};
+}
+
+}  // namespace
+
+double FisherZ(double r) {
+  const double u = 1.0 + r;
+  const double v = 1.0 - r;
+  return 0.5 * Log(u / v);
+}
+
+// Every N below 3 gives the root of a negative number. N below 0 counts as 0, so that the difference
+// cannot overflow.
+Interval ComputeInterval(double r, std::int64_t N) {
+  const std::int64_t pairs = std::max<std::int64_t>(N, 0);
+  return IntervalAround(FisherZ(r), StandardError(static_cast<double>(pairs - 3)));
+}
+
+Interval IntervalBetween(double r, double N) {
+  return IntervalAround(FisherZ(r), StandardError(N - 3.0));
 }
 
 }  // namespace vamo
