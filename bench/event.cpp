@@ -13,6 +13,7 @@
 #include "stats/interval.h"
 #include "stats/significance.h"
 #include "toolkit/conversions.h"
+#include "toolkit/window/pane.h"
 
 namespace vamo {
 namespace {
@@ -62,9 +63,12 @@ void Compare(const std::string& n) {
   const Ref<Slider> slider = window->rSlider();
   window->nEdit()->SetText(n);
   FlatWindow flat(n);
-  std::vector<double> events, flat_events;
+  std::vector<double> events, chart_events, flat_events;
   for (int round = 0; round < 21; ++round) {
-    events.push_back(Nanoseconds([&](int position) { slider->UserMovedTo(position); }));
+    for (std::vector<double>* measured : {&events, &chart_events}) {
+      measured->push_back(Nanoseconds([&](int position) { slider->UserMovedTo(position); }));
+      window->SidePane()->Toggle();
+    }
     flat_events.push_back(Nanoseconds([&](int position) { flat.MoveR(position); }));
   }
   slider->UserMovedTo(50);
@@ -74,6 +78,7 @@ void Compare(const std::string& n) {
     throw std::runtime_error("the results differ from those written flat");
   }
   PrintMedian("event_" + n, events);
+  PrintMedian("event_" + n + "_chart", chart_events);
   PrintMedian("event_" + n + "_flat", flat_events);
 }
 

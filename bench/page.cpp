@@ -55,8 +55,9 @@ double MoveSlider(Chromium& browser, int times) {
                      json::array({times}));
 }
 
-double TimeOfAMove(Chromium& browser, const std::string& address) {
+double TimeOfAMove(Chromium& browser, const std::string& address, bool with_chart = false) {
   OpenControls(browser, address);
+  if (with_chart) browser.PressKeys("", "\uE039");
   MoveSlider(browser, 500);
   return MoveSlider(browser, 2000);
 }
@@ -79,7 +80,7 @@ int main(int argc, char** argv) {
   const std::string page = std::string("file://") + argv[1];
   const std::string plain = std::string("file://") + argv[2];
   Chromium browser;
-  std::vector<double> paints, splashes, empty_paints, events, plain_events;
+  std::vector<double> paints, splashes, empty_paints, events, chart_events, plain_events;
   for (int i = 0; i < 31; ++i) {
     const auto [ground, splash] = FirstPaints(browser, page);
     paints.push_back(ground);
@@ -88,14 +89,17 @@ int main(int argc, char** argv) {
   }
   for (int i = 0; i < 5; ++i) {
     events.push_back(TimeOfAMove(browser, page));
+    chart_events.push_back(TimeOfAMove(browser, page, /*with_chart=*/true));
     plain_events.push_back(TimeOfAMove(browser, plain));
   }
   PrintMedian("paint_page", paints);
   PrintMedian("paint_splash", splashes);
   PrintMedian("paint_empty", empty_paints);
   PrintMedian("slider_page", events);
+  PrintMedian("slider_chart", chart_events);
   PrintMedian("slider_plain_page", plain_events);
   OpenControls(browser, page);
+  browser.PressKeys("", "\uE039");
   MoveSlider(browser, 100'000);
   PrintMemory(browser, "hundred_thousand");
   // In a single script, because each script that the driver runs leaves something in the browser.

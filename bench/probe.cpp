@@ -112,12 +112,23 @@ void Probe::WindowShown() {
     SliderTo(*window_, 1000)->setValue(kN);
     slider_ = SliderTo(*window_, 99);
     Paint();
-    if (mode_ == "slide") MeasureSlide();
+    if (mode_ == "chart" || mode_ == "growth") OpenChart();
+    if (mode_ == "slide" || mode_ == "chart") MeasureSlide();
     if (mode_ == "memory") MeasureMemory();
     if (mode_ == "growth") MeasureGrowth();
     if (mode_ == "texts") PrintTexts();
     End(true);
   });
+}
+
+void Probe::OpenChart() {
+  const int closed = window_->width();
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_F9, Qt::NoModifier);
+  QApplication::sendEvent(window_, &press);
+  Paint();
+  if (window_->width() > closed) return;
+  std::fputs("The chart does not open.\n", stderr);
+  End(false);
 }
 
 void Probe::MeasureSlide() {

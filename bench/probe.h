@@ -21,8 +21,10 @@ namespace vamo {
 //   splash   the time on the monotonic clock, in milliseconds, at which the splash is on the screen
 //   window   milliseconds from a key on the splash to the next window on the screen
 //   slide    milliseconds of processor time for a thousand moves of the first slider, each painted
+//   chart    the same with the chart open
 //   memory   the peak of the resident memory after such a session, in KiB
 //   growth   the heap in use and the resident memory, in KiB, after a thousand and a million moves
+//            with the chart open
 //   texts    the texts of the fields and labels after some moves
 class Probe : public QObject {
  public:
@@ -37,6 +39,7 @@ class Probe : public QObject {
   void SplashShown();
   void WindowShown();
 
+  void OpenChart();
   void MeasureSlide();
   void MeasureMemory();
   void MeasureGrowth();

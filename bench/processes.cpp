@@ -23,16 +23,19 @@ class Programs {
     return Output({folder_ + "/" + program, mode});
   }
 
-  void Compare(const std::string& mode, int repetitions) const {
+  // Both in a mode, and the program in another one where that is named.
+  void Compare(const std::string& mode, int repetitions, const std::string& other = "") const {
     std::map<std::string, std::vector<double>> values;
     // The first round is for warming up.
     for (int round = 0; round <= repetitions; ++round) {
-      for (const std::string program : {"program", "plain_qt"}) {
-        const double value = Measure(program, mode);
-        if (round > 0) values[program].push_back(value);
-      }
+      const auto measure = [&](const std::string& program, const std::string& in_mode) {
+        const double value = Measure(program, in_mode);
+        if (round > 0) values[in_mode + "_" + program].push_back(value);
+      };
+      for (const std::string program : {"program", "plain_qt"}) measure(program, mode);
+      if (!other.empty()) measure("program", other);
     }
-    for (const auto& [program, measured] : values) PrintMedian(mode + "_" + program, measured);
+    for (const auto& [name, measured] : values) PrintMedian(name, measured);
   }
 
  private:
@@ -52,7 +55,7 @@ void Measure(const Programs& programs) {
   }
   programs.Compare("splash", 51);
   programs.Compare("window", 31);
-  programs.Compare("slide", 15);
+  programs.Compare("slide", 15, "chart");
   programs.Compare("memory", 7);
   std::istringstream growth(programs.Run("program", "growth"));
   for (const std::string moves : {"thousand", "million"}) {

@@ -34,6 +34,7 @@ bool Refuse(bool passes) {
 
 void ControlWnd::DoIt(double rArg, std::int64_t /*nArg*/) {
   const std::int64_t n = Truncate(Val(nEdit()->Text()));
+  chart_.Follow({rArg, n});
   if (n > kHighestN) {
     Beep();
     nText()->SetVisible(true);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "controlwnd/accessors.h"
+#include "controlwnd/chart_pane.h"
 #include "controlwnd/menu_accessors.h"
 #include "toolkit/control/canvas.h"
 #include "toolkit/control/label.h"
@@ -78,6 +79,7 @@ class ControlWnd : public Window {
   VAMO_MENU_ACCESSORS
 
   std::span<const AccessibleText> AccessibleTexts() const override;
+  Pane* SidePane() override { return &chart_; }
   void AddMenuHandlers(const Ref<Window>& window) override;
   // Closing this window ends the program.
   void Event_Close() override;
@@ -91,6 +93,9 @@ class ControlWnd : public Window {
   // `nEdit`; ignores `nArg`. For a sample size above 1000 it beeps, shows the warning and clears
   // the results instead.
   virtual void DoIt(double rArg, std::int64_t nArg);
+
+ private:
+  ChartPane chart_{*this};
 };
 
 }  // namespace vamo

@@ -46,7 +46,7 @@ constexpr double kTick = 5;
 constexpr double kLabelBelowAxis = 18;
 // From the middle of a label that stands beside a tick down to its base line.
 constexpr double kHalfLetter = 4;
-// Half of the width that the text of a limit or of N takes.
+// Half of the width that the text of a limit takes.
 constexpr double kHalfText = 24;
 
 // Whether p of the correlation is below .05 at that N.
@@ -147,7 +147,7 @@ class Painter {
     AddLine({.5, 0}, {.5, drawing_.height}, {kEdgeGrey});
     AddInterval();
     AddPlot();
-    for (Drawing::Text& text : texts_) drawing_.marks.emplace_back(std::move(text));
+    for (Drawing::Text& text : texts_) Add(std::move(text));
     return std::move(drawing_);
   }
 
@@ -162,9 +162,8 @@ class Painter {
   double Across(double along) const { return kLeft + along * (right_ - kLeft); }
   double AcrossN(std::int64_t N) const { return Across(Along(static_cast<double>(N))); }
 
-  void AddLine(Point from, Point to, const Pen& pen) {
-    drawing_.marks.emplace_back(Drawing::Line{from, to, pen});
-  }
+  void Add(Drawing::Mark mark);
+  void AddLine(Point from, Point to, const Pen& pen) { Add(Drawing::Line{from, to, pen}); }
   void AddText(Point base, TextAlignment alignment, std::string text, Colour colour,
                double size = 11, bool bold = false) {
     texts_.push_back({base, alignment, std::move(text), size, bold, colour});
@@ -178,7 +177,7 @@ class Painter {
     for (const Point& at : {from, to}) {
       AddLine({at.x - end.x, at.y - end.y}, {at.x + end.x, at.y + end.y}, kBarPen);
     }
-    drawing_.marks.emplace_back(Drawing::Dot{r, 5.5, 1.5, kDarkRed});
+    Add(Drawing::Dot{r, 5.5, 1.5, kDarkRed});
   }
 
   void AddInterval();
@@ -197,6 +196,8 @@ class Painter {
   Drawing drawing_;
   std::vector<Drawing::Text> texts_;
 };
+
+void Painter::Add(Drawing::Mark mark) { drawing_.marks.push_back(std::move(mark)); }
 
 void Painter::AddInterval() {
   constexpr double kBarY = 62;
@@ -255,9 +256,8 @@ void Painter::AddNAxis() {
 void Painter::AddPlot() {
   AddTitle(134, "The same r at every N");
   AddNAxis();
-  drawing_.marks.emplace_back(Drawing::Polyline{
-      {{kLeft, kTop}, {right_, kTop}, {right_, bottom_}, {kLeft, bottom_}, {kLeft, kTop}},
-      kFramePen});
+  for (const double x : {kLeft, right_}) AddLine({x, kTop}, {x, bottom_}, kFramePen);
+  for (const double y : {kTop, bottom_}) AddLine({kLeft, y}, {right_, y}, kFramePen);
   if (r_.has_value()) AddBand();
   if (r_.has_value()) AddLine({kLeft, UpR(*r_)}, {right_, UpR(*r_)}, kRPen);
   AddLine({kLeft, UpR(0)}, {right_, UpR(0)}, kZeroPen);
@@ -276,9 +276,9 @@ void Painter::AddBand() {
     outline[i] = upper[i] = {x, UpR(interval.hi)};
     outline[2 * kStations - 1 - i] = lower[i] = {x, UpR(interval.lo)};
   }
-  drawing_.marks.emplace_back(Drawing::Polygon{std::move(outline), kPaleRed});
-  drawing_.marks.emplace_back(Drawing::Polyline{std::move(lower), kBandPen});
-  drawing_.marks.emplace_back(Drawing::Polyline{std::move(upper), kBandPen});
+  Add(Drawing::Polygon{std::move(outline), kPaleRed});
+  Add(Drawing::Polyline{std::move(lower), kBandPen});
+  Add(Drawing::Polyline{std::move(upper), kBandPen});
 }
 
 // The curve of the r whose p is .05, and its label, which makes way for the band of a small r.
@@ -292,14 +292,17 @@ void Painter::AddCurve() {
   const bool has_room_above = r_.has_value() && *r_ >= kSmallR;
   const double y = has_room_above ? curve.back().y - 8 : UpR(0) + 22;
   AddText({right_ - 4, y}, TextAlignment::kRight, "p = .05", kBlue);
-  drawing_.marks.emplace_back(Drawing::Polyline{std::move(curve), kPPen});
+  Add(Drawing::Polyline{std::move(curve), kPPen});
 }
 
 void Painter::AddN() {
   const double x = AcrossN(*N_);
   AddLine({x, kTop}, {x, bottom_}, kNPen);
-  AddText({std::clamp(x, kLeft + kHalfText, right_ - kHalfText), bottom_ - 6},
-          TextAlignment::kCentre, "N = " + Str(*N_, ""), kBlack, 11, /*bold=*/true);
+  std::string label = "N = " + Str(*N_, "");
+  constexpr double kHalfLetterWidth = 3.6;
+  const double half = kHalfLetterWidth * static_cast<double>(label.size());
+  AddText({std::clamp(x, kLeft + half, right_ - half), bottom_ - 6}, TextAlignment::kCentre,
+          std::move(label), kBlack, 11, /*bold=*/true);
   const Interval interval = ComputeInterval(*r_, *N_);
   AddBar({x, UpR(interval.lo)}, {x, UpR(interval.hi)}, {6, 0}, {x, UpR(*r_)});
 }

@@ -13,7 +13,7 @@
 namespace vamo {
 
 // The kinds of control, as a screen reader tells them apart.
-enum class Role { kText, kSlider, kButton, kLabel };
+enum class Role { kText, kSlider, kButton, kLabel, kChart };
 
 // What a user sees of a control.
 struct ShownControl {

@@ -10,6 +10,7 @@
 #include "toolkit/runtime/runtime.h"
 #include "toolkit/text/text_field.h"
 #include "toolkit/utf8.h"
+#include "toolkit/window/pane.h"
 
 namespace vamo {
 namespace {
@@ -38,6 +39,18 @@ std::string Decoded(std::string_view text) {
   return ValidUtf8(decoded);
 }
 
+// What lies between the signs "&" of a fragment; nothing of one that is too long to be meant.
+std::vector<std::string_view> Parts(std::string_view fragment) {
+  std::vector<std::string_view> parts;
+  if (fragment.starts_with('#')) fragment.remove_prefix(1);
+  if (fragment.size() > kLongestFragment) return parts;
+  while (!fragment.empty()) {
+    parts.push_back(fragment.substr(0, fragment.find('&')));
+    fragment.remove_prefix(std::min(parts.back().size() + 1, fragment.size()));
+  }
+  return parts;
+}
+
 void TypeOver(const Ref<TextField>& field, std::string_view text) {
   field->EnteredByTab();
   for (std::size_t at = 0; at < text.size();) {
@@ -51,11 +64,7 @@ void TypeOver(const Ref<TextField>& field, std::string_view text) {
 
 std::vector<LinkedValue> ParseLink(std::string_view fragment) {
   std::vector<LinkedValue> values;
-  if (fragment.starts_with('#')) fragment.remove_prefix(1);
-  if (fragment.size() > kLongestFragment) return values;
-  while (!fragment.empty()) {
-    const std::string_view part = fragment.substr(0, fragment.find('&'));
-    fragment.remove_prefix(std::min(part.size() + 1, fragment.size()));
+  for (const std::string_view part : Parts(fragment)) {
     const std::size_t equals = part.find('=');
     if (equals == std::string_view::npos) continue;
     LinkedValue value{Decoded(part.substr(0, equals)), Decoded(part.substr(equals + 1))};
@@ -65,6 +74,11 @@ std::vector<LinkedValue> ParseLink(std::string_view fragment) {
     if (fits(value.name) && fits(value.value)) values.push_back(std::move(value));
   }
   return values;
+}
+
+bool LinksToChart(std::string_view fragment) {
+  const std::vector<std::string_view> parts = Parts(fragment);
+  return std::find(parts.begin(), parts.end(), "chart") != parts.end();
 }
 
 void EndSplash() {
@@ -81,6 +95,11 @@ void TypeLinkedValues(const std::vector<LinkedValue>& values) {
       TypeOver(Self(field), value);
     }
   }
+}
+
+void OpenChart() {
+  Pane* chart = ControlWnd()->SidePane();
+  if (!chart->IsOpen()) chart->Toggle();
 }
 
 }  // namespace vamo

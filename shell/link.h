@@ -19,6 +19,9 @@ struct LinkedValue {
 // fragment too long to be meant for the program.
 std::vector<LinkedValue> ParseLink(std::string_view fragment);
 
+// Whether "chart" is among the parts of the fragment, as in "#r=.5&N=30&chart".
+bool LinksToChart(std::string_view fragment);
+
 // Presses a key if the splash is the active window. The control window is activated later, in a
 // separate event.
 void EndSplash();
@@ -26,6 +29,9 @@ void EndSplash();
 // Types each value over the text of the control window's field of that name, as a user would:
 // through the same filters and masks. The focus stays where it is.
 void TypeLinkedValues(const std::vector<LinkedValue>& values);
+
+// Opens the chart of the control window, if it is closed.
+void OpenChart();
 
 }  // namespace vamo
 

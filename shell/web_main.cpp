@@ -16,10 +16,14 @@ std::unique_ptr<vamo::Process> process;
 // Typing must wait for the window behind the splash.
 void Follow(std::string_view link) {
   std::vector<vamo::LinkedValue> values = vamo::ParseLink(link);
-  if (values.empty()) return;
-  vamo::page::Post([values = std::move(values)] {
+  const bool with_chart = vamo::LinksToChart(link);
+  if (values.empty() && !with_chart) return;
+  vamo::page::Post([values = std::move(values), with_chart] {
     vamo::EndSplash();
-    vamo::page::Post([values] { vamo::TypeLinkedValues(values); });
+    vamo::page::Post([values, with_chart] {
+      vamo::TypeLinkedValues(values);
+      if (with_chart) vamo::OpenChart();
+    });
   });
 }
 

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QSlider>
@@ -20,6 +21,8 @@
 #include <string>
 #include <utility>
 
+#include "controlwnd/interval_chart.h"
+#include "displays/qt/painting.h"
 #include "journeys/journey_steps.h"
 #include "qt_steps.h"
 #include "toolkit/control/label.h"
@@ -93,11 +96,9 @@ void ExpectNoTextCutOff() {
   }
 }
 
-// Expects that the window in front looks like its stored picture; some pixels of a letter may
-// differ.
-void ExpectPicture(const std::string& name) {
+// Expects that something looks like its stored picture; some pixels of a letter may differ.
+void ExpectPicture(const std::string& name, const QImage& shown) {
   const std::string kept_in = VAMO_PICTURES "/" + name + ".png";
-  const QImage shown = QApplication::activeWindow()->grab().toImage();
   const auto save = [&](const std::string& file) { shown.save(QString::fromStdString(file)); };
   if (std::getenv("VAMO_RENEW_PICTURES") != nullptr) save(kept_in);
   const QImage kept(QString::fromStdString(kept_in));
@@ -112,6 +113,10 @@ void ExpectPicture(const std::string& name) {
   const std::string shown_in = testing::TempDir() + "vamo_" + name + ".png";
   if (differing > 12) save(shown_in);
   EXPECT_LE(differing, 12) << shown_in << " is not as " << kept_in;
+}
+
+void ExpectPicture(const std::string& name) {
+  ExpectPicture(name, QApplication::activeWindow()->grab().toImage());
 }
 
 void MakeWindowsLarger(User& user, int steps) {
@@ -151,6 +156,23 @@ TEST(QtLooksTest, TheWindowsLookAsTheyDid) {
   });
 }
 
+TEST(QtLooksTest, TheChartsLookAsInTheirKeptPictures) {
+  InControlWindow([](User&) {
+    for (const int factor : {1, 2}) {
+      QImage charts(QSize(3 * 420, 425) * factor, QImage::Format_RGB32);
+      QPainter painter(&charts);
+      int left = 0;
+      for (const Calculation& last : {Calculation{.37, 30}, {.06, 1000}, {.37, 2}}) {
+        QImage chart(QSize(420, 425) * factor, QImage::Format_RGB32);
+        Paint(DrawIntervalChart(last, 420, 425), factor, chart);
+        painter.drawImage(left, 0, chart);
+        left += chart.width();
+      }
+      ExpectPicture("charts_at_" + std::to_string(factor), charts);
+    }
+  });
+}
+
 int MenuLetters() {
   return QFontInfo(QApplication::activeWindow()->findChild<QMenu*>()->font()).pixelSize();
 }
@@ -174,12 +196,15 @@ TEST(QtLooksTest, KeysEnlargeAllWindowsAndRestoreTheirSize) {
     user.Click(Role::kButton, "Info");
     EXPECT_EQ(QApplication::activeWindow()->width(), 900);
     EXPECT_EQ(MenuLetters(), 2 * menu_letters);
-    user.PressKey(Key::Command("0"));
+    EXPECT_TRUE(user.Choose("View/Original Size"));
     EXPECT_EQ(QApplication::activeWindow()->width(), 450);
     user.ActivateWindow("Vamo");
     EXPECT_EQ(Drawn(control), before);
     MakeWindowsLarger(user, 20);
     EXPECT_TRUE(control.screen()->availableGeometry().contains(control.frameGeometry()));
+    EXPECT_FALSE(user.CanChoose("View/Larger"));
+    EXPECT_TRUE(user.Choose("View/Smaller"));
+    EXPECT_TRUE(user.Choose("View/Larger"));
   });
 }
 
@@ -207,6 +232,32 @@ TEST(QtLooksTest, NoWindowIsLargerThanItsScreen) {
     EXPECT_EQ(control.width(), 500);
     MoveTo(small, control);
     expect_small();
+  });
+}
+
+TEST(QtLooksTest, TheWindowGrowsByTheChartAndStaysOnItsScreen) {
+  InControlWindow([](User& user) {
+    const Key f9{KeyCode::kF9, ""};
+    QApplication::setCursorFlashTime(0);
+    QWidget& control = *QApplication::activeWindow();
+    const QImage before = Drawn(control);
+    user.PressKey(f9);
+    EXPECT_EQ(control.width(), 920);
+    EXPECT_TRUE(control.screen()->availableGeometry().contains(control.frameGeometry()));
+    user.Click(Role::kChart, "Chart");
+    EXPECT_EQ(user.Focused().name, "r");
+    // The chart is narrower there, and not the windows smaller.
+    MakeWindowsLarger(user, 20);
+    EXPECT_EQ(control.frameGeometry().width(), 1280);
+    EXPECT_EQ(Named<QSlider>("r").width(), 675);
+    user.PressKey(Key::Command("0"));
+    user.PressKey(f9);
+    EXPECT_EQ(Drawn(control), before);
+    QScreen& small = *QGuiApplication::screens().back();
+    MoveTo(small, control);
+    user.PressKey(f9);
+    EXPECT_EQ(control.frameGeometry().width(), small.availableGeometry().width());
+    EXPECT_TRUE(small.availableGeometry().contains(control.frameGeometry()));
   });
 }
 

@@ -33,6 +33,7 @@ class QtElement {
         {QAccessible::Button, "button"},      {QAccessible::StaticText, "label"},
         {QAccessible::Window, "frame"},       {QAccessible::MenuBar, "menu bar"},
         {QAccessible::MenuItem, "menu item"}, {QAccessible::Dialog, "dialog"},
+        {QAccessible::Chart, "chart"},
     };
     const auto found = kNames.find(accessible_->role());
     return found == kNames.end() ? "" : found->second;

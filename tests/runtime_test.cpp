@@ -80,6 +80,7 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
       [&] { item->SetAutoEnabled(false); },
       [&] { item->SetEnabled(false); },
       [&] { item->SetVisible(false); },
+      [&] { item->SetChecked(true); },
       [&] { item->AddMenu(child); },
       [&] { item->Child("x"); },
       [&] { item->_Lookup("x"); },
@@ -113,7 +114,7 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
       &Window::Visible, &Window::WhereToShow, &Window::Focus, &Window::UserActivated,
       &Window::UserDeactivated);
   add(item, &MenuItem::Name, &MenuItem::Value, &MenuItem::Shortcut, &MenuItem::AutoEnabled,
-      &MenuItem::Enabled, &MenuItem::Visible, &MenuItem::Children);
+      &MenuItem::Enabled, &MenuItem::Visible, &MenuItem::Checked, &MenuItem::Children);
   const auto trapped = [](const std::function<void()>& operation) {
     std::string message;
     std::thread([&] {

@@ -355,6 +355,12 @@ TEST(LinkTest, DoesWhatAUserWouldDo) {
     EXPECT_EQ(user.Sees(Role::kText, "N").text, "1333");
     EndSplash();
     EXPECT_EQ(user.Focused().name, "r");
+    EXPECT_FALSE(LinksToChart("#r=.5&N=30&charts=1"));
+    ASSERT_TRUE(LinksToChart("#r=.5&chart&N=30"));
+    for (int times = 0; times < 2; ++times) {
+      OpenChart();
+      EXPECT_TRUE(user.Sees(Role::kChart, "Chart").visible);
+    }
   });
 }
 

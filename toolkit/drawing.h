@@ -16,6 +16,7 @@ struct Drawing {
   struct Point {
     double x = 0;
     double y = 0;
+    bool operator==(const Point&) const = default;
   };
 
   // How a line is drawn. A line without a gap is solid.
@@ -24,22 +25,26 @@ struct Drawing {
     double width = 1;
     double dash = 0;
     double gap = 0;
+    bool operator==(const Pen&) const = default;
   };
 
   struct Line {
     Point from;
     Point to;
     Pen pen;
+    bool operator==(const Line&) const = default;
   };
 
   struct Polyline {
     std::vector<Point> points;
     Pen pen;
+    bool operator==(const Polyline&) const = default;
   };
 
   struct Polygon {
     std::vector<Point> points;
     Colour fill;
+    bool operator==(const Polygon&) const = default;
   };
 
   // A filled circle. Its rim, a line of the ground's colour along its edge, parts it from what lies
@@ -49,6 +54,7 @@ struct Drawing {
     double radius = 0;
     double rim = 0;
     Colour fill;
+    bool operator==(const Dot&) const = default;
   };
 
   // A text in the platform's interface font. `base` lies on the base line, at the text's left end,
@@ -62,6 +68,7 @@ struct Drawing {
     double size = 12;
     bool bold = false;
     Colour colour;
+    bool operator==(const Text&) const = default;
   };
 
   using Mark = std::variant<Line, Polyline, Polygon, Dot, Text>;

@@ -48,6 +48,8 @@ class HeadlessDisplay : public Display {
   void LetTimePass(std::chrono::milliseconds time);
   // From now on no image can be opened; by default every one can.
   void RemovePictures() { has_pictures_ = false; }
+  // From now on no pane has room; by default each has.
+  void LeaveNoRoomForPanes() { has_room_for_panes_ = false; }
   // From now on Tab can leave a window; by default it stays inside.
   void LetTabLeave() { tab_leaves_ = true; }
 
@@ -77,6 +79,7 @@ class HeadlessDisplay : public Display {
   std::string clipboard_;
   int clipboard_reads_ = 0;
   bool has_pictures_ = true;
+  bool has_room_for_panes_ = true;
   bool tab_leaves_ = false;
   bool stopped_ = false;
   int beeps_ = 0;

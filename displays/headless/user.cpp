@@ -174,6 +174,7 @@ std::string HeadlessUser::ActiveTitle() {
 }
 
 ShownControl HeadlessUser::Sees(Role role, std::string_view name) {
+  if (role == Role::kChart) return display_.ActiveWindow().ShownPane();
   return Find(role, name).Shown();
 }
 

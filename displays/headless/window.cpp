@@ -9,6 +9,7 @@
 #include "toolkit/control/slider.h"
 #include "toolkit/text/text_area.h"
 #include "toolkit/text/text_field.h"
+#include "toolkit/window/pane.h"
 #include "toolkit/window/window.h"
 
 namespace vamo {
@@ -80,6 +81,28 @@ void HeadlessWindow::Show(bool activate) {
   on_screen_ = true;
   // A desktop activates a window some time after the program has asked for it, not during the call.
   if (activate) display_.order_.Show(*this);
+}
+
+ShownControl HeadlessWindow::PresentPane() const {
+  const Pane* pane = window_.SidePane();
+  if (pane == nullptr || !pane->IsOpen()) return {};
+  ShownControl present;
+  present.role = Role::kChart;
+  present.name = Pane::kName;
+  present.description = pane->Description();
+  present.text = present.name;
+  present.visible = present.enabled = true;
+  return present;
+}
+
+bool HeadlessWindow::ShowPane() {
+  const Pane& pane = *window_.SidePane();
+  if (pane.IsOpen() && !display_.has_room_for_panes_) return false;
+  ++pane_showings_;
+  pane_ = PresentPane();
+  const auto height = static_cast<double>(window_.InitialState().height);
+  pane_drawing_ = pane.IsOpen() ? pane.Draw(Pane::kWidth, height) : Drawing{};
+  return true;
 }
 
 void HeadlessWindow::UpdateFocus() { focus_ = window_.Focus() ? &*window_.Focus() : nullptr; }

@@ -10,6 +10,7 @@
 #include "displays/headless/display.h"
 #include "displays/user.h"
 #include "toolkit/control/control.h"
+#include "toolkit/drawing.h"
 #include "toolkit/runtime/display.h"
 
 namespace vamo {
@@ -45,12 +46,20 @@ class HeadlessWindow : public WindowView {
   std::unique_ptr<ControlView> CreateControl(AnyControl control) override;
   void Show(bool activate) override;
   void Hide() override { on_screen_ = false; }
+  bool ShowPane() override;
   void UpdateFocus() override;
 
   vamo::Window& Shown() const { return window_; }
   bool OnScreen() const { return on_screen_; }
   const std::vector<HeadlessControl*>& Controls() const { return controls_; }
   const HeadlessControl* Focus() const;
+  // The pane as it is shown, invisible where it is closed or there is none.
+  const ShownControl& ShownPane() const { return pane_; }
+  const Drawing& PaneDrawing() const { return pane_drawing_; }
+  // The pane's present state, as it would be shown.
+  ShownControl PresentPane() const;
+  // How often the pane has been shown.
+  int PaneShowings() const { return pane_showings_; }
 
  private:
   friend class HeadlessControl;
@@ -59,6 +68,9 @@ class HeadlessWindow : public WindowView {
   vamo::Window& window_;
   std::vector<HeadlessControl*> controls_;
   const RectControl* focus_ = nullptr;
+  ShownControl pane_;
+  Drawing pane_drawing_;
+  int pane_showings_ = 0;
   bool on_screen_ = false;
 };
 

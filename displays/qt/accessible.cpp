@@ -2,10 +2,13 @@
 
 #include <QAccessibleWidget>
 
+#include "displays/qt/convert.h"
 #include "displays/qt/label.h"
+#include "displays/qt/pane.h"
 #include "displays/qt/slider.h"
 #include "displays/qt/window.h"
 #include "toolkit/control/label.h"
+#include "toolkit/window/pane.h"
 #include "toolkit/window/window.h"
 
 namespace vamo {
@@ -89,11 +92,29 @@ class AccessibleSlider : public AccessibleControl, public QAccessibleValueInterf
   SliderWidget& slider_;
 };
 
+// A pane. Its description is worked out when somebody asks for it.
+class AccessiblePane : public QAccessibleWidget {
+ public:
+  explicit AccessiblePane(PaneWidget& pane)
+      : QAccessibleWidget(&pane, QAccessible::Chart), pane_(pane) {}
+
+  QString text(QAccessible::Text which) const override {
+    const Pane* shown = pane_.ShownPane();
+    if (which != QAccessible::Description || shown == nullptr)
+      return QAccessibleWidget::text(which);
+    return ToQString(shown->Description());
+  }
+
+ private:
+  PaneWidget& pane_;
+};
+
 }  // namespace
 
 QAccessibleInterface* MakeAccessible(const QString& /*class_name*/, QObject* object) {
   if (auto* slider = dynamic_cast<SliderWidget*>(object)) return new AccessibleSlider(*slider);
   if (auto* label = dynamic_cast<LabelWidget*>(object)) return new AccessibleLabel(*label);
+  if (auto* pane = dynamic_cast<PaneWidget*>(object)) return new AccessiblePane(*pane);
   // Qt takes a plain widget for a part of a window even where it is one.
   if (auto* window = dynamic_cast<WindowWidget*>(object)) {
     const Window* shown = window->ShownWindow();

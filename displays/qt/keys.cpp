@@ -33,7 +33,7 @@ constexpr std::array kCodedKeys{
     CodedKey{Qt::Key_PageUp, KeyCode::kPageUp}, CodedKey{Qt::Key_PageDown, KeyCode::kPageDown},
     CodedKey{Qt::Key_Home, KeyCode::kHome},     CodedKey{Qt::Key_End, KeyCode::kEnd},
     CodedKey{Qt::Key_F1, KeyCode::kHelp},       CodedKey{Qt::Key_Help, KeyCode::kHelp},
-    CodedKey{Qt::Key_Delete, KeyCode::kDelete},
+    CodedKey{Qt::Key_Delete, KeyCode::kDelete}, CodedKey{Qt::Key_F9, KeyCode::kF9},
 };
 
 constexpr std::array kModifiers{

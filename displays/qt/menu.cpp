@@ -2,10 +2,13 @@
 
 #include <QAction>
 #include <QMenu>
+#include <array>
 #include <vector>
 
 #include "displays/qt/convert.h"
+#include "displays/qt/zoom.h"
 #include "toolkit/window/menu_service.h"
+#include "toolkit/window/view_menu.h"
 
 namespace vamo {
 namespace {
@@ -25,6 +28,25 @@ QAction::MenuRole Role(const MenuItem& item) {
   return about && !item.Value().empty() ? QAction::AboutRole : QAction::NoRole;
 }
 
+// What the View menu has besides the toolkit's items, which take the letter C.
+struct ZoomCommand {
+  const char* title;
+  const char* shortcut;
+  void (Zoom::*act)();
+  bool (Zoom::*can_act)() const;
+};
+constexpr std::array kZoomCommands{
+    ZoomCommand{"&Larger", "Ctrl++", &Zoom::Enlarge, &Zoom::CanEnlarge},
+    ZoomCommand{"&Smaller", "Ctrl+-", &Zoom::Reduce, &Zoom::CanReduce},
+    ZoomCommand{"&Original Size", "Ctrl+0", &Zoom::Restore, &Zoom::CanRestore},
+};
+
+// Only to be seen: it is known elsewhere what the key does, and a key must not act twice.
+void ShowShortcut(QAction& action, const QString& shortcut) {
+  action.setShortcut(QKeySequence(shortcut));
+  action.setShortcutContext(Qt::WidgetShortcut);
+}
+
 // One menu and the items that its entries stand for.
 class Menu : public QMenu {
  public:
@@ -38,12 +60,19 @@ class Menu : public QMenu {
   void Add(const Ref<MenuItem>& item) {
     QAction* action = addAction(QString());
     action->setMenuRole(Role(*item));
-    action->setShortcut(QKeySequence(
-        ToQString(item->Shortcut()).replace(QStringLiteral("Cmd"), QStringLiteral("Ctrl"))));
-    // Only to be seen: the toolkit knows what the key does, and a key must not act twice.
-    action->setShortcutContext(Qt::WidgetShortcut);
+    ShowShortcut(
+        *action,
+        ToQString(item->Shortcut()).replace(QStringLiteral("Cmd"), QStringLiteral("Ctrl")));
     connect(action, &QAction::triggered, this, [item] { UserChose(item); });
     entries_.push_back({action, item});
+  }
+
+  void Add(const ZoomCommand& command, Zoom& zoom) {
+    QAction* action = addAction(QLatin1String(command.title));
+    ShowShortcut(*action, QLatin1String(command.shortcut));
+    connect(action, &QAction::triggered, this, [&zoom, act = command.act] { (zoom.*act)(); });
+    connect(this, &QMenu::aboutToShow, action,
+            [action, &zoom, can_act = command.can_act] { action->setEnabled((zoom.*can_act)()); });
   }
 
   void Refresh() {
@@ -52,6 +81,8 @@ class Menu : public QMenu {
       action->setSeparator(IsSeparator(*item));
       action->setVisible(item->Visible() && !item->Value().empty());
       action->setEnabled(item->Enabled());
+      action->setCheckable(item->Checked().has_value());
+      action->setChecked(item->Checked().value_or(false));
       // A style may write a separator's text beside its line.
       const bool has_text = action->isVisible() && !action->isSeparator();
       action->setText(has_text ? WithMnemonic(ToQString(item->Value()), letters_in_use)
@@ -78,12 +109,16 @@ QString WithMnemonic(const QString& title, QString& letters_in_use) {
   return Escaped(title);
 }
 
-void FillMenuBar(QMenuBar& bar, const MenuBar& tree) {
+void FillMenuBar(QMenuBar& bar, const MenuBar& tree, Zoom& zoom) {
   QString letters_in_use;
   for (const DrawnMenu& drawn : DrawnMenus(tree)) {
     auto* menu = new Menu(bar);
     for (const Ref<MenuItem>& item : drawn.items) menu->Add(item);
     menu->Refresh();
+    if (drawn.text == kViewMenu) {
+      menu->addSeparator();
+      for (const ZoomCommand& command : kZoomCommands) menu->Add(command, zoom);
+    }
     menu->setTitle(WithMnemonic(ToQString(drawn.text), letters_in_use));
     bar.addMenu(menu);
   }

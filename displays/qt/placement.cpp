@@ -106,6 +106,11 @@ bool PlatformPlacesWindows() {
   return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
+int WidthOfRoom(const QWidget& window) {
+  const QMargins frame = FrameOf(window);
+  return Available(window).width() - frame.left() - frame.right();
+}
+
 void MoveMiddle(QWidget& window, const QPoint& middle) {
   PlaceOver(window, middle, Available(window));
 }

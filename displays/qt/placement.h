@@ -21,6 +21,9 @@ bool RoomFor(const QWidget& window, const QSize& size);
 // Whether a window cannot choose its place, as under Wayland.
 bool PlatformPlacesWindows();
 
+// How wide the inside of a window can be there.
+int WidthOfRoom(const QWidget& window);
+
 // Moves the middle of a window there, as far as all of it then lies on the screen, with what the
 // platform draws around it. Of one that is too large the top left corner does.
 void MoveMiddle(QWidget& window, const QPoint& middle);

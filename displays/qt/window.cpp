@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QVBoxLayout>
+#include <QHBoxLayout>
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
@@ -53,14 +53,17 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
       zoom_(zoom),
       factor_(zoom.Factor()),
       content_(new ContentWidget(*this)),
+      pane_(new PaneWidget(*this)),
       keys_(*this),
       presses_(*this, activation) {
   setWindowTitle(ToQString(window.ListedTitle()));
   setAccessibleDescription(ToQString(window.AccessibleDescription()));
   setObjectName(ToQString(window.Class()->name));
-  auto* layout = new QVBoxLayout(this);
+  auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
   layout->addWidget(content_);
+  layout->addWidget(pane_);
   AddMenuBar();
   SetSizes(DesignedSize());
   settle_.setSingleShot(true);
@@ -73,7 +76,7 @@ void WindowWidget::AddMenuBar() {
   if (!window_->MenuBar()) return;
   menu_bar_ = new QMenuBar(this);
   menu_bar_->setNativeMenuBar(kOneMenuBarOnScreen);
-  FillMenuBar(*menu_bar_, *window_->MenuBar());
+  FillMenuBar(*menu_bar_, *window_->MenuBar(), zoom_);
   layout()->setMenuBar(menu_bar_);
 }
 
@@ -105,15 +108,30 @@ void WindowWidget::Rescale() {
   const double change = Factor() / std::exchange(factor_, Factor());
   SetSizes(window_->CanBeResized() ? content_->size() * change : DesignedSize());
   content_->Rescale();
+  pane_->Refresh();
 }
 
 QSize WindowWidget::SizeAt(double factor) const {
-  return (QSizeF(size()) * (factor / Factor())).toSize();
+  const int pane = pane_->isHidden() ? 0 : pane_->width() - pane_->SmallestWidth();
+  return (QSizeF(width() - pane, height()) * (factor / Factor())).toSize();
 }
 
 void WindowWidget::Add(ControlWidget& widget) {
   content_->Add(widget);
   keys_.Watch(widget.AsWidget());
+}
+
+bool WindowWidget::ShowPane() {
+  const bool was_hidden = pane_->isHidden();
+  if (!pane_->Refresh()) return false;
+  layout()->activate();
+  if (!was_hidden || pane_->isHidden() || !isVisible()) return true;
+  if (PlatformPlacesWindows()) {
+    MapAgain();
+  } else {
+    KeepOnScreen(*this);
+  }
+  return true;
 }
 
 void WindowWidget::PutOnScreen(bool activate) {

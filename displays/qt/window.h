@@ -10,6 +10,7 @@
 #include "displays/qt/activation.h"
 #include "displays/qt/content.h"
 #include "displays/qt/keys.h"
+#include "displays/qt/pane.h"
 #include "displays/qt/presses.h"
 #include "displays/qt/zoom.h"
 #include "toolkit/runtime/display.h"
@@ -44,6 +45,8 @@ class WindowWidget : public QWidget {
   ContentWidget& Content() { return *content_; }
   // Adds a control's new widget, whose parent is the content.
   void Add(ControlWidget& widget);
+  // Shows the window's pane as it is now. False: the screen has no room for it.
+  bool ShowPane();
   // Puts the window on the screen, when the event ends; with `activate` in front and with the
   // focus.
   void PutOnScreen(bool activate);
@@ -75,6 +78,7 @@ class WindowWidget : public QWidget {
   // The factor that the sizes have been set for.
   double factor_;
   ContentWidget* content_;
+  PaneWidget* pane_;
   KeyRouter keys_;
   PressRouter presses_;
   QMenuBar* menu_bar_ = nullptr;
@@ -94,6 +98,7 @@ class QtWindowView : public WindowView {
   std::unique_ptr<ControlView> CreateControl(AnyControl control) override;
   void Show(bool activate) override;
   void Hide() override { widget_->TakeAway(); }
+  bool ShowPane() override { return widget_->ShowPane(); }
   void UpdateFocus() override { widget_->ShowFocus(); }
 
  private:

@@ -67,7 +67,9 @@ Zoom::Zoom()
     QObject::connect(screen, &QScreen::availableGeometryChanged, &connections_, [this] {
       FitScreen();
       for (WindowWidget* window : AllWindows()) {
-        if (window->isVisible()) KeepOnScreen(*window);
+        if (!window->isVisible()) continue;
+        window->ShowPane();
+        KeepOnScreen(*window);
       }
     });
   };
@@ -87,25 +89,37 @@ bool Zoom::TakeKey(const QKeyEvent& event) {
     case Qt::Key_Plus:
     // What many keyboards have where the plus needs the shift key.
     case Qt::Key_Equal:
-      Step(/*up=*/true);
+      Enlarge();
       return true;
     case Qt::Key_Minus:
-      Step(/*up=*/false);
+      Reduce();
       return true;
     case Qt::Key_0:
-      Set(LargestFitting(1));
+      Restore();
       return true;
     default:
       return false;
   }
 }
 
-void Zoom::Step(bool up) {
-  const auto present = std::find(kFactors.begin(), kFactors.end(), factor_);
-  if (!up && present != kFactors.begin()) Set(*(present - 1));
-  const auto larger = present + 1;
-  if (up && larger != kFactors.end() && FitsTheScreen(*larger)) Set(*larger);
+bool Zoom::CanEnlarge() const {
+  return factor_ != kFactors.back() &&
+         FitsTheScreen(*std::upper_bound(kFactors.begin(), kFactors.end(), factor_));
 }
+
+void Zoom::Enlarge() {
+  if (CanEnlarge()) Set(*std::upper_bound(kFactors.begin(), kFactors.end(), factor_));
+}
+
+bool Zoom::CanReduce() const { return factor_ != kFactors.front(); }
+
+void Zoom::Reduce() {
+  if (CanReduce()) Set(*(std::lower_bound(kFactors.begin(), kFactors.end(), factor_) - 1));
+}
+
+bool Zoom::CanRestore() const { return factor_ != LargestFitting(1); }
+
+void Zoom::Restore() { Set(LargestFitting(1)); }
 
 void Zoom::Set(double factor) {
   if (factor == factor_) return;

@@ -18,8 +18,14 @@ class Zoom {
 
   double Factor() const { return factor_; }
 
-  // The command key with plus, minus or 0 makes all windows larger, smaller, or as designed, as far
-  // as the screen has the room. False: it is another key.
+  // Make all windows larger, smaller, or as designed, as far as the screen has the room.
+  void Enlarge();
+  void Reduce();
+  void Restore();
+  bool CanEnlarge() const;
+  bool CanReduce() const;
+  bool CanRestore() const;
+  // The keys for it: the command key with plus, minus or 0. False: it is another key.
   bool TakeKey(const QKeyEvent& event);
 
   // Makes all windows smaller as far as needed for each of them to fit its screen. The screens say
@@ -32,7 +38,6 @@ class Zoom {
     QFont designed;
   };
 
-  void Step(bool up);
   void Set(double factor);
 
   double factor_ = 1;

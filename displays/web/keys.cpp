@@ -29,7 +29,8 @@ constexpr std::array kCodedKeys{
     CodedKey{"ArrowUp", KeyCode::kUp},     CodedKey{"ArrowDown", KeyCode::kDown},
     CodedKey{"PageUp", KeyCode::kPageUp},  CodedKey{"PageDown", KeyCode::kPageDown},
     CodedKey{"Home", KeyCode::kHome},      CodedKey{"End", KeyCode::kEnd},
-    CodedKey{"F1", KeyCode::kHelp},        CodedKey{"Help", KeyCode::kHelp},
+    CodedKey{"F9", KeyCode::kF9},          CodedKey{"F1", KeyCode::kHelp},
+    CodedKey{"Help", KeyCode::kHelp},
 };
 
 constexpr std::array<std::string_view, 14> kModifiers{

@@ -32,19 +32,25 @@ struct WebMenuBar::Entry {
     const bool separates = IsSeparator(*item);
     shows = item->Visible() && !item->Value().empty();
     element.SetFlag("hidden", !shows);
-    element.SetAttribute("role", separates ? "separator" : "menuitem");
+    const std::optional<bool> checked = item->Checked();
+    element.SetAttribute("role", separates ? "separator"
+                                 : checked ? "menuitemcheckbox"
+                                           : "menuitem");
     if (separates) return;
+    if (checked) element.SetAttribute("aria-checked", *checked ? "true" : "false");
     element.SetAttribute("tabindex", "-1");
     element.SetAttribute("aria-disabled", item->Enabled() ? "false" : "true");
     element.SetText(item->Value());
     // Without what the style sheet shows of the shortcut.
     element.SetAttribute("aria-label", item->Value());
-    std::string shortcut = item->Shortcut();
+    const std::string& shortcut = item->Shortcut();
     if (shortcut.empty()) return;
-    shortcut.replace(0, shortcut.find('+'), page::IsMac() ? "Meta" : "Control");
-    element.SetAttribute("aria-keyshortcuts", shortcut);
-    shortcut.replace(0, shortcut.find('+'), page::IsMac() ? "Cmd" : "Ctrl");
-    element.SetAttribute("data-shortcut", shortcut);
+    const std::size_t plus = shortcut.find('+');
+    const bool with_command = plus != std::string::npos;
+    const std::string key = with_command ? shortcut.substr(plus) : shortcut;
+    const auto held = [&](const char* name) { return with_command ? name + key : key; };
+    element.SetAttribute("aria-keyshortcuts", held(page::IsMac() ? "Meta" : "Control"));
+    element.SetAttribute("data-shortcut", held(page::IsMac() ? "Cmd" : "Ctrl"));
   }
   bool CanBeFocused() const { return shows && !IsSeparator(*item); }
 
@@ -200,7 +206,8 @@ PageAnswer WebMenuBar::TakeKey(std::size_t menu, const PageReport& report) {
     }
     return PageAnswer::kTakenWhole;
   }
-  if (report.control || report.meta || report.alt || key == "F1") return PageAnswer::kPassed;
+  if (report.control || report.meta || report.alt || key == "F1" || key == "F9")
+    return PageAnswer::kPassed;
   // No other key is for what has the focus behind the menu.
   if (key.size() != 1) return PageAnswer::kTaken;
   if (open_ == menu) {

@@ -224,7 +224,10 @@ mergeInto(LibraryManager.library, {
 
   page_create__deps: ['$Page', 'malloc'],
   page_create: function (parent, tag, length, listens) {
-    var element = document.createElement(Page.read(tag, length));
+    var name = Page.read(tag, length);
+    // A picture and what is in it are of another kind than the page.
+    var element = document.createElementNS(name === 'svg' ? 'http://www.w3.org/2000/svg' :
+      Page.elements[parent].namespaceURI, name);
     element.listens = listens;
     element.vamo = Page.elements.length;
     element.id = 'vamo' + element.vamo;

@@ -62,6 +62,9 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
   }
   if (window.MenuBar()) menu_bar_ = std::make_unique<WebMenuBar>(*this, frame_, *window.MenuBar());
   content_.BringToEnd();
+  if (const Pane* pane = window.SidePane()) {
+    pane_ = std::make_unique<WebPane>(frame_, *pane, static_cast<double>(state.height));
+  }
   display_.Order().Add(*this);
 }
 
@@ -158,6 +161,15 @@ void WebWindow::ShowFocus() {
   } else if (IsInFront()) {
     frame_.Focus();
   }
+}
+
+// Where it has no room on the screen, the user scrolls to it.
+bool WebWindow::ShowPane() {
+  pane_->Update();
+  const bool open = window_.SidePane()->IsOpen();
+  display_.Page().SetFlag("data-pane", open);
+  frame_.SetFlag("data-pane", open);
+  return true;
 }
 
 // The user has moved it by a key.

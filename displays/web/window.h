@@ -9,6 +9,7 @@
 #include "displays/web/control.h"
 #include "displays/web/menu.h"
 #include "displays/web/page.h"
+#include "displays/web/pane.h"
 #include "toolkit/runtime/display.h"
 #include "toolkit/window/window.h"
 
@@ -25,6 +26,7 @@ class WebWindow : public WindowView {
   std::unique_ptr<ControlView> CreateControl(AnyControl control) override;
   void Show(bool activate) override;
   void Hide() override;
+  bool ShowPane() override;
   void UpdateFocus() override;
 
   Window& Shown() const { return window_; }
@@ -74,6 +76,7 @@ class WebWindow : public WindowView {
   PageElement* close_button_ = nullptr;
   std::unique_ptr<WebMenuBar> menu_bar_;
   PageElement content_;
+  std::unique_ptr<WebPane> pane_;
   std::vector<WebControl*> controls_;
   std::unique_ptr<Arrangement> arrangement_;
   bool has_been_shown_ = false;

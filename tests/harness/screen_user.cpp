@@ -25,7 +25,7 @@ std::string NameOf(const Key& key) {
       {KeyCode::kPageUp, "Page_Up"}, {KeyCode::kPageDown, "Page_Down"},
       {KeyCode::kHome, "Home"},      {KeyCode::kEnd, "End"},
       {KeyCode::kHelp, "F1"},        {KeyCode::kDelete, "Delete"},
-      {KeyCode::kOther, "F5"},
+      {KeyCode::kF9, "F9"},          {KeyCode::kOther, "F5"},
   };
   static const std::map<std::string, std::string> kSigns{{"+", "plus"}, {"-", "minus"}};
   std::string name =
@@ -47,7 +47,8 @@ std::optional<Role> RoleNamed(std::string_view role_name) {
   static const std::map<std::string_view, Role> kRoles{{"text", Role::kText},
                                                        {"slider", Role::kSlider},
                                                        {"button", Role::kButton},
-                                                       {"label", Role::kLabel}};
+                                                       {"label", Role::kLabel},
+                                                       {"chart", Role::kChart}};
   const auto found = kRoles.find(role_name);
   return found == kRoles.end() ? std::nullopt : std::optional(found->second);
 }

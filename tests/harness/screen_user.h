@@ -80,7 +80,10 @@ class ScreenUser : public User {
 
   std::vector<std::string> Windows() override { return Look().titles; }
   std::string ActiveTitle() override { return Look().active_title; }
-  ShownControl Sees(Role role, std::string_view name) override { return Read(Find(role, name)); }
+  ShownControl Sees(Role role, std::string_view name) override {
+    // A chart that is closed need not be there.
+    return role == Role::kChart && !Has(role, name) ? ShownControl{} : Read(Find(role, name));
+  }
   ShownControl SeesDescribed(std::string_view description) override {
     return Read(FindDescribed(description));
   }
@@ -93,6 +96,12 @@ class ScreenUser : public User {
 
   // The active window.
   Element Frame() { return Look().active.value(); }
+  bool Has(Role role, std::string_view name) {
+    const std::vector<Element> elements = Elements();
+    return std::any_of(elements.begin(), elements.end(), [&](const Element& element) {
+      return RoleNamed(element.RoleName()) == role && element.Name() == name;
+    });
+  }
   // The element of the active window with that name or description.
   Element Find(Role role, std::string_view name) {
     for (const Element& element : Elements()) {

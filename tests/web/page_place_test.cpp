@@ -106,6 +106,33 @@ TEST_F(PageTest, FlowsOnNarrowScreensAndForFingers) {
   }
 }
 
+// On a screen, with the page made twice as large, on a tablet and on a phone.
+TEST_F(PageTest, TheChartLiesBesideTheControlsOrBelowThemAndOnOneSheet) {
+  for (const auto& [width, height, by_fingers] :
+       {std::tuple{1366, 768, false}, {683, 384, false}, {1180, 820, true}, {360, 640, true}}) {
+    SCOPED_TRACE(std::to_string(width) + " x " + std::to_string(height));
+    BecomePhone(width, height);
+    browser().DoOwn("Emulation.setTouchEmulationEnabled", {{"enabled", by_fingers}});
+    browser().Open("about:blank");
+    PageUser user(browser(), PageAddress() + "#r=.37&N=30&chart");
+    ASSERT_TRUE(Await([&] { return user.Sees(Role::kChart, "Chart").visible; }));
+    const json places = browser().Run(
+        "const box = part => document.querySelector(part).getBoundingClientRect();"
+        "const chart = box('.pane svg'), controls = box('.window[data-pane] .content');"
+        "const page = document.documentElement;"
+        "return [chart.left >= controls.right - 1, chart.top >= controls.bottom - 1,"
+        "  chart.right + scrollX <= page.scrollWidth, chart.bottom + scrollY <= page.scrollHeight,"
+        "  chart.width >= 260];");
+    EXPECT_EQ(places, json::array({width > 400, width < 400, true, true, true}));
+    EXPECT_EQ(browser().Run("return document.querySelector('.pane table').rows[2].innerText;"),
+              "30\t+.011 to +.644\t.04416");
+    const json sheets = browser().DoOwn("Page.printToPDF", json::object()).at("data");
+    EXPECT_EQ(browser().Run("return atob(arguments[0]).match(/\\/Count (\\d+)/)[1];",
+                            json::array({sheets})),
+              "1");
+  }
+}
+
 TEST_F(PageTest, AFingerSlidesScrollsAndTypes) {
   BecomePhone(640, 280);
   PageUser user = InControlWindow();

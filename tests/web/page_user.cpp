@@ -50,7 +50,7 @@ constexpr std::string_view kLook = R"(
             range || selects ? '' : element.textContent].join('|'),
       description: element.getAttribute('aria-description') || '',
       caption: caption ? caption.textContent : '',
-      showing: element.offsetParent !== null || (box.width > 0 && box.height > 0),
+      showing: Boolean(element.offsetParent) || (box.width > 0 && box.height > 0),
       enabled: !element.disabled && element.getAttribute('aria-disabled') !== 'true',
       focused: document.activeElement === element,
       active: element.hasAttribute('data-active'),
@@ -62,7 +62,7 @@ constexpr std::string_view kLook = R"(
     };
   };
   return [...document.querySelectorAll('.window')].map(frame => {
-    const parts = [...frame.querySelectorAll('.control')].map(control => look(control, []));
+    const parts = [...frame.querySelectorAll('.control, .pane svg')].map(control => look(control, []));
     const bar = frame.querySelector('[role=menubar]');
     if (bar) {
       parts.unshift(look(bar, [...bar.children].map(menu => look(menu.querySelector('button'),
@@ -79,8 +79,8 @@ std::string KeyNamed(const std::string& name) {
       {"ctrl", "\uE009"},      {"alt", "\uE00A"},   {"Escape", "\uE00C"}, {"Page_Up", "\uE00E"},
       {"Page_Down", "\uE00F"}, {"End", "\uE010"},   {"Home", "\uE011"},   {"Left", "\uE012"},
       {"Up", "\uE013"},        {"Right", "\uE014"}, {"Down", "\uE015"},   {"Delete", "\uE017"},
-      {"F1", "\uE031"},        {"F5", "\uE035"},    {"F10", "\uE03A"},    {"plus", "+"},
-      {"minus", "-"},
+      {"F1", "\uE031"},        {"F5", "\uE035"},    {"F9", "\uE039"},     {"F10", "\uE03A"},
+      {"plus", "+"},           {"minus", "-"},
   };
   const auto found = kKeys.find(name);
   return found == kKeys.end() ? name : found->second;
@@ -96,7 +96,8 @@ std::string SeenElement::RoleName() const {
       {"region", "frame"},       {"dialog", "dialog"},    {"menubar", "menu bar"},
       {"menuitem", "menu item"}, {"dialog", "frame"},     {"status", "label"},
       {"LabelText", "label"},    {"StaticText", "label"}, {"generic", "label"},
-      {"label", "label"},        {"text leaf", "label"},
+      {"label", "label"},        {"text leaf", "label"},  {"menuitemcheckbox", "menu item"},
+      {"image", "chart"},        {"img", "chart"},
   };
   const auto found = kNames.find(user_->RoleAndName(*look_).first);
   return found == kNames.end() ? "" : found->second;

@@ -79,6 +79,11 @@ class WindowView {
   // Called by Window::Hide: must take the window off the screen and keep it for a later Show.
   virtual void Hide() = 0;
 
+  // Called when the window's pane has been opened or closed and, while it is open, at the end of
+  // each event that has changed it: must show the pane in its present state before it returns to
+  // the event loop. False: the screen has no room for it.
+  virtual bool ShowPane() = 0;
+
   // Called when another control, or none, has received the focus: must move the keyboard focus
   // there.
   virtual void UpdateFocus() = 0;

@@ -21,6 +21,7 @@ enum class KeyCode {
   kHelp,
   // Forward delete. Like an arrow key it is an editing command, so no key filter sees it.
   kDelete,
+  kF9,
   kOther
 };
 

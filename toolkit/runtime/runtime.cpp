@@ -61,6 +61,7 @@ void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
   _UITrap();
   const Cause outer = std::exchange(event_cause_, cause);
   const bool outer_had = std::exchange(had_active_window_, static_cast<bool>(active_window_));
+  ++events_running_;
   try {
     if (const std::exception_ptr exception = exception_helper_(event)) TakeException(exception);
   } catch (...) {
@@ -72,6 +73,13 @@ void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
   }
   event_cause_ = outer;
   had_active_window_ = outer_had;
+  if (--events_running_ > 0) return;
+  for (const auto& function : std::exchange(at_end_of_event_, {})) function();
+}
+
+void Runtime::AtEndOfEvent(std::function<void()> function) {
+  if (events_running_ == 0) return function();
+  at_end_of_event_.push_back(std::move(function));
 }
 
 void Runtime::TakeException(const std::exception_ptr& exception) {

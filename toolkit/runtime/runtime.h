@@ -97,6 +97,9 @@ class Runtime {
   // from there to the default action unless it is handled. An exception of another class ends the
   // event loop and is kept for RaiseAgain.
   void Dispatch(const std::function<void()>& event, Cause cause = Cause::kUser);
+  // Calls the function when the current event, with the events inside it, has ended, also by an
+  // exception; at once if there is no event. The function must not throw.
+  void AtEndOfEvent(std::function<void()> function);
   // The cause of the current event; the user if there is none.
   Cause EventCause() const { return event_cause_; }
   // Whether the current event may give a window the keyboard focus. A timer may not take the focus
@@ -131,6 +134,8 @@ class Runtime {
   Cause event_cause_ = Cause::kUser;
   // Whether a window of this program was active when the event began.
   bool had_active_window_ = false;
+  int events_running_ = 0;
+  std::vector<std::function<void()>> at_end_of_event_;
   bool supports_hidpi_ = false;
   bool ending_ = false;
   std::int32_t exit_code_ = 0;

@@ -39,6 +39,16 @@ void MenuItem::SetVisible(bool visible) {
   visible_ = visible;
 }
 
+std::optional<bool> MenuItem::Checked() const {
+  _UITrap();
+  return checked_;
+}
+
+void MenuItem::SetChecked(bool checked) {
+  _UITrap();
+  checked_ = checked;
+}
+
 void MenuItem::AddMenu(const Ref<MenuItem>& item) {
   _UITrap();
   if (item->has_parent_) {

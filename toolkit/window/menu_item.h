@@ -2,6 +2,7 @@
 #ifndef VAMO_TOOLKIT_WINDOW_MENU_ITEM_H_
 #define VAMO_TOOLKIT_WINDOW_MENU_ITEM_H_
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,9 @@ class MenuItem : public Object {
   void SetEnabled(bool enabled);
   bool Visible() const { return Trapped(visible_); }
   void SetVisible(bool visible);
+  // Whether the item bears its check mark; nothing for an item that never has one.
+  std::optional<bool> Checked() const;
+  void SetChecked(bool checked);
 
   // Appends a child. Raises MenuHasParentException if `item` is already in a menu.
   virtual void AddMenu(const Ref<MenuItem>& item);
@@ -50,6 +54,7 @@ class MenuItem : public Object {
   bool auto_enabled_ = true;
   bool enabled_ = true;
   bool visible_ = true;
+  std::optional<bool> checked_;
   bool has_parent_ = false;
   std::vector<Ref<MenuItem>> children_;
 };

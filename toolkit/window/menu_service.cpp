@@ -6,6 +6,7 @@
 
 #include "toolkit/runtime/runtime.h"
 #include "toolkit/text/edit_commands.h"
+#include "toolkit/window/view_menu.h"
 #include "toolkit/window/window.h"
 
 namespace vamo {
@@ -32,7 +33,7 @@ bool CallHandler(const MenuHandlers& handlers, const std::string& name) {
 }
 
 void Choose(const Ref<MenuItem>& item) {
-  if (!item->Enabled()) return;
+  if (!item->Enabled() || ChooseViewItem(*item)) return;
   const Ref<Window> window = Runtime::Current().ActiveWindow();
   if (window && CallHandler(window->MenuHandlers(), item->Name())) return;
   const Ref<Application> app = Runtime::Current().App();
@@ -44,12 +45,23 @@ void Choose(const Ref<MenuItem>& item) {
   }
 }
 
-Ref<MenuItem> FindByShortcut(const MenuItem& menu, std::string_view shortcut) {
-  for (const Ref<MenuItem>& item : menu.Children()) {
+Ref<MenuItem> FindByShortcut(const std::vector<Ref<MenuItem>>& items, std::string_view shortcut) {
+  for (const Ref<MenuItem>& item : items) {
     if (item->Shortcut() == shortcut) return item;
-    if (Ref<MenuItem> found = FindByShortcut(*item, shortcut)) return found;
+    if (Ref<MenuItem> found = FindByShortcut(item->Children(), shortcut)) return found;
   }
   return nullptr;
+}
+
+// As the shortcut that the key may be is written; empty where it can be none.
+std::string ShortcutText(const Key& key) {
+  if (key.code == KeyCode::kF9 && !key.shift && !key.command) return "F9";
+  if (!key.command || key.shift || key.text.size() != 1) return "";
+  const char letter = key.text[0];
+  std::string shortcut(kCommandPrefix);
+  // A shortcut is written with a capital. The C library's would depend on the locale.
+  shortcut += letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+  return shortcut;
 }
 
 }  // namespace
@@ -70,19 +82,26 @@ std::vector<DrawnMenu> DrawnMenus(const MenuBar& bar) {
   };
   std::vector<DrawnMenu> menus;
   DrawnMenu help{"Help", {}};
+  bool has_view = false;
+  const auto add_view = [&] {
+    if (!std::exchange(has_view, true)) menus.push_back({std::string(kViewMenu), ViewItems()});
+  };
   for (const Ref<MenuItem>& menu : bar.Children()) {
     if (!is_drawn(*menu)) continue;
+    if (menu->Value() == "Window") add_view();
     menus.push_back({menu->Value(), {}});
     for (const Ref<MenuItem>& item : menu->Children()) {
       const bool is_apple = dynamic_cast<AppleMenuItem*>(&*item) != nullptr;
       if (is_drawn(*item)) (is_apple ? help : menus.back()).items.push_back(item);
     }
   }
+  add_view();
   if (!help.items.empty()) menus.push_back(std::move(help));
   return menus;
 }
 
 void EnableMenuItems() {
+  EnableViewItems();
   const Ref<MenuBar> bar = ActiveMenuBar();
   if (!bar) return;
   for (const Ref<MenuItem>& menu : bar->Children()) EnableBelow(*menu);
@@ -105,12 +124,10 @@ void UserChose(const Ref<MenuItem>& item) {
 
 bool ChooseByShortcut(const Key& key) {
   const Ref<MenuBar> bar = ActiveMenuBar();
-  if (!bar || key.shift || key.text.size() != 1) return false;
-  const char letter = key.text[0];
-  std::string shortcut(kCommandPrefix);
-  // Shortcuts are written in capitals. std::toupper would depend on the locale.
-  shortcut += letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-  const Ref<MenuItem> item = FindByShortcut(*bar, shortcut);
+  const std::string shortcut = ShortcutText(key);
+  if (!bar || shortcut.empty()) return false;
+  Ref<MenuItem> item = FindByShortcut(bar->Children(), shortcut);
+  if (!item) item = FindByShortcut(ViewItems(), shortcut);
   if (!item) return false;
   EnableMenuItems();
   if (!item->Enabled()) return false;

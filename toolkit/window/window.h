@@ -21,6 +21,7 @@
 namespace vamo {
 
 class MenuBar;
+class Pane;
 
 // A control's accessibility data: name, description, caption, shortcut. An empty field means none.
 struct AccessibleText {
@@ -94,6 +95,8 @@ class Window : public Object {
   virtual bool Event_MouseDown(std::int64_t /*x*/, std::int64_t /*y*/) { return false; }
   // The accessibility data of the controls, applied once the controls exist.
   virtual std::span<const AccessibleText> AccessibleTexts() const { return {}; }
+  // The pane at the window's side, or null where its class has none.
+  virtual Pane* SidePane() { return nullptr; }
 
   bool IsLive() const { return Trapped(view_ != nullptr); }
   // Destroys the window's view without raising an event, and stops its timers. The run time calls
@@ -174,6 +177,9 @@ class Window : public Object {
   std::string AccessibleDescription() const;
   // The key that presses a control from anywhere in the window.
   std::optional<KeyCode> KeyThatPresses(const RectControl& control) const;
+
+  // Has the display show the pane as it is now. False: the screen has no room for it.
+  bool ShowPane() { return IsLive() && view_->ShowPane(); }
 
   // What a display reports.
   //

@@ -82,7 +82,7 @@ void Window::UserTyped(std::string_view text) {
 }
 
 bool Window::TakeKey(const Key& key) {
-  if (key.command && ChooseByShortcut(key)) return true;
+  if (ChooseByShortcut(key)) return true;
   // With the command key held, a letter is not a character.
   const bool carries_character = key.code == KeyCode::kCharacter && !key.command;
   if (Event_KeyDown(carries_character ? key.text : "")) return true;

@@ -1,0 +1,56 @@
+#include "toolkit/window/view_menu.h"
+
+#include "toolkit/runtime/runtime.h"
+#include "toolkit/window/pane.h"
+#include "toolkit/window/window.h"
+
+namespace vamo {
+
+// Made at the first use, and gone with the run time.
+struct ViewMenuFields {
+  Ref<MenuItem> pane;
+};
+
+namespace {
+
+const Ref<MenuItem>& PaneItem() {
+  Ref<MenuItem>& item = Runtime::Current().ModuleFields<ViewMenuFields>().pane;
+  if (!item) {
+    item = New<MenuItem>();
+    item->Constructor();
+    item->SetName(Pane::kName);
+    item->SetValue(Pane::kName);
+    item->SetShortcut("F9");
+    item->SetChecked(false);
+  }
+  return item;
+}
+
+// The window whose pane the item is for, or nil: the one on the screen that has a pane, also while
+// another window than it is read.
+Ref<Window> WindowWithPane() {
+  const Ref<Window>& active = Runtime::Current().ActiveWindow();
+  if (active && active->IsSplash()) return nullptr;
+  for (const Ref<Window>& window : Runtime::Current().LiveWindows()) {
+    if (window->Visible() && window->SidePane() != nullptr) return window;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::vector<Ref<MenuItem>> ViewItems() { return {PaneItem()}; }
+
+void EnableViewItems() {
+  const Ref<Window> window = WindowWithPane();
+  PaneItem()->SetEnabled(bool(window));
+  PaneItem()->SetChecked(window && window->SidePane()->IsOpen());
+}
+
+bool ChooseViewItem(const MenuItem& item) {
+  if (&item != &*PaneItem()) return false;
+  if (const Ref<Window> window = WindowWithPane()) window->SidePane()->Toggle();
+  return true;
+}
+
+}  // namespace vamo
