@@ -44,8 +44,8 @@ double FisherZ(double r) {
   return 0.5 * Log(u / v);
 }
 
-// Every N below 3 gives the root of a negative number. N below 0 counts as 0, so that the difference
-// cannot overflow.
+// Every N below 3 gives the root of a negative number. N below 0 counts as 0, so that the
+// difference cannot overflow.
 Interval ComputeInterval(double r, std::int64_t N) {
   const std::int64_t pairs = std::max<std::int64_t>(N, 0);
   return IntervalAround(FisherZ(r), StandardError(static_cast<double>(pairs - 3)));
