@@ -23,7 +23,7 @@ class Programs {
     return Output({folder_ + "/" + program, mode});
   }
 
-  // Both in a mode, and the program in another one where that is named.
+  // Measures both programs in `mode` and, if `other` is given, the program in that mode too.
   void Compare(const std::string& mode, int repetitions, const std::string& other = "") const {
     std::map<std::string, std::vector<double>> values;
     // The first round is for warming up.

@@ -99,7 +99,7 @@ void CheckShown(HeadlessDisplay& display) {
 void CheckHeard(User& user) {
   for (const std::string& heard : user.Hears()) {
     const Ref<class ControlWnd> window = LiveControlWnd();
-    // The chart can be opened from another window too.
+    // Other windows can open the chart too.
     if (heard.rfind("Chart ", 0) == 0) continue;
     Require(window && Runtime::Current().ActiveWindow() == window,
             "announced in the active window");

@@ -1,4 +1,4 @@
-// The chart of the interval: its places against the numbers.
+// Compares the positions in the chart of the interval with the numbers.
 #include "controlwnd/interval_chart.h"
 
 #include <gtest/gtest.h>
@@ -27,19 +27,19 @@ std::vector<Mark> All(const Drawing& drawing) {
   return marks;
 }
 
-// Of what does not lie on another line, as the bars: they alone are so wide.
+// The bars of the interval: only their lines are 3 pixels wide.
 std::vector<Drawing::Line> Bars(const Drawing& drawing) {
   std::vector<Drawing::Line> bars = All<Drawing::Line>(drawing);
   std::erase_if(bars, [](const Drawing::Line& line) { return line.pen.width != 3; });
   return bars;
 }
 
-// From a place back to the number that it stands for.
+// Converts a position back to its number.
 double RAcross(double x) { return (x - 44) / (kWidth - 22 - 44) * 2 - 1; }
 double RUp(double y) { return (kHeight - 46 - y) / (kHeight - 46 - 152) * 2 - 1; }
 double NAt(double x) { return 4 * std::pow(250, (x - 44) / (kWidth - 22 - 44)); }
 
-// The N at which a line crosses a height.
+// The x at which a line crosses the height y, as N.
 double Crossing(const std::vector<Drawing::Point>& line, double y) {
   const auto next = std::adjacent_find(line.begin(), line.end(), [&](const auto& a, const auto& b) {
     return (a.y - y) * (b.y - y) <= 0;

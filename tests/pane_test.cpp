@@ -1,4 +1,4 @@
-// The pane at the window's side and the View menu: when they are shown, and what is said.
+// The pane at the side of a window and the View menu: when they are shown, what is announced.
 #include "toolkit/window/pane.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ class PaneTest : public testing::Test {
  protected:
   PaneTest() {
     window_->Show();
-    // Until the window has the keys.
+    // Waits until the window is active.
     program_.user().LetTimePass(std::chrono::milliseconds(1));
   }
   void PressF9() { program_.user().PressKey({KeyCode::kF9, ""}); }
@@ -29,14 +29,14 @@ class PaneTest : public testing::Test {
   Ref<class ControlWnd> window_ = Cast<class ControlWnd>(ControlWnd());
 };
 
-TEST_F(PaneTest, IsShownOnceAnEventAndNotWhileItIsClosed) {
+TEST_F(PaneTest, IsShownOncePerEventAndNotWhileItIsClosed) {
   HeadlessUser& user = program_.user();
   user.Type("30");
   user.DragSlider("r", {5, 50});
   EXPECT_EQ(View().PaneShowings(), 0);
   PressF9();
   EXPECT_EQ(View().PaneShowings(), 1);
-  // It writes the field, whose change calculates, and calculates then itself.
+  // The slider writes the field, whose change calculates; then the slider calculates again.
   user.DragSlider("r", {37});
   EXPECT_EQ(View().PaneShowings(), 2);
   EXPECT_EQ(View().ShownPane(), View().PresentPane());
@@ -49,7 +49,7 @@ TEST_F(PaneTest, IsShownOnceAnEventAndNotWhileItIsClosed) {
   EXPECT_TRUE(View().PaneDrawing().marks.empty());
 }
 
-TEST_F(PaneTest, SaysWhatItShowsWheneverItOpens) {
+TEST_F(PaneTest, AnnouncesItsDescriptionWheneverItOpens) {
   program_.user().Hears();
   PressF9();
   PressF9();
@@ -59,7 +59,7 @@ TEST_F(PaneTest, SaysWhatItShowsWheneverItOpens) {
                                       "Chart shown. No result yet."}));
 }
 
-TEST_F(PaneTest, StaysClosedWhereThereIsNoRoom) {
+TEST_F(PaneTest, StaysClosedIfThereIsNoRoom) {
   program_.display().LeaveNoRoomForPanes();
   program_.user().Hears();
   PressF9();
@@ -68,7 +68,7 @@ TEST_F(PaneTest, StaysClosedWhereThereIsNoRoom) {
   EXPECT_TRUE(program_.user().Hears().empty());
 }
 
-TEST_F(PaneTest, TheViewMenuStandsBeforeWindowAndOutsideOfTheTree) {
+TEST_F(PaneTest, TheViewMenuIsBeforeWindowAndOutsideTheTree) {
   std::string bar;
   for (const DrawnMenu& menu : DrawnMenus(*window_->MenuBar())) bar += menu.text + ' ';
   EXPECT_EQ(bar, "File Edit View Window Help ");
@@ -79,7 +79,7 @@ TEST_F(PaneTest, TheViewMenuStandsBeforeWindowAndOutsideOfTheTree) {
     EXPECT_EQ(item->Checked(), open);
     EXPECT_TRUE(program_.user().Choose("View/Chart"));
   }
-  // Without the window there is nothing to open.
+  // Without a window with a pane the item is disabled.
   window_->Hide();
   UserOpensMenu();
   EXPECT_FALSE(item->Enabled());

@@ -246,7 +246,7 @@ TEST(QtLooksTest, TheWindowGrowsByTheChartAndStaysOnItsScreen) {
     EXPECT_TRUE(control.screen()->availableGeometry().contains(control.frameGeometry()));
     user.Click(Role::kChart, "Chart");
     EXPECT_EQ(user.Focused().name, "r");
-    // The chart is narrower there, and not the windows smaller.
+    // There the chart becomes narrower; the windows do not become smaller.
     MakeWindowsLarger(user, 20);
     EXPECT_EQ(control.frameGeometry().width(), 1280);
     EXPECT_EQ(Named<QSlider>("r").width(), 675);

@@ -81,7 +81,7 @@ class ScreenUser : public User {
   std::vector<std::string> Windows() override { return Look().titles; }
   std::string ActiveTitle() override { return Look().active_title; }
   ShownControl Sees(Role role, std::string_view name) override {
-    // A chart that is closed need not be there.
+    // A closed chart may have no element.
     return role == Role::kChart && !Has(role, name) ? ShownControl{} : Read(Find(role, name));
   }
   ShownControl SeesDescribed(std::string_view description) override {

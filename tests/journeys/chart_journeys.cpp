@@ -1,4 +1,4 @@
-// The journeys of a user who looks at the chart. They run on every display.
+// A user's journeys with the chart. They run on every display.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,24 +14,24 @@ const Key kF9Key{KeyCode::kF9, ""};
 constexpr const char* kOf370 =
     "95% CI of r +.011 to +.644 at r = .370 and N = 30. p is below .05 from N = 29 on.";
 
-// What a screen reader says of the chart; empty while it is closed.
+// The chart's description for a screen reader; empty while it is closed.
 std::string Chart(User& user) {
   const ShownControl chart = user.Sees(Role::kChart, "Chart");
   return chart.visible ? chart.description : "";
 }
 
-// Whether a screen reader has said the sentence since it was last asked.
+// Whether a screen reader has spoken the sentence since the last call.
 bool Heard(User& user, const std::string& sentence) {
   const std::vector<std::string> heard = user.Hears();
   return std::find(heard.begin(), heard.end(), sentence) != heard.end();
 }
 
-TEST(ChartJourney, ItIsOpenedByTheMenuAndByAKeyAndFollowsTheResults) {
+TEST(ChartJourney, TheMenuAndAKeyOpenItAndItFollowsTheResults) {
   InControlWindow([](User& user) {
     user.Choose("View/Chart");
     EXPECT_EQ(Chart(user), "No result yet.");
     EXPECT_TRUE(Heard(user, "Chart shown. No result yet."));
-    EXPECT_EQ(user.Focused().name, "r") << "it takes the keys from nobody";
+    EXPECT_EQ(user.Focused().name, "r") << "it does not take the focus";
     Retype(user, "N", "30");
     user.DragSlider("r", {37});
     EXPECT_EQ(Chart(user), kOf370);
@@ -49,7 +49,7 @@ TEST(ChartJourney, ItIsOpenedByTheMenuAndByAKeyAndFollowsTheResults) {
   });
 }
 
-TEST(ChartJourney, ItIsOpenedAlsoFromAnotherWindowButTheSplash) {
+TEST(ChartJourney, EveryWindowExceptTheSplashCanOpenIt) {
   InControlWindow([](User& user) {
     Retype(user, "N", "30");
     Retype(user, "r", ".37");
@@ -57,12 +57,12 @@ TEST(ChartJourney, ItIsOpenedAlsoFromAnotherWindowButTheSplash) {
     EXPECT_TRUE(user.Choose("View/Chart"));
     EXPECT_EQ(user.ActiveTitle(), "Info");
     user.ActivateWindow("Vamo");
-    EXPECT_EQ(Chart(user), kOf370) << "the results stand, though r is 0 behind them";
+    EXPECT_EQ(Chart(user), kOf370) << "the results stay although r was reset to 0";
     user.Choose("Window/About Vamo");
     user.PressKey(kF9Key);
     EXPECT_EQ(user.Windows(), std::vector<std::string>({"Info", "Vamo"}));
     user.ActivateWindow("Vamo");
-    EXPECT_EQ(Chart(user), kOf370) << "on the splash it is a key like any other";
+    EXPECT_EQ(Chart(user), kOf370) << "on the splash F9 is a key like any other";
     Retype(user, "N", "31");
     EXPECT_EQ(Chart(user),
               "95% CI of r -.354 to +.354 at r = .000 and N = 31. p stays above .05 up to "

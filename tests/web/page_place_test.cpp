@@ -106,8 +106,8 @@ TEST_F(PageTest, FlowsOnNarrowScreensAndForFingers) {
   }
 }
 
-// On a screen, with the page made twice as large, on a tablet and on a phone.
-TEST_F(PageTest, TheChartLiesBesideTheControlsOrBelowThemAndOnOneSheet) {
+// On a large screen, at a browser zoom of 200%, on a tablet and on a phone.
+TEST_F(PageTest, TheChartIsBesideOrBelowTheControlsAndPrintsOnTheSamePage) {
   for (const auto& [width, height, by_fingers] :
        {std::tuple{1366, 768, false}, {683, 384, false}, {1180, 820, true}, {360, 640, true}}) {
     SCOPED_TRACE(std::to_string(width) + " x " + std::to_string(height));
