@@ -153,6 +153,18 @@ class Appearances : public QObject {
   const char* window_;
 };
 
+TEST(QtDisplayTest, AssistiveTechnologyReadsTheKeyOfTheButtonAndTheNoticeOfAbout) {
+  InControlWindow([](User& user) {
+    auto* button = QAccessible::queryAccessibleInterface(&Named<QPushButton>("Info"));
+    const QString press = QAccessibleActionInterface::pressAction();
+    EXPECT_EQ(button->actionInterface()->keyBindingsForAction(press), QStringList{"F1"});
+    user.Choose("Help/About Vamo");
+    auto* about = QAccessible::queryAccessibleInterface(QApplication::activeWindow());
+    EXPECT_EQ(about->role(), QAccessible::Dialog);
+    EXPECT_TRUE(about->text(QAccessible::Description).contains("Halden Q. Orrin"));
+  });
+}
+
 TEST(QtDisplayTest, AWindowThatIsHiddenWithinTheEventIsNeverShown) {
   InControlWindow([](User& user) {
     user.Choose("Help/About Vamo");
