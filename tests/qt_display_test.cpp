@@ -216,6 +216,26 @@ TEST(QtDisplayTest, AMinimisedWindowStaysMinimisedWhenTheTimerOfTheSplashFires) 
   });
 }
 
+// Qt takes the first repeat for a key of its own when the focus has moved to another window.
+TEST(QtDisplayTest, AKeyThatIsHeldDownOnTheSplashTypesNothing) {
+  FromTheStart([](User& user) {
+    const auto send = [](QEvent::Type type, quint64 time) {
+      QKeyEvent event(type, Qt::Key_5, Qt::NoModifier, /*nativeScanCode=*/14, 0, 0, "5");
+      event.setTimestamp(time);
+      QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+    };
+    send(QEvent::KeyPress, 1000);
+    user.LetTimePass(std::chrono::milliseconds(100));
+    send(QEvent::KeyPress, 1660);
+    send(QEvent::KeyRelease, 1700);
+    send(QEvent::KeyPress, 1700);
+    EXPECT_EQ(FieldText(user, "r"), "");
+    send(QEvent::KeyRelease, 1730);
+    send(QEvent::KeyPress, 1800);
+    EXPECT_EQ(FieldText(user, "r"), ".5");
+  });
+}
+
 TEST(QtDisplayTest, TheButtonIgnoresKeys) {
   InControlWindow([](User& user) {
     auto& button = Named<QPushButton>("Info");
