@@ -78,7 +78,7 @@ TEST(IntervalChartTest, TheBandLeavesZeroWhereTheCurveCrossesR) {
 
 TEST(IntervalChartTest, NothingLiesOutsideTheBox) {
   for (const double width : {260.0, kWidth}) {
-    for (const double r : {0.0, .06, .3, .37, .9, .99999}) {
+    for (const double r : {0.0, .06, .3, .37, .9, .98, .99999}) {
       for (const std::int64_t N : {4, 5, 30, 400, 1000}) {
         const Drawing drawing = DrawIntervalChart(Calculation{r, N}, width, kHeight);
         double left = width;
@@ -93,7 +93,7 @@ TEST(IntervalChartTest, NothingLiesOutsideTheBox) {
         }
         for (const auto& dot : All<Drawing::Dot>(drawing)) take(dot.middle.x, dot.radius + dot.rim);
         for (const auto& text : All<Drawing::Text>(drawing)) {
-          const double length = .62 * text.size * static_cast<double>(text.text.size());
+          const double length = .72 * text.size * static_cast<double>(text.text.size());
           if (text.alignment == TextAlignment::kCentre) take(text.base.x, length / 2);
           if (text.alignment == TextAlignment::kLeft) take(text.base.x + length, 0);
           if (text.alignment == TextAlignment::kRight) take(text.base.x - length, 0);
