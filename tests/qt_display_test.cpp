@@ -216,7 +216,7 @@ TEST(QtDisplayTest, AMinimisedWindowStaysMinimisedWhenTheTimerOfTheSplashFires) 
   });
 }
 
-// Qt takes the first repeat for a key of its own when the focus has moved to another window.
+// When the focus has moved to another window, Qt reports the first repeat as a new key press.
 TEST(QtDisplayTest, AKeyThatIsHeldDownOnTheSplashTypesNothing) {
   FromTheStart([](User& user) {
     const auto send = [](QEvent::Type type, quint64 time) {
