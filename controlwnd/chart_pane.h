@@ -10,8 +10,8 @@
 
 namespace vamo {
 
-// The pane with the chart of the interval. It follows the calculation and not the model, which an
-// activation resets while the results stay, so that it never says something else than these.
+// The pane with the chart of the interval. It follows the calculation, not the model, because an
+// activation resets the model but not the results, and the chart must agree with the results.
 class ChartPane : public Pane {
  public:
   using Pane::Pane;

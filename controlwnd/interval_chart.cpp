@@ -44,9 +44,9 @@ constexpr Pen kPPen{kBlue, 1.5, 6, 3};
 constexpr double kTitleX = 20;
 constexpr double kTick = 5;
 constexpr double kLabelBelowAxis = 18;
-// From the middle of a label that stands beside a tick down to its base line.
+// The distance from the middle of a label beside a tick down to its baseline.
 constexpr double kHalfLetter = 4;
-// Half of the width that the text of a limit takes.
+// Half the width of a limit's text.
 constexpr double kHalfText = 24;
 
 // Whether p of the correlation is below .05 at that N.
@@ -63,13 +63,13 @@ double SmallestSignificantR(std::int64_t N) {
   }
 }
 
-// How far along the axis of N, from 0 to 1.
+// The position of N along its axis, from 0 to 1.
 double Along(double N) {
   constexpr auto kLowest = static_cast<double>(kLowestN);
   return Log(N / kLowest) / Log(static_cast<double>(kHighestN) / kLowest);
 }
 
-// The sample sizes, whole or not, at which the band has its points: evenly along the axis.
+// The sample sizes, whole or not, of the points of the band. They are evenly spaced along the axis.
 constexpr std::size_t kStations = 121;
 const std::array<double, kStations>& Stations() {
   static const std::array<double, kStations> stations = [] {
@@ -91,8 +91,8 @@ struct Threshold {
   double r;
 };
 
-// At the whole numbers nearest to the stations: each N up to 21, then fewer and fewer. They take
-// milliseconds, so they are worked out once.
+// The thresholds at the whole numbers nearest to the stations: every N up to 21, then fewer and
+// fewer. They take milliseconds to compute, so this is done once.
 const std::vector<Threshold>& Thresholds() {
   static const std::vector<Threshold> thresholds = [] {
     std::vector<Threshold> result;
@@ -106,7 +106,7 @@ const std::vector<Threshold>& Thresholds() {
   return thresholds;
 }
 
-// The smallest N at which p of the correlation is below .05; nothing where none up to 1000 is.
+// The smallest N at which p of the correlation is below .05; nothing if there is none up to 1000.
 std::optional<std::int64_t> SmallestSignificantN(double r) {
   const std::vector<Threshold>& thresholds = Thresholds();
   const auto found = std::partition_point(thresholds.begin(), thresholds.end(),
@@ -134,7 +134,7 @@ std::optional<std::int64_t> NOf(const std::optional<Calculation>& last) {
 
 std::string LimitText(double limit) { return Format(limit, "+.000"); }
 
-// Draws one chart. Its operations add marks in the order of drawing, the texts last.
+// Draws one chart. Its operations add marks in the order of drawing, and the texts last.
 class Painter {
  public:
   Painter(const std::optional<Calculation>& last, double width, double height)
@@ -158,7 +158,7 @@ class Painter {
 
   double AcrossR(double r) const { return kLeft + (r + 1) / 2 * (right_ - kLeft); }
   double UpR(double r) const { return bottom_ - (r + 1) / 2 * (bottom_ - kTop); }
-  // `along` the axis of N from 0 to 1.
+  // `along` is the position on the axis of N, from 0 to 1.
   double Across(double along) const { return kLeft + along * (right_ - kLeft); }
   double AcrossN(std::int64_t N) const { return Across(Along(static_cast<double>(N))); }
 
@@ -171,7 +171,8 @@ class Painter {
   void AddTitle(double y, std::string text) {
     AddText({kTitleX, y}, TextAlignment::kLeft, std::move(text), kDarkRed, 12, /*bold=*/true);
   }
-  // The bar of the interval from one point to another, with its ends across it, and the dot of r.
+  // Adds the bar of the interval from one point to another, with a stroke across each end, and the
+  // dot of r.
   void AddBar(Point from, Point to, Point end, Point r) {
     AddLine(from, to, kBarPen);
     for (const Point& at : {from, to}) {
@@ -211,7 +212,8 @@ void Painter::AddInterval() {
   AddLimits(interval);
 }
 
-// Over the ends of the bar; where these lie close together, side by side about its middle.
+// Puts the limits above the ends of the bar or, if these are close together, side by side around
+// its middle.
 void Painter::AddLimits(const Interval& interval) {
   constexpr double kY = 48;
   double lo = AcrossR(interval.lo);
@@ -227,7 +229,7 @@ void Painter::AddLimits(const Interval& interval) {
   AddText({hi, kY}, TextAlignment::kCentre, LimitText(interval.hi), kBlack);
 }
 
-// The one above from left to right, and the one of the plot upwards.
+// The axis of the upper part runs from left to right, that of the plot upwards.
 void Painter::AddRAxes() {
   AddLine({kLeft, kAxisY}, {right_, kAxisY}, kAxisPen);
   constexpr std::pair<double, const char*> kLabels[] = {
@@ -268,7 +270,7 @@ void Painter::AddPlot() {
 void Painter::AddBand() {
   std::vector<Point> upper(kStations);
   std::vector<Point> lower(kStations);
-  // Once around.
+  // The outline of the band.
   std::vector<Point> outline(2 * kStations);
   for (std::size_t i = 0; i < kStations; ++i) {
     const Interval interval = IntervalBetween(*r_, Stations()[i]);
@@ -281,7 +283,8 @@ void Painter::AddBand() {
   Add(Drawing::Polyline{std::move(upper), kBandPen});
 }
 
-// The curve of the r whose p is .05, and its label, which makes way for the band of a small r.
+// Adds the curve of the r whose p is .05, and its label, which leaves room for the band of a small
+// r.
 void Painter::AddCurve() {
   constexpr double kSmallR = .3;
   std::vector<Point> curve;
@@ -321,7 +324,7 @@ std::string DescribeIntervalChart(const std::optional<Calculation>& last) {
   if (!N.has_value()) return "No result yet.";
   const Interval interval = ComputeInterval(last->r, *N);
   const std::optional<std::int64_t> from = SmallestSignificantN(last->r);
-  // As many decimals as the field of r may hold.
+  // As many decimals as the field of r can hold.
   return "95% CI of r " + LimitText(interval.lo) + " to " + LimitText(interval.hi) +
          " at r = " + Format(last->r, ".000##") + " and N = " + Str(*N, "") + ". " +
          (from.has_value() ? "p is below .05 from N = " + Str(*from, "") + " on."

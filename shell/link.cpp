@@ -39,7 +39,8 @@ std::string Decoded(std::string_view text) {
   return ValidUtf8(decoded);
 }
 
-// What lies between the signs "&" of a fragment; nothing of one that is too long to be meant.
+// The parts of a fragment between its "&" signs; none if it is too long to be meant for the
+// program.
 std::vector<std::string_view> Parts(std::string_view fragment) {
   std::vector<std::string_view> parts;
   if (fragment.starts_with('#')) fragment.remove_prefix(1);

@@ -19,7 +19,7 @@ struct LinkedValue {
 // fragment too long to be meant for the program.
 std::vector<LinkedValue> ParseLink(std::string_view fragment);
 
-// Whether "chart" is among the parts of the fragment, as in "#r=.5&N=30&chart".
+// Whether "chart" is one of the parts of the fragment, as in "#r=.5&N=30&chart".
 bool LinksToChart(std::string_view fragment);
 
 // Presses a key if the splash is the active window. The control window is activated later, in a

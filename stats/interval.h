@@ -25,8 +25,8 @@ struct Interval {
 // lo is -1 and hi is not-a-number. For N below 3 both are not-a-number.
 Interval ComputeInterval(double r, std::int64_t N);
 
-// The same by the same steps for an `N` between whole numbers, where no sample lies but the curve
-// over all N is drawn. Domain: N above 3.
+// Computes the same in the same steps for an `N` between whole numbers, which no sample has but
+// which the curve over all N needs. Domain: N above 3.
 Interval IntervalBetween(double r, double N);
 
 }  // namespace vamo

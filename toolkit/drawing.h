@@ -10,8 +10,9 @@
 
 namespace vamo {
 
-// What is drawn on a ground of one colour, the first mark first. Lengths and positions are logical
-// pixels, from the upper left corner. It holds no state of a display and computes nothing.
+// Marks on a background of one colour, drawn from the first to the last. Lengths and positions are
+// in logical pixels from the upper left corner. A drawing holds no state of a display and computes
+// nothing.
 struct Drawing {
   struct Point {
     double x = 0;
@@ -19,7 +20,7 @@ struct Drawing {
     bool operator==(const Point&) const = default;
   };
 
-  // How a line is drawn. A line without a gap is solid.
+  // How a line is drawn. Without a gap it is solid.
   struct Pen {
     Colour colour;
     double width = 1;
@@ -47,8 +48,8 @@ struct Drawing {
     bool operator==(const Polygon&) const = default;
   };
 
-  // A filled circle. Its rim, a line of the ground's colour along its edge, parts it from what lies
-  // below it.
+  // A filled circle. Its rim, a line in the background colour along its edge, separates it from
+  // what is below it.
   struct Dot {
     Point middle;
     double radius = 0;
@@ -57,9 +58,9 @@ struct Drawing {
     bool operator==(const Dot&) const = default;
   };
 
-  // A text in the platform's interface font. `base` lies on the base line, at the text's left end,
-  // middle or right end, as `alignment` says. A halo of the ground's colour, so wide as a whole,
-  // parts it from the lines below it.
+  // A text in the platform's interface font. `base` is on the baseline, at the text's left end,
+  // middle or right end according to `alignment`. A halo in the background colour, kHalo wide in
+  // all, separates the text from the lines below it.
   struct Text {
     static constexpr double kHalo = 4;
     Point base;

@@ -48,7 +48,7 @@ class HeadlessDisplay : public Display {
   void LetTimePass(std::chrono::milliseconds time);
   // From now on no image can be opened; by default every one can.
   void RemovePictures() { has_pictures_ = false; }
-  // From now on no pane has room; by default each has.
+  // From now on no pane has room; by default every pane has.
   void LeaveNoRoomForPanes() { has_room_for_panes_ = false; }
   // From now on Tab can leave a window; by default it stays inside.
   void LetTabLeave() { tab_leaves_ = true; }

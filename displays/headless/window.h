@@ -53,10 +53,10 @@ class HeadlessWindow : public WindowView {
   bool OnScreen() const { return on_screen_; }
   const std::vector<HeadlessControl*>& Controls() const { return controls_; }
   const HeadlessControl* Focus() const;
-  // The pane as it is shown, invisible where it is closed or there is none.
+  // The pane as it is shown; invisible if it is closed or there is none.
   const ShownControl& ShownPane() const { return pane_; }
   const Drawing& PaneDrawing() const { return pane_drawing_; }
-  // The pane's present state, as it would be shown.
+  // The pane's current state, as it would be shown.
   ShownControl PresentPane() const;
   // How often the pane has been shown.
   int PaneShowings() const { return pane_showings_; }

@@ -26,7 +26,8 @@ bool IsCaptionOf(const RectControl& caption, const RectControl& control) {
   return its_caption && &*its_caption == &caption;
 }
 
-// A control with its captions, or with what it is the caption of: Qt knows one widget to a caption.
+// A control with its captions, or with the controls that it is the caption of: Qt knows only one
+// widget for each caption.
 class AccessibleControl : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
@@ -66,7 +67,7 @@ class AccessibleLabel : public AccessibleControl {
   LabelWidget& label_;
 };
 
-// A slider with its value.
+// A slider, with its value in the unit that assistive technology reads.
 class AccessibleSlider : public AccessibleControl, public QAccessibleValueInterface {
  public:
   explicit AccessibleSlider(SliderWidget& slider)
@@ -92,7 +93,7 @@ class AccessibleSlider : public AccessibleControl, public QAccessibleValueInterf
   SliderWidget& slider_;
 };
 
-// A pane. Its description is worked out when somebody asks for it.
+// A pane. Its description is computed only when it is asked for.
 class AccessiblePane : public QAccessibleWidget {
  public:
   explicit AccessiblePane(PaneWidget& pane)
@@ -115,7 +116,7 @@ QAccessibleInterface* MakeAccessible(const QString& /*class_name*/, QObject* obj
   if (auto* slider = dynamic_cast<SliderWidget*>(object)) return new AccessibleSlider(*slider);
   if (auto* label = dynamic_cast<LabelWidget*>(object)) return new AccessibleLabel(*label);
   if (auto* pane = dynamic_cast<PaneWidget*>(object)) return new AccessiblePane(*pane);
-  // Qt takes a plain widget for a part of a window even where it is one.
+  // Qt reports a plain widget as a part of a window even if it is one.
   if (auto* window = dynamic_cast<WindowWidget*>(object)) {
     const Window* shown = window->ShownWindow();
     const bool is_dialog = shown != nullptr && shown->IsSplash();

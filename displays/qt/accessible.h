@@ -6,8 +6,8 @@
 
 namespace vamo {
 
-// A factory for Qt. Gives windows, panes, sliders and labels their part for assistive technology;
-// nothing to any other object.
+// A factory for Qt: makes the accessible interfaces of windows, panes, sliders and labels, and null
+// for any other object.
 QAccessibleInterface* MakeAccessible(const QString& class_name, QObject* object);
 
 }  // namespace vamo

@@ -11,9 +11,9 @@
 namespace vamo {
 namespace {
 
-// More than a window manager needs, less than a user to go to another window.
+// Longer than a window manager needs, shorter than a user needs to go to another window.
 constexpr std::chrono::milliseconds kPatience{1000};
-// What a compositor needs to give the focus of a menu back to its window.
+// The time that a compositor needs to return the focus from a menu to its window.
 constexpr std::chrono::milliseconds kTimeToReturn{1000};
 
 void Report(const WindowWidget& widget) {

@@ -1,4 +1,4 @@
-// Which window the user's keys go to.
+// Which window is active.
 #ifndef VAMO_DISPLAYS_QT_ACTIVATION_H_
 #define VAMO_DISPLAYS_QT_ACTIVATION_H_
 
@@ -9,35 +9,35 @@ namespace vamo {
 
 class WindowWidget;
 
-// Passes on to the toolkit which window the platform has made the active one. A menu that closes
-// can give the keys back to its window for a moment although its item has just brought another
-// window up: while a shown window waits for the keys, no other one is reported. On Wayland a menu
-// itself may have the keyboard focus, and its window is without it for a moment when the menu
-// closes: that is not reported either, since a menu is no other window.
+// Reports to the toolkit which window the platform has activated. A menu that closes can return the
+// focus to its window for a moment although its item has just shown another window: while a shown
+// window waits for the focus, no other one is reported. On Wayland a menu itself may have the
+// keyboard focus, and its window is without the focus for a moment when the menu closes. That is
+// not reported either, since a menu is not another window.
 class Activation {
  public:
   Activation();
 
-  // A press has begun in the window, which the toolkit takes for the active one by now. Where no
-  // window manager does it, the program itself must make it so.
+  // A press has begun in the window, which the toolkit now treats as active. Where no window
+  // manager activates it, this must.
   void Pressed(WindowWidget& window);
-  // The window has been brought up and is to have the keys.
+  // The window has been shown and is waiting for the focus.
   void Await(WindowWidget& window);
-  // The active window is about to go and to come up again, which is no activation of it.
+  // The active window is about to be hidden and shown again, which is not an activation.
   void AwaitAgain(WindowWidget& window);
-  // What the platform says.
+  // What the platform reports.
   void Activated(const WindowWidget& window);
   void Deactivated(WindowWidget& window);
 
  private:
-  // A menu has closed, and its window has not got the focus back.
+  // A menu has closed, and its window has not received the focus back.
   void GiveUpReturn();
-  // The platform has given the keys to no window, or has left them where they were.
+  // The platform has focused no window, or has left the focus where it was.
   void GiveUp();
 
   QPointer<WindowWidget> awaited_;
   QTimer patience_;
-  // The window that is to get the focus back from its menu.
+  // The window that waits for the focus to return from its menu.
   QPointer<WindowWidget> left_for_menu_;
   QTimer return_;
 };

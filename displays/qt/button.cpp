@@ -9,7 +9,7 @@ namespace vamo {
 
 ButtonWidget::ButtonWidget(PushButton& button, QWidget& parent) : WidgetFor(button, parent) {
   setAutoDefault(false);
-  // Without the mouse and the keys, only assistive technology is left to press it.
+  // The mouse is handled below and the button never gets a key, so this is assistive technology.
   connect(this, &QPushButton::pressed, this, [this] {
     if (IsUsersDoing() && !in_mouse_press_) TheControl().UserPressedByAssistiveTechnology();
   });
@@ -19,7 +19,7 @@ void ButtonWidget::ShowState() {
   const PushButton& button = TheControl();
   setText(ToQString(button.Caption()).replace(u'&', QStringLiteral("&&")));
   setDefault(button.Default());
-  // Only to be read out: the toolkit knows what the key does. A new text takes it away.
+  // Only for screen readers to read: the toolkit handles the key. A new text clears it.
   const bool has_key = button.Window()->KeyThatPresses(button) == KeyCode::kHelp;
   setShortcut(has_key ? QKeySequence(Qt::Key_F1) : QKeySequence());
 }

@@ -10,7 +10,7 @@
 namespace vamo {
 
 // Shows a push button and reports presses by the mouse and by assistive technology. It never has
-// the keys.
+// the focus.
 class ButtonWidget : public WidgetFor<QPushButton, PushButton> {
  public:
   ButtonWidget(PushButton& button, QWidget& parent);

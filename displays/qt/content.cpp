@@ -10,7 +10,8 @@
 namespace vamo {
 namespace {
 
-// Both ends go to whole pixels, so that what touches as designed does so at every factor.
+// Both ends are rounded to whole pixels, so that controls that touch by design do so at every
+// factor.
 Bounds ScaledBounds(const Bounds& bounds, double factor) {
   const std::int64_t left = Scaled(bounds.left, factor);
   const std::int64_t top = Scaled(bounds.top, factor);
@@ -24,7 +25,8 @@ ContentWidget::ContentWidget(WindowWidget& parent) : QWidget(&parent), window_(p
   const Window::State& state = parent.ShownWindow()->InitialState();
   setAutoFillBackground(true);
   QPalette colours = palette();
-  // Without a colour of its own a window has that of the text on it, which then needs no edge.
+  // A window without a colour of its own gets the background colour of texts, so that a text area
+  // in it shows no edge.
   colours.setColor(QPalette::Window, state.has_background_colour ? ToQColor(state.background_colour)
                                                                  : colours.color(QPalette::Base));
   setPalette(colours);
@@ -77,7 +79,7 @@ void ContentWidget::resizeEvent(QResizeEvent* /*event*/) {
 void ContentWidget::paintEvent(QPaintEvent* /*event*/) {
   const Window* window = window_.ShownWindow();
   if (window == nullptr || !window->IsSplash()) return;
-  // A window without a frame needs an edge where it lies on another one of its colour.
+  // A window without a frame needs an edge where it lies on another window of the same colour.
   QPainter painter(this);
   const int edge = Scaled(1, window_.Factor());
   painter.setClipRegion(QRegion(rect()) - rect().adjusted(edge, edge, -edge, -edge));

@@ -11,14 +11,14 @@ namespace vamo {
 class WindowWidget;
 
 // The area of a window that holds its controls: places them, draws the background, and reports the
-// presses that no control takes.
+// presses that no control handles.
 class ContentWidget : public QWidget {
  public:
   explicit ContentWidget(WindowWidget& parent);
 
-  // Adds a control's new widget, whose parent is this one.
+  // Adds a control's new widget, whose parent is this widget.
   void Add(ControlWidget& widget);
-  // Makes all controls as large as the window's factor says.
+  // Scales all controls by the window's factor.
   void Rescale();
   // The widget of a control, or null.
   QWidget* Find(const RectControl* control) const;

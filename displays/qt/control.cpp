@@ -24,7 +24,7 @@ void ControlWidget::Refresh() {
 
 void ControlWidget::ShowCommonState() {
   QWidget& widget = AsWidget();
-  // Each of these tells assistive technology of a change even where there is none.
+  // Each of these setters notifies assistive technology even if nothing changes.
   const QString name = ToQString(control_->AccessibleName());
   if (widget.accessibleName() != name) widget.setAccessibleName(name);
   const QString description = ToQString(control_->AccessibleDescription());

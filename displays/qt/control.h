@@ -9,8 +9,8 @@
 
 namespace vamo {
 
-// The widget of a control: shows the control's state, and reports what the user does to it. It
-// does not place itself. It may live a little longer than the control, and does nothing then.
+// The widget of a control: shows the control's state and reports what the user does to it. It does
+// not place itself. It may outlive the control for a short time and then does nothing.
 class ControlWidget {
  public:
   explicit ControlWidget(RectControl& control) : control_(&control) {}
@@ -19,25 +19,26 @@ class ControlWidget {
   ControlWidget& operator=(const ControlWidget&) = delete;
 
   virtual QWidget& AsWidget() = 0;
-  // Null when the control's part on the display has been given up.
+  // Null once the control's view is destroyed.
   RectControl* Control() const { return control_; }
   void Detach() { control_ = nullptr; }
 
-  // Scales everything by `factor`. The place is up to the parent.
+  // Scales everything by `factor`. The parent places the widget.
   void Rescale(double factor);
-  // Puts the widget where the control's box is.
+  // Places the widget in the control's box.
   virtual void SetBox(const QRect& box) { AsWidget().setGeometry(box); }
-  // Shows the control's present state.
+  // Shows the control's current state.
   void Refresh();
 
  protected:
   virtual void ShowState() = 0;
-  // Shows what the control's stream has settled for good. Called again when the factor changes.
+  // Shows what the control's stream has set and nothing changes later. Called again when the factor
+  // changes.
   virtual void ShowLook() {}
   double Factor() const { return factor_; }
-  // Whether what happens now is the user's doing.
+  // Whether the current change is the user's.
   bool IsUsersDoing() const { return control_ != nullptr && !refreshing_; }
-  // To be called when the widget has got the keys: reports it if the user has brought them here.
+  // Call this when the widget has received the focus: reports it if the user has moved it here.
   void ReportFocus(Qt::FocusReason reason);
 
  private:
@@ -60,7 +61,7 @@ class WidgetFor : public QtWidget, public ControlWidget {
   ControlClass& TheControl() const { return static_cast<ControlClass&>(*Control()); }
 };
 
-// The view through which a control reaches its widget. It does not own the widget: the window's
+// The view through which a control updates its widget. It does not own the widget: the window's
 // widget does.
 class QtControlView : public ControlView {
  public:

@@ -1,4 +1,4 @@
-// From the toolkit's values to Qt's and back.
+// Converts the toolkit's values to Qt's and back.
 #ifndef VAMO_DISPLAYS_QT_CONVERT_H_
 #define VAMO_DISPLAYS_QT_CONVERT_H_
 
@@ -15,20 +15,20 @@
 namespace vamo {
 
 QString ToQString(std::string_view utf8);
-// Half a surrogate pair, which no UTF-8 can hold, becomes U+FFFD or a question mark.
+// Half a surrogate pair, which UTF-8 cannot hold, becomes U+FFFD or a question mark.
 std::string ToUtf8(const QString& text);
 
 QColor ToQColor(Colour colour);
-// The font of that size in pixels, which is rounded to whole ones and at least 1.
+// The font at that size in pixels, rounded to a whole number and at least 1.
 QFont ToQFont(const Font& font, double factor);
-// The text's place, centred vertically.
+// The horizontal alignment, centred vertically.
 Qt::Alignment ToQtAlignment(TextAlignment alignment);
-// The nearest number that an int can hold.
+// The nearest value that an int can hold.
 int ToInt(std::int64_t number);
 // Length times factor, rounded.
 int Scaled(std::int64_t length, double factor);
 
-// A byte offset into valid UTF-8 as Qt counts, and the other way round.
+// Convert a byte offset in valid UTF-8 to Qt's position and back.
 int ToQtPosition(std::string_view utf8, std::size_t byte_offset);
 std::size_t ToByteOffset(std::string_view utf8, int position);
 

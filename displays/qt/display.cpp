@@ -28,7 +28,7 @@ class QtTimer : public RunningTimer {
  public:
   QtTimer(std::chrono::milliseconds period, std::function<void()> fire) : timer_(new QTimer) {
     timer_->setTimerType(Qt::PreciseTimer);
-    // A copy runs, since what fires may destroy this object.
+    // Runs a copy, because `fire` may destroy this object.
     QObject::connect(timer_, &QTimer::timeout, timer_, [fire = std::move(fire)] {
       const std::function<void()> running = fire;
       running();
@@ -56,11 +56,11 @@ struct QtDisplay::Parts {
   }
   ~Parts() {
     QAccessible::removeFactory(MakeAccessible);
-    // Windows and timers that have been given up since the loop ended.
+    // Destroys the windows and timers that were released after the loop ended.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
-  // What Qt takes for the arguments of main, and refers to as long as it lives.
+  // The arguments of main for Qt, which refers to them as long as it lives.
   std::string name;
   std::array<char*, 2> arguments{name.data(), nullptr};
   int argument_count = 1;
@@ -84,7 +84,7 @@ std::unique_ptr<WindowView> QtDisplay::OpenWindow(Window& window) {
 }
 
 void QtDisplay::Beep() {
-  // Heard on few desktops: Wayland has no such sound, and X11 leaves it to the machine's speaker.
+  // Few desktops sound it: Wayland has no such sound, and X11 leaves it to the machine's speaker.
   QApplication::beep();
   parts_->visible_bell.Flash(QApplication::focusWidget());
 }
@@ -102,13 +102,13 @@ std::unique_ptr<RunningTimer> QtDisplay::StartTimer(std::chrono::milliseconds pe
 
 std::string QtDisplay::ClipboardText() {
   const QClipboard* clipboard = QGuiApplication::clipboard();
-  // An owner that hangs is waited for by each question. This one says whether the next is in vain.
+  // Each request waits for an owner that hangs. This one tells whether the next would be in vain.
   const QMimeData* held = clipboard->mimeData();
   if (held == nullptr || held->formats().isEmpty()) return "";
   return ToUtf8(clipboard->text());
 }
 
-// What another program holds, it would have to be asked for, and Qt waits for the answer.
+// Another program would have to be asked what it holds, and Qt waits for the answer.
 bool QtDisplay::ClipboardMayHoldText() const {
   const QClipboard* clipboard = QGuiApplication::clipboard();
   return !clipboard->ownsClipboard() || clipboard->mimeData()->hasText();

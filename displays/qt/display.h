@@ -11,14 +11,14 @@
 
 namespace vamo {
 
-// The screen of a desktop, by way of Qt. It holds Qt's application object, so that there can be
-// one such display at a time; another one may be made when the first has gone. It holds no
-// windows: the toolkit does, and lets them go before the display.
+// A desktop, through Qt. It holds Qt's application object, so there can be only one such display at
+// a time; another one may be created after the first is destroyed. It holds no windows: the toolkit
+// does, and releases them before the display.
 class QtDisplay : public Display {
  public:
-  // Connects to the desktop. `program` is what the program was started as, the first argument of
-  // main; Qt would act on the further ones. Where there is no desktop to connect to, the process
-  // says so in one line on standard error and ends with exit status 1.
+  // Connects to the desktop. `program` is the name that the program was started by, the first
+  // argument of main; Qt would act on further ones. If there is no desktop to connect to, prints
+  // one line on standard error and ends the process with exit status 1.
   explicit QtDisplay(const char* program);
   ~QtDisplay() override;
 

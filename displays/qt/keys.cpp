@@ -42,7 +42,7 @@ constexpr std::array kModifiers{
     Qt::Key_Hyper_R,  Qt::Key_ScrollLock, Qt::Key_Mode_switch, Qt::Key_Multi_key,
 };
 
-// Alt or Option makes another character of a letter on macOS and a mnemonic of it elsewhere.
+// On macOS Option with a letter types another character; elsewhere Alt with a letter is a mnemonic.
 #ifdef Q_OS_MACOS
 constexpr bool kAltMakesCharacters = true;
 #else
@@ -61,8 +61,8 @@ bool CarriesPrintable(const QKeyEvent& event) {
   return !text.isEmpty() && text[0].unicode() >= ' ' && text[0].unicode() != kRubout;
 }
 
-// What a key types. The decimal key of a keypad is a comma on many layouts, and the program knows
-// the point alone.
+// The text that a key types. The decimal key of a keypad is a comma on many layouts, but the
+// program knows only the point.
 std::string Typed(const QKeyEvent& event) {
   const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
   return keypad && event.text() == QStringLiteral(",") ? "." : ToUtf8(event.text());
@@ -70,7 +70,7 @@ std::string Typed(const QKeyEvent& event) {
 
 bool IsCommand(const QKeyEvent& event) {
   if (!event.modifiers().testFlag(Qt::ControlModifier)) return false;
-  // Ctrl and Alt together are AltGr on Windows, which makes characters.
+  // Ctrl and Alt together are AltGr on Windows, which types characters.
   return !event.modifiers().testFlag(Qt::AltModifier) || !CarriesPrintable(event);
 }
 
@@ -121,8 +121,8 @@ std::optional<Key> ToKey(const QKeyEvent& event) {
   return WithoutRepeat(event);
 }
 
-// An X server makes a release and a press of each repeat, at the same time, and Qt may get to the
-// press later.
+// For each repeat an X server sends a release and a press with the same time, and Qt may deliver
+// the press later.
 bool KeyRouter::Repeats(const QKeyEvent& press) {
   constexpr quint64 kLongestDelay = 2000;
   const HeldKey before = std::exchange(held_, {press.nativeScanCode(), press.timestamp(), {}});
@@ -141,7 +141,7 @@ KeyRouter::KeyRouter(WindowWidget& window) : QObject(&window), window_(window) {
 
 bool KeyRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
-    // The toolkit knows the shortcuts, so Qt must not look for any, but for the menus' mnemonics.
+    // The toolkit handles the shortcuts, so Qt must look for none except the menus' mnemonics.
     if (IsMnemonic(static_cast<QKeyEvent&>(*event))) return false;
     event->accept();
     return true;
@@ -150,7 +150,7 @@ bool KeyRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
   if (event->type() != QEvent::KeyRelease) return false;
   const auto& release = static_cast<QKeyEvent&>(*event);
   NoteRelease(release);
-  // Of a dead key an input method keeps the press to itself.
+  // An input method keeps the press of a dead key to itself and lets only the release through.
   return IsDead(release.key()) && TakeKey(release);
 }
 

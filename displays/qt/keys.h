@@ -11,7 +11,7 @@ namespace vamo {
 
 class WindowWidget;
 
-// The key that an event carries; nothing for a bare modifier.
+// The key of an event; nothing for a bare modifier.
 std::optional<Key> ToKey(const QKeyEvent& event);
 
 // The key that was pressed last, with its times in milliseconds.
@@ -21,9 +21,9 @@ struct HeldKey {
   std::optional<quint64> released_at;
 };
 
-// Takes the keys of all widgets of one window before the widgets see them and gives them to the
-// toolkit. A key that carries a character goes no further; one that the toolkit leaves alone and
-// that carries none goes on to the widget.
+// Gets the keys of all widgets of one window before the widgets do, and gives them to the toolkit.
+// A key that carries a character goes no further; one that carries none and that the toolkit does
+// not handle goes on to the widget.
 class KeyRouter : public QObject {
  public:
   explicit KeyRouter(WindowWidget& window);
@@ -33,12 +33,12 @@ class KeyRouter : public QObject {
 
  private:
   bool TakeKey(const QKeyEvent& event);
-  // Whether the key is held down and repeats by itself. Qt does not always know when the focus has
-  // moved to another window meanwhile.
+  // Whether the press is an automatic repeat. Qt does not always know if the focus has moved to
+  // another window meanwhile.
   static bool Repeats(const QKeyEvent& press);
   static void NoteRelease(const QKeyEvent& release);
 
-  // In any window: there is one keyboard.
+  // Shared by all windows, since there is one keyboard.
   inline static HeldKey held_;
 
   WindowWidget& window_;

@@ -12,7 +12,8 @@
 namespace vamo {
 namespace {
 
-// The base line for which the line lies in the middle of the box; moved where ink would stand out.
+// The baseline at which the line is centred in the box; moved if ink would otherwise extend beyond
+// the box.
 double BaseLine(const QTextLine& line, const QRectF& extent, double height) {
   const double middle = (height - line.ascent() - line.descent()) / 2 + line.ascent();
   const double highest = -extent.top();
@@ -53,7 +54,7 @@ void LabelWidget::ShowState() {
 void LabelWidget::Fit() {
   if (!text().isEmpty()) LayOut();
   fitted_ = FitText(room_, box_.width(), TheControl().Alignment(), extent_.width());
-  // A little more than the text, for the smoothed edges of its letters.
+  // A little wider than the text, for the antialiased edges of its letters.
   const QRectF covered(box_.left() + fitted_.left - 1, box_.top(),
                        extent_.width() * fitted_.scale + 2, box_.height());
   setGeometry(text().isEmpty() ? box_ : box_.united(covered.toAlignedRect()));
@@ -67,7 +68,7 @@ void LabelWidget::LayOut() {
   line_.beginLayout();
   const QTextLine line = line_.createLine();
   line_.endLayout();
-  // At least the advance, and more where glyphs stand out of it.
+  // At least the advance width, and more if glyphs extend beyond it.
   const QRectF ink = QFontMetricsF(font(), this).tightBoundingRect(text());
   extent_ = ink.united(QRectF(0, ink.top(), line.naturalTextWidth(), ink.height()));
 }
@@ -83,7 +84,7 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   const double pixels = devicePixelRatioF();
   const double base = std::round(BaseLine(line, extent_, box) * pixels) / pixels;
   painter.scale(fitted_.scale, y_scale);
-  // A line's own place is in sixty-fourths, which would miss the whole pixel.
+  // QTextLine rounds its position to 1/64, which would miss the whole pixel.
   painter.translate(0, base);
   line.draw(&painter, QPointF(left / fitted_.scale - extent_.left(), -line.ascent()));
 }

@@ -11,8 +11,8 @@
 
 namespace vamo {
 
-// Draws a label's text in its box. What is too wide stands out of the box where nothing else is;
-// what is still too wide is drawn narrower, and nothing is cut off.
+// Draws a label's text in its box. Text wider than the box extends into the room around it and, if
+// it is still too wide, is narrowed. Nothing is cut off.
 class LabelWidget : public WidgetFor<QLabel, Label> {
  public:
   LabelWidget(Label& label, QWidget& parent);
@@ -26,12 +26,12 @@ class LabelWidget : public WidgetFor<QLabel, Label> {
 
  private:
   void LayOut();
-  // Finds the text's place and makes the widget as wide as it needs.
+  // Finds the place of the text and makes the widget wide enough for it.
   void Fit();
 
   QRect box_;
   TextRoom room_;
-  // The text, and what it covers from its starting point on the base line.
+  // The text, and the rectangle that it covers, relative to its starting point on the baseline.
   QTextLayout line_;
   QRectF extent_;
   FittedText fitted_;

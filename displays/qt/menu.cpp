@@ -15,8 +15,8 @@ namespace {
 
 QString Escaped(const QString& title) { return QString(title).replace(u'&', QStringLiteral("&&")); }
 
-// Where to look for the letter of an entry. On every desktop T is Cut, since C is Copy, and A is
-// Select All.
+// Where to start looking for the mnemonic of an item. On every desktop T is Cut, because C is Copy,
+// and A is Select All.
 qsizetype FirstCandidate(const QString& title) {
   if (title == QStringLiteral("Cut")) return 2;
   return title == QStringLiteral("Select All") ? 7 : 0;
@@ -28,7 +28,8 @@ QAction::MenuRole Role(const MenuItem& item) {
   return about && !item.Value().empty() ? QAction::AboutRole : QAction::NoRole;
 }
 
-// What the View menu has besides the toolkit's items, which take the letter C.
+// The commands that this display adds to the View menu. The toolkit's items there take the letter
+// C.
 struct ZoomCommand {
   const char* title;
   const char* shortcut;
@@ -41,13 +42,13 @@ constexpr std::array kZoomCommands{
     ZoomCommand{"&Original Size", "Ctrl+0", &Zoom::Restore, &Zoom::CanRestore},
 };
 
-// Only to be seen: it is known elsewhere what the key does, and a key must not act twice.
+// Only shows the shortcut: the key is handled elsewhere and must not act twice.
 void ShowShortcut(QAction& action, const QString& shortcut) {
   action.setShortcut(QKeySequence(shortcut));
   action.setShortcutContext(Qt::WidgetShortcut);
 }
 
-// One menu and the items that its entries stand for.
+// A menu, and the items that its entries stand for.
 class Menu : public QMenu {
  public:
   explicit Menu(QMenuBar& bar) : QMenu(&bar) {
@@ -83,7 +84,7 @@ class Menu : public QMenu {
       action->setEnabled(item->Enabled());
       action->setCheckable(item->Checked().has_value());
       action->setChecked(item->Checked().value_or(false));
-      // A style may write a separator's text beside its line.
+      // A style may draw a separator's text beside its line.
       const bool has_text = action->isVisible() && !action->isSeparator();
       action->setText(has_text ? WithMnemonic(ToQString(item->Value()), letters_in_use)
                                : QString());

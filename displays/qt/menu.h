@@ -10,19 +10,19 @@ namespace vamo {
 
 class Zoom;
 
-// Whether there is one menu bar for all windows, at the edge of the screen.
+// Whether all windows share one menu bar at the edge of the screen.
 #ifdef Q_OS_MACOS
 inline constexpr bool kOneMenuBarOnScreen = true;
 #else
 inline constexpr bool kOneMenuBarOnScreen = false;
 #endif
 
-// The text of a menu or of an entry, with its first free letter as the mnemonic.
+// The text of a menu or an item, with its first free letter as the mnemonic.
 QString WithMnemonic(const QString& title, QString& letters_in_use);
 
-// Fills an empty bar with the menus to be drawn of a tree; the View menu has the commands of
-// `zoom`, too. The items' state is fetched each time that a menu opens. On macOS Qt takes the items
-// for the application menu there, by their roles.
+// Fills an empty bar with the menus of a tree, and its View menu with the commands of `zoom` too.
+// The state of the items is read each time a menu opens. On macOS Qt moves items to the application
+// menu, by their roles.
 void FillMenuBar(QMenuBar& bar, const MenuBar& tree, Zoom& zoom);
 
 }  // namespace vamo

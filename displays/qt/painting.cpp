@@ -16,7 +16,7 @@
 namespace vamo {
 namespace {
 
-// Paints one mark after the other. It counts in the device's own pixels.
+// Paints one mark after the other, in pixels of the device.
 class MarkPainter {
  public:
   MarkPainter(QPainter& painter, double scale, QColor ground)
@@ -46,13 +46,13 @@ class MarkPainter {
   }
   QPolygonF Ribbon(const Drawing::Polyline& line) const;
   QPixmap PictureOf(const Drawing::Text& text, int margin) const;
-  // How far below the upper edge of a text's picture its base line lies.
+  // The distance of the baseline from the upper edge of a text's picture.
   double BaseIn(const Drawing::Text& text, int margin) const {
     return std::ceil(text.size * scale_) + margin;
   }
   QPen ToQPen(const Drawing::Pen& pen) const {
     QPen result(ToQColor(pen.colour), pen.width * scale_, Qt::SolidLine, Qt::FlatCap);
-    // Qt counts in widths of the pen.
+    // Qt's unit is the width of the pen.
     if (pen.gap > 0) result.setDashPattern({pen.dash / pen.width, pen.gap / pen.width});
     return result;
   }
@@ -62,7 +62,7 @@ class MarkPainter {
   const QColor ground_;
 };
 
-// A line along the pixels covers whole ones.
+// A horizontal or vertical line covers whole pixels.
 void MarkPainter::operator()(const Drawing::Line& line) const {
   const QPointF from = ToQPoint(line.from);
   const QPointF to = ToQPoint(line.to);
@@ -88,13 +88,13 @@ void MarkPainter::operator()(const Drawing::Line& line) const {
   }
 }
 
-// A polyline of a pen without gaps as an area: painting that takes a third of the time.
+// A solid polyline as an area, which takes a third of the time to paint.
 QPolygonF MarkPainter::Ribbon(const Drawing::Polyline& line) const {
   const QPolygonF middle = ToQPolygon(line.points);
   const qsizetype size = middle.size();
   QPolygonF ribbon(2 * size);
   for (qsizetype i = 0; i < size; ++i) {
-    // Across the line at this point lies half of its width to each side.
+    // Perpendicular to the line at this point, half its width to each side.
     const QPointF along = middle[std::min(i + 1, size - 1)] - middle[std::max<qsizetype>(i - 1, 0)];
     const double length = std::hypot(along.x(), along.y());
     const double part = length > 0 ? line.pen.width * scale_ / 2 / length : 0;
@@ -117,7 +117,7 @@ void MarkPainter::operator()(const Drawing::Polyline& line) const {
   }
 }
 
-// Halos take long, so texts are kept as pictures: most of them are the same from one painting to
+// Halos take long to paint, so texts are cached as pictures: most are the same from one painting to
 // the next.
 void MarkPainter::operator()(const Drawing::Text& text) const {
   const int margin = static_cast<int>(std::ceil(Drawing::Text::kHalo * scale_));

@@ -1,4 +1,4 @@
-// How a drawing of the toolkit is painted.
+// Paints the toolkit's drawings.
 #ifndef VAMO_DISPLAYS_QT_PAINTING_H_
 #define VAMO_DISPLAYS_QT_PAINTING_H_
 
@@ -8,8 +8,8 @@ namespace vamo {
 
 struct Drawing;
 
-// Paints a drawing, so many times larger, on all of a device, sharp at each scale: straight lines
-// along the device's pixels, all else with smooth edges.
+// Paints a drawing over the whole device, enlarged by `factor` and sharp at every scale: straight
+// lines fall on whole pixels of the device, everything else has smooth edges.
 void Paint(const Drawing& drawing, double factor, QPaintDevice& device);
 
 }  // namespace vamo

@@ -8,18 +8,18 @@ namespace vamo {
 class Pane;
 class WindowWidget;
 
-// The widget of a window's pane. It paints what the pane has to show, takes no key, and leaves a
-// press to the window system, which brings the window to the front by it.
+// The widget of a window's pane. It paints what the pane shows. It handles no keys, and leaves a
+// press to the window system, which brings the window to the front.
 class PaneWidget : public QWidget {
  public:
   explicit PaneWidget(WindowWidget& parent);
 
-  // Null where there is none, or the window's part on the display has been given up.
+  // Null if there is none or the window's view is destroyed.
   const Pane* ShownPane() const;
-  // Shows an open pane as wide as the screen lets it be, and none that is closed. False: the screen
-  // has no room for it.
+  // Shows the pane if it is open, as wide as the screen allows, and hides it if it is closed.
+  // Returns false if the screen has no room for it.
   bool Refresh();
-  // How wide the pane is at least, with the window's factor; 0 while it is closed.
+  // The smallest width of the pane at the window's factor; 0 while it is closed.
   int SmallestWidth() const;
 
  protected:

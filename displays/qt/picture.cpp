@@ -10,13 +10,14 @@
 namespace vamo {
 namespace {
 
-// Where a build, an installation and a macOS bundle have the resources, from the program's folder.
+// The resource folders of a build, an installation and a macOS bundle, relative to the program's
+// folder.
 constexpr std::array kFolders{".", VAMO_RESOURCES_FROM_PROGRAM, "../Resources"};
 
 bool complained = false;
 QtMessageHandler usual_handler = nullptr;
 
-// Keeps the decoders' warnings to itself; whatever else is said meanwhile is passed on.
+// Notes the decoders' warnings without printing them; passes all other messages on.
 void NoteComplaint(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   constexpr std::string_view kDecoders = "qt.gui.imageio";
   const std::string_view category = context.category == nullptr ? "" : context.category;
@@ -27,7 +28,7 @@ void NoteComplaint(QtMsgType type, const QMessageLogContext& context, const QStr
   }
 }
 
-// Decoders fill up the rest of a file that has been cut off, and tell of it only by a message.
+// Decoders pad a truncated file and report it only by a message.
 QImage Read(const QString& path) {
   complained = false;
   usual_handler = qInstallMessageHandler(NoteComplaint);

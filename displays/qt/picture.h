@@ -10,7 +10,7 @@
 
 namespace vamo {
 
-// An image, decoded.
+// A decoded image.
 class QtPicture : public DisplayPicture {
  public:
   explicit QtPicture(QImage image) : image_(std::move(image)) {}
@@ -20,8 +20,8 @@ class QtPicture : public DisplayPicture {
   QImage image_;
 };
 
-// The image of that file name beside the program or among its installed resources; null where there
-// is none, or only a damaged one. Says nothing to the user.
+// Finds the image of that file name beside the program or in its installed resources. Returns null
+// if there is none or if it is damaged; prints nothing.
 std::shared_ptr<QtPicture> FindPicture(std::string_view file_name);
 
 }  // namespace vamo

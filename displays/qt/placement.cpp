@@ -18,15 +18,15 @@ QWidget* WidgetOf(const Ref<Window>& window) {
   return nullptr;
 }
 
-// What the platform draws around a window, as far as it has said.
+// The frame that the platform draws around a window, as far as it is known.
 QMargins FrameOf(const QWidget& window) {
   const bool framed = !window.windowFlags().testFlag(Qt::FramelessWindowHint);
   return framed && window.windowHandle() != nullptr ? window.windowHandle()->frameMargins()
                                                     : QMargins();
 }
 
-// Of the screen on which the middle of a window lies. The window system may still name another one
-// for a window that has just been placed.
+// The available area of the screen on which the middle of a window lies. The window system may
+// still name another screen for a window that has just been placed.
 QRect Available(const QWidget& window) {
   const QScreen* at = window.screen()->virtualSiblingAt(window.geometry().center());
   return (at == nullptr ? window.screen() : at)->availableGeometry();
@@ -40,7 +40,7 @@ QRect MovedInto(const QRect& screen, QRect frame) {
   return frame;
 }
 
-// Puts a window with a frame around it there, as far as both then lie on the screen.
+// Puts a window there, and moves it so that it and its frame lie on the screen if they fit.
 void PutInto(const QRect& screen, QWidget& window, const QRect& place, const QMargins& frame) {
   const QRect moved = MovedInto(screen, place.marginsAdded(frame)).marginsRemoved(frame);
   if (moved != window.geometry()) window.setGeometry(moved);
@@ -54,7 +54,7 @@ void PlaceOver(QWidget& window, const QPoint& middle, const QRect& screen) {
 
 void PlaceBeside(QWidget& window, const QWidget& other) {
   const QRect screen = Available(other);
-  // Its frame will be like that of the other one.
+  // Its frame will be like that of the other window.
   const QMargins frame = FrameOf(other);
   const QRect neighbour = other.geometry().marginsAdded(frame);
   QRect place(neighbour.topLeft(), window.size().grownBy(frame));
@@ -68,7 +68,7 @@ void PlaceBeside(QWidget& window, const QWidget& other) {
   PutInto(screen, window, place.marginsRemoved(frame), frame);
 }
 
-// The platform's end of a window, which is made for it where there is none yet.
+// The platform's window of a widget, created if there is none.
 QWindow* Handle(QWidget& window) {
   window.winId();
   return window.windowHandle();
@@ -94,7 +94,7 @@ void Place(QWidget& window, const Window::Placement& placement) {
 bool RoomFor(const QWidget& window, const QSize& size) {
   QMargins frame = FrameOf(window);
   const bool framed = !window.windowFlags().testFlag(Qt::FramelessWindowHint);
-  // Nothing is known of it before the window is on the screen, nor when a compositor draws it.
+  // The frame is unknown before the window is on the screen, and where the compositor draws it.
   if (framed && frame.isNull()) {
     frame.setTop(window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
   }

@@ -1,4 +1,4 @@
-// Where windows go on the screen.
+// Where windows are placed on the screen.
 #ifndef VAMO_DISPLAYS_QT_PLACEMENT_H_
 #define VAMO_DISPLAYS_QT_PLACEMENT_H_
 
@@ -10,25 +10,24 @@ class QWidget;
 
 namespace vamo {
 
-// Puts a window that is about to be shown where the toolkit wants it. A platform that places all
-// windows itself goes its own way.
+// Places a window that is about to be shown where the toolkit wants it. A platform that places all
+// windows itself ignores this.
 void Place(QWidget& window, const Window::Placement& placement);
 
-// Whether the screen has the room for a window of that size, with what the platform draws around
-// it.
+// Whether the screen has room for a window of that size and its frame.
 bool RoomFor(const QWidget& window, const QSize& size);
 
-// Whether a window cannot choose its place, as under Wayland.
+// Whether windows cannot choose their place, as on Wayland.
 bool PlatformPlacesWindows();
 
-// How wide the inside of a window can be there.
+// The largest inner width that a window can have on its screen.
 int WidthOfRoom(const QWidget& window);
 
-// Moves the middle of a window there, as far as all of it then lies on the screen, with what the
-// platform draws around it. Of one that is too large the top left corner does.
+// Centres a window on that point, as far as the window and its frame then lie on the screen. If
+// they are larger than the screen, their top left corner does.
 void MoveMiddle(QWidget& window, const QPoint& middle);
 
-// Moves a window by as little as possible so that it lies on its screen.
+// Moves a window as little as possible so that it lies on its screen.
 void KeepOnScreen(QWidget& window);
 
 }  // namespace vamo

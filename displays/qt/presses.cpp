@@ -11,10 +11,10 @@
 namespace vamo {
 namespace {
 
-// The control at a place of a window, or null.
+// The control at a position in a window, or null.
 RectControl* ControlAt(const QWidget& window, const QPoint& at) {
   QWidget* widget = window.childAt(at);
-  // A control may have widgets of its own.
+  // A control's widget may contain others.
   for (; widget != nullptr; widget = widget->parentWidget()) {
     if (auto* found = dynamic_cast<ControlWidget*>(widget)) return found->Control();
   }
@@ -34,7 +34,7 @@ bool PressRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      // An open menu takes it.
+      // An open menu handles it.
       if (QApplication::activePopupWidget() != nullptr) return false;
       ignoring_ = !TakePress(static_cast<QMouseEvent&>(*event));
       return ignoring_;

@@ -9,19 +9,19 @@ namespace vamo {
 class Activation;
 class WindowWidget;
 
-// Reports where presses of the mouse and of fingers begin in a window, before a widget sees them:
-// Qt moves the focus before it asks the widget. A press that the toolkit does not want, no widget
-// sees.
+// Reports where presses of the mouse and of fingers begin in a window, before a widget gets them,
+// because Qt moves the focus before it asks the widget. A press that the toolkit refuses reaches no
+// widget.
 class PressRouter : public QObject {
  public:
   PressRouter(WindowWidget& window, Activation& activation);
 
-  // To be called when the platform's end of the window has been made.
+  // Call this when the platform's window has been created.
   void WatchPlatformWindow();
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // Whether the widgets may see the press.
+  // Returns whether the press may go on to the widgets.
   bool TakePress(const QMouseEvent& event);
 
   WindowWidget& window_;

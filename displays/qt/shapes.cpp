@@ -16,7 +16,7 @@ void RectangleWidget::paintEvent(QPaintEvent* /*event*/) {
   const Rectangle& rectangle = TheControl();
   QPainter painter(this);
   const QRectF box = rect();
-  // A whole number of the screen's own pixels, so that the border is crisp and does not vanish.
+  // A whole number of physical pixels, so that the border is crisp and does not vanish.
   const double pixels = devicePixelRatioF();
   const double wanted = std::max(0.0, rectangle.BorderThickness() * Factor());
   const double pixel_count = wanted > 0 ? std::max(1.0, std::round(wanted * pixels)) : 0;

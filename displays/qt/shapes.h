@@ -1,4 +1,4 @@
-// The drawn controls on the screen: rectangle and canvas.
+// The widgets of the controls that are only drawn: rectangle and canvas.
 #ifndef VAMO_DISPLAYS_QT_SHAPES_H_
 #define VAMO_DISPLAYS_QT_SHAPES_H_
 
@@ -11,7 +11,7 @@
 
 namespace vamo {
 
-// Draws a frame in two colours, with mitred corners, and what it encloses.
+// Draws a border in two colours, with mitred corners, and the area inside it.
 class RectangleWidget : public WidgetFor<QWidget, Rectangle> {
  public:
   using WidgetFor::WidgetFor;

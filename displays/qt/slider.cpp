@@ -10,14 +10,15 @@
 namespace vamo {
 namespace {
 
-// What Qt counts for one notch of a wheel.
+// Qt's angle for one notch of a wheel.
 constexpr int kAnglePerNotch = 120;
 
 }  // namespace
 
 SliderWidget::SliderWidget(Slider& slider, QWidget& parent) : WidgetFor(slider, parent) {
   setOrientation(Qt::Horizontal);
-  // The mouse and the wheel are taken below, so what comes this way is neither.
+  // The handlers below report the mouse and the wheel, and the toolkit handles the keys, so this is
+  // something else, such as assistive technology.
   connect(this, &QSlider::valueChanged, this, [this](int position) {
     if (IsUsersDoing()) Report(position);
   });
@@ -84,7 +85,7 @@ void SliderWidget::wheelEvent(QWheelEvent* event) {
   event->accept();
   if (!IsUsersDoing()) return;
   const QPoint turned = event->angleDelta();
-  // A wheel that is turned to the right takes the knob to the right.
+  // Turning a wheel to the right moves the knob to the right.
   wheel_angle_ += turned.y() != 0 ? turned.y() : -turned.x();
   const int notches = wheel_angle_ / kAnglePerNotch;
   wheel_angle_ %= kAnglePerNotch;

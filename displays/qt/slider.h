@@ -11,7 +11,7 @@
 
 namespace vamo {
 
-// Shows a slider and reports where the mouse takes its knob. Keys are the toolkit's.
+// Shows a slider and reports where the mouse moves its knob. The toolkit handles the keys.
 class SliderWidget : public WidgetFor<QSlider, Slider> {
  public:
   SliderWidget(Slider& slider, QWidget& parent);
@@ -32,12 +32,12 @@ class SliderWidget : public WidgetFor<QSlider, Slider> {
   void Report(int position);
   QStyleOptionSlider Option() const;
   QRect Part(QStyle::SubControl which, const QStyleOptionSlider& option) const;
-  // Takes the knob's middle to a place, in the widget's own coordinates.
+  // Moves the middle of the knob to a position in widget coordinates.
   void MoveKnobTo(int x);
 
-  // From the knob's middle to where the mouse holds it.
+  // The distance from the middle of the knob to where the mouse holds it.
   int grip_ = 0;
-  // The part of a notch that the wheel has turned so far.
+  // The angle that the wheel has turned beyond whole notches.
   int wheel_angle_ = 0;
 };
 

@@ -22,7 +22,7 @@ Speaker::~Speaker() = default;
 
 namespace {
 
-// A notice that a window shows to nobody but assistive technology. There is no widget behind it.
+// A notice in a window, for assistive technology only. There is no widget behind it.
 class Notice : public QAccessibleInterface {
  public:
   Notice(QWidget& window, QString sentence) : window_(&window), sentence_(std::move(sentence)) {}
@@ -51,9 +51,8 @@ class Notice : public QAccessibleInterface {
 
 }  // namespace
 
-// A screen reader speaks a notice that comes up. It asks for the text, which it may be slow to do,
-// and may keep the text of a notice that it knows: so each sentence has a notice of its own, which
-// stays for a while.
+// A screen reader speaks a notice that appears. It may be slow to ask for the text, and may keep
+// the text of a notice that it knows. So each sentence has its own notice, which stays for a while.
 void Speaker::Say(const QString& sentence) {
   QWidget* window = QApplication::activeWindow();
   if (window == nullptr || !QAccessible::isActive()) return;

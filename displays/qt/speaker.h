@@ -8,7 +8,7 @@
 
 namespace vamo {
 
-// Has a screen reader, where one is listening, speak sentences about the active window.
+// Has a screen reader, if one is running, speak sentences about the active window.
 class Speaker {
  public:
   Speaker() = default;
@@ -19,7 +19,7 @@ class Speaker {
   void Say(const QString& sentence);
 
  private:
-  // The notices that stand for the last sentences, the oldest one first. Qt owns them.
+  // The notices of the last sentences, the oldest first. Qt owns them.
   std::deque<QAccessible::Id> notices_;
 };
 

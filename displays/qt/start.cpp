@@ -16,7 +16,7 @@
 namespace vamo {
 namespace {
 
-// Qt says at length why it finds no desktop, and ends with a core dump.
+// Without a desktop, Qt explains itself at length and ends with a core dump.
 void SayNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*text*/) {
   if (type != QtFatalMsg) return;
   const bool platform_set = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
@@ -26,7 +26,7 @@ void SayNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const Q
   std::_Exit(EXIT_FAILURE);
 }
 
-// Qt crashes where it cannot paint.
+// Qt crashes if it cannot paint.
 void EndWithTooFewColours() {
   constexpr int kLeastDepth = 15;
   const QScreen* screen = QGuiApplication::primaryScreen();
@@ -36,7 +36,7 @@ void EndWithTooFewColours() {
   std::_Exit(EXIT_FAILURE);
 }
 
-// The windows have colours of their own, which a dark theme would make illegible in places.
+// The windows have their own colours, which a dark theme would make illegible in places.
 QPalette LightColours() {
   QPalette colours(QColor(0xef, 0xef, 0xef));
   const auto set = [&](QPalette::ColorRole role, QColor colour, QColor disabled) {
@@ -56,8 +56,8 @@ QPalette LightColours() {
   return colours;
 }
 
-// Whoever starts the program may have closed the standard streams. The next file to be opened, such
-// as the connection to the display, would take the place of one and get what is written to it.
+// The parent process may have closed the standard streams. The next file that is opened, such as
+// the connection to the display, would then take the number of one of them and receive its output.
 void KeepStandardStreams() {
 #ifdef Q_OS_UNIX
   int file = open("/dev/null", O_RDWR);
@@ -76,10 +76,10 @@ std::unique_ptr<QApplication> StartApplication(int& argc, char** argv) {
   EndWithTooFewColours();
   QApplication::setStyle(new OutlinedStyle);
   QApplication::setPalette(LightColours());
-  // A number that begins with a point would end with it on a desktop that is read from the right.
+  // On a desktop with right-to-left text, a number that begins with a point would end with it.
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   QApplication::setQuitOnLastWindowClosed(false);
-  // An installed program is known to the desktop by its desktop file, and its icon by the theme.
+  // The desktop knows an installed program by its desktop file, and its icon by the theme.
   QGuiApplication::setDesktopFileName(QStringLiteral("vamo"));
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("vamo")));
   return application;

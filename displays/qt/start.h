@@ -1,4 +1,4 @@
-// How Qt's application object is made.
+// Creates Qt's application object.
 #ifndef VAMO_DISPLAYS_QT_START_H_
 #define VAMO_DISPLAYS_QT_START_H_
 
@@ -7,9 +7,9 @@
 
 namespace vamo {
 
-// Connects to the desktop and sets what all windows have in common: style, colours, and that only
-// the toolkit ends the program. Where there is no desktop, says so in one line on standard error
-// and ends the process with exit status 1.
+// Connects to the desktop and sets what all windows share: style, colours, and that only the
+// toolkit ends the program. If there is no desktop, prints one line on standard error and ends the
+// process with exit status 1.
 std::unique_ptr<QApplication> StartApplication(int& argc, char** argv);
 
 }  // namespace vamo

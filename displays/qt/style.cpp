@@ -6,7 +6,7 @@
 namespace vamo {
 namespace {
 
-// Both at least 3 to 1 against white, and told apart by their width too.
+// Both colours have a contrast of at least 3 to 1 on white; the widths differ too.
 struct Outline {
   QColor colour;
   int width;
@@ -31,7 +31,7 @@ void DrawBox(QPainter& painter, const QRect& box, const Outline& outline, const 
   painter.restore();
 }
 
-// What the mouse can press: raised, and sunk while it is held down.
+// The face of a control that the mouse can press: raised, and sunken while pressed.
 QBrush Face(const QStyleOption& option, const QRect& box) {
   const bool lit = option.state.testFlag(QStyle::State_MouseOver);
   const bool held = option.state.testFlag(QStyle::State_Sunken);
@@ -42,7 +42,7 @@ QBrush Face(const QStyleOption& option, const QRect& box) {
   return shine;
 }
 
-// The part of a slider's groove that the knob has come along.
+// The part of a slider's groove that the knob has passed.
 QRect Passed(QRect groove, const QRect& knob, bool from_the_right) {
   if (from_the_right) {
     groove.setLeft(knob.center().x());

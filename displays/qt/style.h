@@ -6,8 +6,8 @@
 
 namespace vamo {
 
-// Fusion, but for what it outlines too faintly to be distinguished from a white window: text
-// fields, sliders and buttons. What has the keys is outlined in the colour of a selection.
+// The Fusion style with stronger outlines for text fields, sliders and buttons, which it outlines
+// too faintly for a white window. The outline of the focused control has the colour of a selection.
 class OutlinedStyle : public QProxyStyle {
  public:
   OutlinedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}

@@ -36,7 +36,7 @@ void AreaWidget::ShowState() {
   ShowSelection();
 }
 
-// Where a side lies outside of the window, the rest of the border would look like a mistake.
+// If a side lies outside the window, the rest of the border would look like a mistake.
 void AreaWidget::ShowBorder() {
   const TextArea& area = TheControl();
   const Window::State& window = area.Window()->InitialState();
@@ -53,7 +53,8 @@ void AreaWidget::ShowColours() {
   colours.setColor(QPalette::Text, ToQColor(TheControl().TextColour()));
   colours.setColor(QPalette::Base, ToQColor(TheControl().BackgroundColour()));
   colours.setColor(QPalette::WindowText, palette().color(QPalette::Mid));
-  // Qt paints with the inactive colours while the keys go elsewhere, to a menu of this window too.
+  // Qt paints with the inactive colours while the focus is elsewhere, even in a menu of this
+  // window.
   const bool hidden = TheControl().HideSelection() && !isActiveWindow();
   const auto shown_as = [&](QPalette::ColorRole usual, QPalette::ColorRole unmarked) {
     colours.setColor(QPalette::Inactive, usual,

@@ -8,7 +8,7 @@
 
 namespace vamo {
 
-// Shows a text of several lines, wrapped at words, which can be selected and not changed.
+// Shows a text of several lines, wrapped at words, that can be selected but not changed.
 class AreaWidget : public WidgetFor<QPlainTextEdit, TextArea> {
  public:
   AreaWidget(TextArea& area, QWidget& parent);

@@ -56,7 +56,7 @@ QKeySequence::StandardKey PlatformKey(EditAction action) {
       return QKeySequence::Copy;
     case EditAction::kPaste:
       return QKeySequence::Paste;
-    // The toolkit's own.
+    // The toolkit handles this key.
     case EditAction::kDelete:
       break;
   }

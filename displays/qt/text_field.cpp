@@ -50,7 +50,7 @@ FieldWidget::FieldWidget(TextField& field, QWidget& parent) : WidgetFor(field, p
 void FieldWidget::ShowLook() {
   const TextField& field = TheControl();
   setFont(ToQFont(field.Font(), Factor()));
-  // Beside the two pixels that Qt keeps free at both ends of the text.
+  // In addition to the two pixels that Qt keeps free at both ends of the text.
   const int margin = Scaled(2, Factor()) - 2;
   setTextMargins(margin, 0, margin, 0);
   setAlignment(ToQtAlignment(field.Alignment()));
@@ -71,8 +71,8 @@ void FieldWidget::ShowState() {
   ShowSelection();
 }
 
-// The widget remembers each edit for an undo of its own, which nobody can reach, and forgets them
-// all with a text that is set as a whole.
+// The widget remembers each edit for its own undo, which the user cannot reach, and forgets them
+// all when the text is set as a whole.
 void FieldWidget::ShowText() {
   const QString shown = ToQString(TheControl().Text());
   if (text() != shown && hasFocus()) Edit(shown);
@@ -81,12 +81,12 @@ void FieldWidget::ShowText() {
   remembered_ = 0;
 }
 
-// What stays the same is left alone: a screen reader speaks what goes and what comes in the field
-// with the keys, so that a backspace is one character to it.
+// Leaves alone what stays the same: a screen reader speaks what is removed and inserted in the
+// focused field, so that a backspace is one character to it.
 void FieldWidget::Edit(const QString& after) {
   const QString before = text();
   const qsizetype shorter = std::min(before.size(), after.size());
-  // An edit leaves what comes after the caret as it was.
+  // An edit leaves the text after the caret as it was.
   const int caret = ToQtPosition(TheControl().Text(), TheControl().Selection().caret);
   const qsizetype after_caret = std::min(shorter, after.size() - caret);
   qsizetype tail = 0;
@@ -101,7 +101,7 @@ void FieldWidget::Edit(const QString& after) {
   if (remembered_ <= kMostRemembered) Replace(head, removed, after.mid(head, inserted));
 }
 
-// A single character is not selected first, which would be spoken too.
+// Does not select a single character first, because that would be spoken too.
 void FieldWidget::Replace(qsizetype from, qsizetype length, const QString& inserted) {
   const int at = static_cast<int>(from);
   if (length == 0) {
@@ -176,7 +176,7 @@ void FieldWidget::inputMethodEvent(QInputMethodEvent* event) {
       if (committed.isEmpty()) window->UserPressedKey(Key::Character(std::string(1, kBackspace)));
     }
     window->UserTyped(ToUtf8(committed));
-    // Where the first of it has been refused, what it was to replace is still selected.
+    // If its first character was refused, the text that it would have replaced is still selected.
     deselect();
   }
   QInputMethodEvent composed(event->preeditString(), event->attributes());
@@ -213,7 +213,7 @@ void FieldWidget::focusInEvent(QFocusEvent* event) {
   ReportFocus(event->reason());
 }
 
-// Qt would drop the selection when the keys go to the menu bar, where Cut and Copy are.
+// Qt would drop the selection when the focus moves to the menu bar, where Cut and Copy are.
 void FieldWidget::focusOutEvent(QFocusEvent* event) {
   QFocusEvent to_menu(QEvent::FocusOut, Qt::PopupFocusReason);
   QLineEdit::focusOutEvent(event->reason() == Qt::MenuBarFocusReason ? &to_menu : event);

@@ -8,8 +8,8 @@
 
 namespace vamo {
 
-// Shows a text field; moves the caret and selects as the platform does and reports it. It edits no
-// text itself: typing, pasting and dropping are reported, and what comes of them is shown.
+// Shows a text field. Moves the caret and selects as the platform does, and reports it. It does not
+// edit text itself: it reports typing, pasting and dropping, and shows the result.
 class FieldWidget : public WidgetFor<QLineEdit, TextField> {
  public:
   FieldWidget(TextField& field, QWidget& parent);
@@ -24,23 +24,23 @@ class FieldWidget : public WidgetFor<QLineEdit, TextField> {
   void dropEvent(QDropEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  // The caption may have been created after the field; by now it is there.
+  // The caption may have been created after the field; now it exists.
   void showEvent(QShowEvent* event) override;
 
  private:
   void ShowCaption();
   void ShowText();
-  // Makes the difference between what is shown and a text, unless it is too large for that.
+  // Applies the difference between the shown text and `after`, unless it is too large.
   void Edit(const QString& after);
-  // Puts `inserted` in the place of what is shown there.
+  // Replaces that part of the shown text with `inserted`.
   void Replace(qsizetype from, qsizetype length, const QString& inserted);
   void ShowSelection();
   void ReportSelection();
   void ReportPaste(const QString& pasted);
-  // Something other than the toolkit has put a text in: takes it as a paste over the whole.
+  // Something other than the toolkit has set a text: reports it as a paste over the whole text.
   void ReportForeignText(const QString& foreign);
 
-  // The characters that the widget remembers for an undo of its own.
+  // The number of characters that the widget remembers for its own undo.
   qsizetype remembered_ = 0;
 };
 

@@ -9,7 +9,7 @@ namespace vamo {
 namespace {
 
 constexpr std::chrono::milliseconds kDuration{150};
-// Text in black or in the colours of a selection stays legible on it.
+// Text in black or in the colours of a selection stays legible on this colour.
 constexpr QColor kLight(0xff, 0xc0, 0x60);
 
 }  // namespace
@@ -28,7 +28,7 @@ void VisibleBell::Flash(QWidget* widget) {
   lit_ = widget;
   usual_colours_ = widget->palette();
   QPalette lit_colours = usual_colours_;
-  // What a field, a knob and a groove are filled with.
+  // The colours that fill a field, a knob and a groove.
   for (const auto role : {QPalette::Base, QPalette::Button, QPalette::Window}) {
     lit_colours.setColor(role, kLight);
   }

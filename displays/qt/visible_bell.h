@@ -1,4 +1,4 @@
-// The system alert, for the eye.
+// The visible form of the system alert.
 #ifndef VAMO_DISPLAYS_QT_VISIBLE_BELL_H_
 #define VAMO_DISPLAYS_QT_VISIBLE_BELL_H_
 
@@ -9,13 +9,13 @@
 
 namespace vamo {
 
-// Lets one widget at a time light up for a moment. One that is alerted again while it is lit stays
-// so a little longer and does not flicker.
+// Lights up one widget at a time for a moment. A widget that is alerted again while it is lit stays
+// lit a little longer and does not flicker.
 class VisibleBell {
  public:
   VisibleBell();
 
-  // Does nothing where the style is told to keep still. `widget` may be null.
+  // Does nothing if the style's animations are off. `widget` may be null.
   void Flash(QWidget* widget);
 
  private:

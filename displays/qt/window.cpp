@@ -31,7 +31,7 @@ Qt::WindowFlags Flags(const Window& window) {
       Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
   flags.setFlag(Qt::WindowCloseButtonHint, state.has_close_button);
   flags.setFlag(Qt::WindowMinimizeButtonHint, state.has_minimize_button);
-  // A window of a fixed size has nothing to maximise.
+  // A window of a fixed size cannot be maximised.
   flags.setFlag(Qt::WindowMaximizeButtonHint, state.has_maximize_button && window.CanBeResized());
   return flags;
 }
@@ -41,7 +41,7 @@ int Maximum(std::int64_t length, int extra) {
   return std::min(ToInt(length), QWIDGETSIZE_MAX - extra) + extra;
 }
 
-// How long a window manager may take to draw its frame. Qt does not say when it has.
+// How long a window manager may take to draw its frame. Qt does not report when it has.
 constexpr std::chrono::milliseconds kFrameIsDrawn{300};
 
 }  // namespace
@@ -141,7 +141,8 @@ void WindowWidget::PutOnScreen(bool activate) {
     Map(activate);
     return;
   }
-  // One that is hidden again by the end of the event must not come up, or it takes the focus along.
+  // A window that is hidden again by the end of the event must not appear, or it takes the focus
+  // with it.
   QMetaObject::invokeMethod(
       this,
       [this, activate] {
@@ -155,7 +156,7 @@ void WindowWidget::Map(bool activate) {
   ShowFocus();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   setAttribute(Qt::WA_ShowWithoutActivating, !activate);
-  // Qt hands the attribute on when it makes the platform's window, which may be there already.
+  // Qt passes the attribute on only when it creates the platform's window, which may already exist.
   if (windowHandle() != nullptr) {
     windowHandle()->setProperty("_q_showWithoutActivating", !activate);
   }
@@ -163,13 +164,13 @@ void WindowWidget::Map(bool activate) {
   if (!activate) return;
   raise();
   activateWindow();
-  // Qt can take a window for active all through a quick Hide and Show, and then reports no change.
+  // Qt can consider a window active throughout a quick Hide and Show, and then reports no change.
   const bool has_keys = windowHandle() == QGuiApplication::focusWindow();
   if (has_keys && !isActiveWindow()) QApplication::setActiveWindow(this);
   activation_.Await(*this);
 }
 
-// The one that it stays with, or else any other one of the program.
+// The window that this one stays with, or else any other window of the program.
 QWindow* WindowWidget::NextToBeActive() const {
   if (windowHandle() != nullptr && windowHandle()->transientParent() != nullptr) {
     return windowHandle()->transientParent();
@@ -198,8 +199,8 @@ void WindowWidget::MapAgain() {
 }
 
 void WindowWidget::TakeAway() {
-  // Before it goes: a window manager that loses the active window may choose any other one, and
-  // without a window manager nobody chooses.
+  // Before the window is hidden: a window manager that loses the active window may choose any other
+  // one, and without a window manager nothing is chosen.
   QWindow* next = isActiveWindow() ? NextToBeActive() : nullptr;
   if (next != nullptr) next->requestActivate();
   const QRect at = geometry();
@@ -213,7 +214,7 @@ void WindowWidget::ShowFocus() {
   QWidget* widget = focus ? content_->Find(&*focus) : nullptr;
   if (widget == nullptr) widget = this;
   if (widget->hasFocus()) return;
-  // It was not the mouse, so the style must show where the keys go.
+  // This was not the mouse, so the style must show which control has the focus.
   if (isVisible()) setAttribute(Qt::WA_KeyboardFocusChange);
   widget->setFocus(Qt::OtherFocusReason);
 }
@@ -229,12 +230,12 @@ void WindowWidget::Settle() {
 
 bool WindowWidget::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate && settle_.isActive()) {
-    // Many window managers have drawn their frame by now, and a later jump would be seen.
+    // Many window managers have drawn their frame by now, and a later jump would be visible.
     QMetaObject::invokeMethod(this, &WindowWidget::Settle, Qt::QueuedConnection);
   }
   if (event->type() == QEvent::WinIdChange) presses_.WatchPlatformWindow();
   if (event->type() == QEvent::ScreenChangeInternal) {
-    // Once it has its place there.
+    // After it is placed there.
     QMetaObject::invokeMethod(
         this, [this] { zoom_.FitScreen(); }, Qt::QueuedConnection);
   }
@@ -268,11 +269,11 @@ QtWindowView::~QtWindowView() {
   if (widget_ == nullptr) return;
   widget_->Detach();
   widget_->TakeAway();
-  // The view may go while one of its widgets still has an event to finish.
+  // The view may be destroyed while one of its widgets is still handling an event.
   widget_->deleteLater();
 }
 
-// The window's widget owns that of the control.
+// The window's widget owns the control's widget.
 template <class WidgetClass, class ControlClass>
 std::unique_ptr<ControlView> QtWindowView::Create(ControlClass& control) {
   auto* widget = new WidgetClass(control, widget_->Content());

@@ -19,41 +19,40 @@ class QMenuBar;
 
 namespace vamo {
 
-// The window of the desktop that shows a window of the toolkit: menu bar and content. It reports
-// activation and the wish to close, and never closes by itself. It may live a little longer than
-// the toolkit's window, out of sight, and does nothing then.
+// The desktop's window for a window of the toolkit: menu bar and content. It reports activation and
+// requests to close, and never closes by itself. It may outlive the toolkit's window for a short
+// time, hidden, and then does nothing.
 class WindowWidget : public QWidget {
  public:
   WindowWidget(Window& window, Activation& activation, Zoom& zoom);
 
-  // Null when the window's part on the display has been given up.
+  // Null once the window's view is destroyed.
   Window* ShownWindow() const { return window_; }
   void Detach() { window_ = nullptr; }
   // Whether the toolkit wants the window on the screen.
   bool IsToBeSeen() const;
 
-  // How many times larger than designed the window is.
+  // The scale factor of the window.
   double Factor() const { return zoom_.Factor(); }
-  // Applies a changed factor.
+  // Applies a new factor.
   void Rescale();
-  // How large the window would be with another factor.
+  // The size of the window at another factor.
   QSize SizeAt(double factor) const;
-  // The keys that make windows larger and smaller, and the one that opens the menus. False: it is
-  // another key.
+  // Handles the keys that make windows larger and smaller and the one that opens the menus. Returns
+  // false for any other key.
   bool TakeOwnKey(const QKeyEvent& event);
 
   ContentWidget& Content() { return *content_; }
   // Adds a control's new widget, whose parent is the content.
   void Add(ControlWidget& widget);
-  // Shows the window's pane as it is now. False: the screen has no room for it.
+  // Shows the window's pane in its current state. Returns false if the screen has no room for it.
   bool ShowPane();
-  // Puts the window on the screen, when the event ends; with `activate` in front and with the
-  // focus.
+  // Shows the window when the event ends; with `activate`, in front and with the focus.
   void PutOnScreen(bool activate);
   void TakeAway();
-  // Takes the window off the screen and puts it there again, which is no activation.
+  // Hides the window and shows it again, which is not an activation.
   void MapAgain();
-  // Sends the keys where the toolkit has its focus.
+  // Moves the keyboard focus to where the toolkit has it.
   void ShowFocus();
 
  protected:
@@ -66,27 +65,28 @@ class WindowWidget : public QWidget {
   QSize DesignedSize() const;
   void SetSizes(const QSize& content);
   void Map(bool activate);
-  // Sends the keys where the toolkit has its focus, unless a menu is open.
+  // Moves the keyboard focus to where the toolkit has it, unless a menu is open.
   void RestoreFocus();
   QWindow* NextToBeActive() const;
-  // Makes sure that all of a window is on the screen, with the frame that it has by now.
+  // Makes sure that all of the window is on the screen, now that its frame is known.
   void Settle();
 
   Window* window_;
   Activation& activation_;
   Zoom& zoom_;
-  // The factor that the sizes have been set for.
+  // The factor for which the sizes are set.
   double factor_;
   ContentWidget* content_;
   PaneWidget* pane_;
   KeyRouter keys_;
   PressRouter presses_;
   QMenuBar* menu_bar_ = nullptr;
-  // Runs while the frame of a window that has just come up may still be missing.
+  // Runs while the frame of a newly shown window may still be missing.
   QTimer settle_;
 };
 
-// The program's windows, hidden ones and those that go at the end of an event among them.
+// The program's windows, including hidden ones and those that are destroyed at the end of the
+// event.
 std::vector<WindowWidget*> AllWindows();
 
 // The view through which a window reaches its widget, which it owns.

@@ -23,15 +23,16 @@ bool FitsTheScreen(double factor) {
   });
 }
 
-// The largest factor up to a limit at which the windows fit, or else the smallest one.
+// The largest factor up to `limit` at which the windows fit, or else the smallest factor.
 double LargestFitting(double limit) {
   const auto end = std::upper_bound(kFactors.begin(), kFactors.end(), limit);
   const auto found = std::find_if(std::make_reverse_iterator(end), kFactors.rend(), FitsTheScreen);
   return found == kFactors.rend() ? kFactors.front() : *found;
 }
 
-// A compositor leaves the corner of a window where it is, and the rest may grow off the screen.
-// Only a window that comes up is placed. The active one comes last, to have the focus again.
+// A compositor keeps the top left corner of a window where it is, so that the rest may grow off the
+// screen. It places a window only when it is shown. The active window comes last, to have the focus
+// again.
 void MapAgain() {
   std::vector<WindowWidget*> windows = AllWindows();
   std::erase_if(windows, [](WindowWidget* window) { return !window->isVisible(); });
@@ -49,7 +50,7 @@ QFont Enlarged(QFont font, double factor) {
   return font;
 }
 
-// For all widgets of a class. Qt itself tells only some of those that are there already.
+// Sets the font of all widgets of a class. Qt itself updates only some of the existing ones.
 void SetFont(const QFont& font, const char* widgets) {
   QApplication::setFont(font, widgets);
   for (QWidget* widget : QApplication::allWidgets()) {
@@ -87,7 +88,7 @@ bool Zoom::TakeKey(const QKeyEvent& event) {
   if (held != Qt::ControlModifier) return false;
   switch (event.key()) {
     case Qt::Key_Plus:
-    // What many keyboards have where the plus needs the shift key.
+    // The key that many keyboards have where plus needs Shift.
     case Qt::Key_Equal:
       Enlarge();
       return true;

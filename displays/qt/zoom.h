@@ -1,4 +1,4 @@
-// How large the windows are.
+// The scale of the windows.
 #ifndef VAMO_DISPLAYS_QT_ZOOM_H_
 #define VAMO_DISPLAYS_QT_ZOOM_H_
 
@@ -9,27 +9,27 @@
 
 namespace vamo {
 
-// How many times larger than designed all windows are, and the keys that change it. It is for the
-// back row of a class and for a screen that is smaller than the windows, and forgotten when the
-// program ends. The toolkit knows nothing of it.
+// The factor by which all windows are scaled, and the keys that change it. It is for the back row
+// of a class and for a screen that is smaller than the windows, and it is forgotten when the
+// program ends. The toolkit does not know it.
 class Zoom {
  public:
   Zoom();
 
   double Factor() const { return factor_; }
 
-  // Make all windows larger, smaller, or as designed, as far as the screen has the room.
+  // Make all windows larger, smaller or as designed, as far as the screen has room.
   void Enlarge();
   void Reduce();
   void Restore();
   bool CanEnlarge() const;
   bool CanReduce() const;
   bool CanRestore() const;
-  // The keys for it: the command key with plus, minus or 0. False: it is another key.
+  // Handles their keys, the command key with plus, minus or 0. Returns false for any other key.
   bool TakeKey(const QKeyEvent& event);
 
-  // Makes all windows smaller as far as needed for each of them to fit its screen. The screens say
-  // themselves when they have become smaller.
+  // Makes all windows smaller until each fits its screen. The screens report when they become
+  // smaller.
   void FitScreen();
 
  private:
@@ -41,9 +41,9 @@ class Zoom {
   void Set(double factor);
 
   double factor_ = 1;
-  // Of what the toolkit names no font for.
+  // The fonts of the widgets for which the toolkit names none.
   std::array<PlatformFont, 3> fonts_;
-  // They end with it.
+  // The connections end with this object.
   QObject connections_;
 };
 

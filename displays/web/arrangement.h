@@ -11,16 +11,16 @@
 
 namespace vamo {
 
-// Puts the elements of a window's controls in the order in which one reads them, in boxes for those
-// that stand beside each other, below each other, in a rectangle, or at their caption. The style
-// sheet lets these boxes flow where the window is not shown as designed; else they do nothing.
+// Puts the elements of a window's controls in reading order, in boxes for rows, for columns, for
+// the contents of a rectangle, and for a caption with its control. The style sheet lays these boxes
+// out when the window is not shown as designed; otherwise they have no effect.
 class Arrangement {
  public:
-  // The controls outlive this.
+  // The controls must outlive this object.
   Arrangement(PageElement& content, const std::vector<WebControl*>& controls);
 
  private:
-  // Puts the controls that lie in `parent`, null for the window, into an element.
+  // Puts the controls contained in `parent`, or in the window if it is null, into an element.
   void Place(const WebControl* parent, PageElement& into);
   void Place(const Block& block, const std::vector<WebControl*>& controls, PageElement& into);
   void PlaceBeside(const Block& block, const std::vector<WebControl*>& controls, PageElement& into);

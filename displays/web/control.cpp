@@ -9,7 +9,7 @@
 namespace vamo {
 namespace {
 
-// Relative to that of white, in sRGB. To have std::pow in it would make the page longer by 4 KB.
+// The luminance relative to white, in sRGB. std::pow would make the page 4 KB larger.
 double Luminance(Colour colour) {
   const auto linear = [](std::uint8_t part) {
     const double share = part / 255.0;
@@ -80,7 +80,7 @@ void WebControl::SetFont(const Font& font) {
   element_.SetStyle("font", ToCss(font));
   element_.SetStyle("--font", ShortText(font.size));
   element_.SetStyle("font-size", "");
-  // The font as a whole brings a height of lines, and what the style sheet has is to stand.
+  // The CSS font sets a line height too, but that of the style sheet must apply.
   element_.SetStyle("line-height", "");
   if (font.underline) element_.SetStyle("text-decoration", "underline");
 }
@@ -101,7 +101,8 @@ void WebControl::Update() {
   ShowState();
 }
 
-// A press on a control brings its window in front, and so does the browser's own way into it.
+// A press on a control brings its window to the front, and so does focus that the browser moves
+// into it.
 PageAnswer WebControl::Take(const PageReport& report) {
   if (report.event != PageEvent::kPress && report.event != PageEvent::kFocus) {
     return PageAnswer::kPassed;

@@ -12,20 +12,21 @@ namespace vamo {
 
 class WebWindow;
 
-// A number to six decimals, without zeros at its end: some screen readers read the text of a value.
+// A number with at most six decimals, without trailing zeros: some screen readers read the text of
+// a value.
 std::string ShortText(double number);
-// A length of the design as CSS has it. The style sheet says how long a unit is on this page.
+// A designed length in CSS. The style sheet defines the length of a unit on this page.
 std::string Units(double length);
 std::string ToCss(Colour colour);
-// The colour for a text, darkened where it would not stand out from a white window by 4.5 to 1, as
-// WCAG measures it. A page is read on a phone in the sun, too.
+// The colour of a text, darkened until its contrast on a white window is 4.5 to 1 as WCAG measures
+// it: a page may be read on a phone in the sun.
 Colour Legible(Colour colour);
-// The font for `font`, its size in CSS pixels as it is in logical ones.
+// The CSS font for `font`. Its size in CSS pixels is that in logical pixels.
 std::string ToCss(const Font& font);
-// The class that the style sheet has for it.
+// The style sheet's class for an alignment.
 std::string_view ClassOf(TextAlignment alignment);
 
-// The element of a control: shows the control's state, and reports what the user does to it.
+// The element of a control: shows the control's state and reports what the user does to it.
 class WebControl : public ControlView, public PageListener {
  public:
   WebControl(WebWindow& window, RectControl& control, std::string_view tag);
@@ -36,18 +37,18 @@ class WebControl : public ControlView, public PageListener {
 
   PageElement& Element() { return element_; }
   RectControl& Control() const { return control_; }
-  // Makes the toolkit know what the user has selected since it was told last.
+  // Reports the current selection to the toolkit.
   virtual void ReportSelection() {}
-  // Takes the browser's focus here.
+  // Moves the browser's focus here.
   void ShowFocus();
-  // Whether the focus opens a keyboard on the screen, where there is none to touch.
+  // Whether the focus opens an on-screen keyboard here.
   virtual bool OpensKeyboard() const { return false; }
 
  protected:
-  // Shows the control's own state; the common one is shown already.
+  // Shows the state that is specific to the class; the common state is already shown.
   virtual void ShowState() {}
   WebWindow& Window() { return window_; }
-  // Whether Tab comes here: in the window in front alone, as on the desktop.
+  // The tabindex attribute: Tab stops only in the front window, as on the desktop.
   std::string_view TabIndex() const;
   void SetFont(const Font& font);
 

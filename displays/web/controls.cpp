@@ -11,7 +11,7 @@
 namespace vamo {
 namespace {
 
-// A caption belongs to what it stands beside, and a result is an output; else it is just a text.
+// A caption is a label, a result is an output, and any other text is a span.
 std::string_view TagOf(const Label& label) {
   for (const Ref<RectControl>& control : label.Window()->Controls()) {
     const Ref<Label> caption = control->LabelledBy();
@@ -24,7 +24,7 @@ std::string_view TagOf(const Label& label) {
 
 WebCanvas::WebCanvas(WebWindow& window, Canvas& canvas)
     : WebControl(window, canvas, "img"), canvas_(canvas) {
-  // It says nothing that the texts do not.
+  // The picture says nothing that the texts do not.
   Element().SetAttribute("alt", "");
   Update();
 }
@@ -38,7 +38,7 @@ void WebCanvas::ShowState() {
 
 WebRectangle::WebRectangle(WebWindow& window, Rectangle& rectangle)
     : WebControl(window, rectangle, "div") {
-  // No side is lost where a unit is shorter than a pixel.
+  // A side of the border must not vanish if a unit is shorter than a pixel.
   const double thickness = std::max(0.0, rectangle.BorderThickness());
   const std::string width =
       (thickness > 0 ? "max(1px, " + Units(thickness) + ")" : "0") + " solid ";
@@ -54,10 +54,10 @@ WebRectangle::WebRectangle(WebWindow& window, Rectangle& rectangle)
 
 WebLabel::WebLabel(WebWindow& window, Label& label)
     : WebControl(window, label, TagOf(label)), label_(label) {
-  // An output would speak at every step of a drag; the toolkit says what is to be announced. No
-  // other element is one that speaks by itself.
+  // An output would be spoken at every step of a drag; the toolkit decides what is announced. No
+  // other element is spoken by itself.
   Element().SetAttribute("aria-live", "off");
-  // What is designed to be small print, and what is a heading.
+  // The designed sizes of small print and of headings.
   constexpr float kSmall = 10;
   constexpr float kLarge = 20;
   const float size = label.Font().size;
@@ -74,7 +74,8 @@ void WebLabel::ShowState() {
   if (Element().SetText(label_.Text())) Fit();
 }
 
-// A text that is too wide for its box stands out of it to the right.
+// Without a transform, a text that is too wide for its box would extend beyond it to the right
+// only.
 void WebLabel::Fit() {
   const double width = page::TextWidth(label_.Text(), ToCss(label_.Font()));
   const auto box = static_cast<double>(label_.Bounds().width);
@@ -105,10 +106,10 @@ PageAnswer WebButton::Take(const PageReport& report) {
   if (report.event == PageEvent::kPress && button_.Enabled()) {
     button_.UserPressed(std::llround(report.x * static_cast<double>(box.width)),
                         std::llround(report.y * static_cast<double>(box.height)));
-    // It never has the keys.
+    // The button never gets the focus.
     return PageAnswer::kTakenWhole;
   }
-  // The click of a mouse is the end of a press.
+  // A mouse click ends a press that was handled; any other click comes from assistive technology.
   if (report.event == PageEvent::kClick && report.x == 0) {
     button_.UserPressedByAssistiveTechnology();
   }
@@ -141,7 +142,7 @@ PageAnswer WebSlider::Take(const PageReport& report) {
     case PageEvent::kPress:
       return slider_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
     case PageEvent::kInput:
-      // What the page shows already may not stand.
+      // The page already shows this value, but it may not be accepted.
       shown_ = report.x;
       if (drag_ == Drag::kNone || drag_ == Drag::kSideways)
         slider_.UserSetByAssistiveTechnology(report.x);
@@ -158,8 +159,7 @@ PageAnswer WebSlider::Take(const PageReport& report) {
       drag_ = Drag::kNone;
       return PageAnswer::kTaken;
     case PageEvent::kWheel:
-      // With the key the browser makes the page larger, and what the user has not come to lets the
-      // page around scroll.
+      // With Ctrl the browser zooms, and over a slider without the focus the page scrolls.
       if (report.control || !Element().HasFocus()) return PageAnswer::kTaken;
       TakeWheel(report.y != 0 ? report.y : report.x);
       return PageAnswer::kTakenWhole;
@@ -168,9 +168,9 @@ PageAnswer WebSlider::Take(const PageReport& report) {
   }
 }
 
-// A finger that first moves sideways is the browser's, which slides. One that first moves up or
-// down scrolls the page, and no browser slides by it any more: if it goes on sideways, that is done
-// here.
+// If a finger first moves sideways, the browser moves the knob. If it first moves up or down, the
+// page scrolls, and browsers no longer move the knob; when the finger then goes on sideways, this
+// function does.
 void WebSlider::TakeTouchMove(const PageReport& report) {
   constexpr double kSlop = 8;
   constexpr double kKnob = 28;  // As the style sheet has it.
@@ -187,7 +187,7 @@ void WebSlider::TakeTouchMove(const PageReport& report) {
   slider_.UserMovedTo(std::llround(least + std::clamp(share, 0.0, 1.0) * (greatest - least)));
 }
 
-// A wheel that is turned to the right takes the knob to the right.
+// Turning a wheel to the right moves the knob to the right.
 void WebSlider::TakeWheel(double turned) {
   turned_ += turned;
   const double notches = std::trunc(turned_);

@@ -1,4 +1,4 @@
-// The controls but for those of text.
+// The controls without text input.
 #ifndef VAMO_DISPLAYS_WEB_CONTROLS_H_
 #define VAMO_DISPLAYS_WEB_CONTROLS_H_
 
@@ -40,7 +40,7 @@ class WebRectangle : public WebControl {
   WebRectangle(WebWindow& window, Rectangle& rectangle);
 };
 
-// A text that is narrowed to the room that it has.
+// A label. Its text is narrowed to the room that it has.
 class WebLabel : public WebControl {
  public:
   WebLabel(WebWindow& window, Label& label);
@@ -63,7 +63,7 @@ class WebButton : public WebControl {
   PushButton& button_;
 };
 
-// A slider in the unit that assistive technology reads. The style sheet draws all of it.
+// A slider in the unit that assistive technology reads. The style sheet draws it.
 class WebSlider : public WebControl {
  public:
   WebSlider(WebWindow& window, Slider& slider);
@@ -77,11 +77,11 @@ class WebSlider : public WebControl {
   Slider& slider_;
   // The value in the element.
   std::optional<double> shown_;
-  // Where a finger has gone down, and what became of its drag.
+  // Where a finger touched the slider, and what its drag has become.
   std::pair<double, double> touched_;
   enum class Drag { kNone, kUndecided, kSideways, kScrolls, kSlides };
   Drag drag_ = Drag::kNone;
-  // What the wheel has turned beyond whole notches.
+  // The part of a notch that the wheel has turned so far.
   double turned_ = 0;
 };
 

@@ -32,7 +32,7 @@ WebDisplay::WebDisplay(std::function<void()> ended,
 
 WebDisplay::~WebDisplay() { page::SetOwner(nullptr); }
 
-// The browser brings the events.
+// The browser owns the event loop.
 void WebDisplay::Run() {}
 
 void WebDisplay::Stop() {
@@ -58,7 +58,7 @@ void WebDisplay::SetClipboardText(std::string_view text) {
   if (!page::Copy(text)) Beep();
 }
 
-// A sentence is spoken as one that has come, not as a change of the one before.
+// Clears the text first, so that the sentence is spoken as new and not as a change of the last one.
 void WebDisplay::Announce(std::string_view sentence) {
   announcement_.SetText("");
   announcement_.SetText(sentence);
@@ -78,7 +78,8 @@ void WebDisplay::RunEvent(const std::function<void()>& event) {
   Runtime::Current().Dispatch(event);
 }
 
-// As designed where the window has the room, and is worked by a mouse and reads as designed.
+// Windows are shown as designed if the page is wide enough, its texts have about the designed size,
+// and the user's main pointer is not a finger.
 void WebDisplay::ShowRoom() {
   constexpr double kNarrow = 500;
   constexpr double kEnlarged = 1.1;
@@ -98,7 +99,7 @@ PageAnswer WebDisplay::Take(const PageReport& report) {
     linked_(report.text);
     return PageAnswer::kTaken;
   }
-  // What the user does now is meant for the window that is about to come in front.
+  // Input is meant for the window that is about to come to the front.
   ActivateNext();
   WebWindow* front = Front();
   if (front == nullptr) return PageAnswer::kPassed;
@@ -113,7 +114,7 @@ PageAnswer WebDisplay::Take(const PageReport& report) {
     case PageEvent::kPress:
       front->BringToFront();
       return PageAnswer::kTaken;
-    // The browser does nothing of its own where something has been copied.
+    // page.js prevents the browser's own copy if the program has copied something.
     case PageEvent::kCopy:
       front->TakeCommand("c");
       return PageAnswer::kTaken;

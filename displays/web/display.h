@@ -15,12 +15,12 @@ namespace vamo {
 
 class WebWindow;
 
-// A page in a browser. Its windows are active among themselves: that another page or program is in
-// front is nothing that it reports, so that whoever comes back finds all as it was.
+// A page in a browser. It activates its windows only among themselves: it does not report that
+// another page or program was in front, so that a user who comes back finds everything unchanged.
 class WebDisplay : public Display, public PageOwner {
  public:
-  // Calls `ended`, as an event of its own, when the program is to be finished, and `linked` with
-  // the fragment of the page's address when that changes.
+  // Calls `ended`, as a separate event, when the program is to be finished, and `linked` with the
+  // fragment of the page's address when the fragment changes.
   WebDisplay(std::function<void()> ended, std::function<void(std::string_view link)> linked);
   ~WebDisplay() override;
 
@@ -33,13 +33,13 @@ class WebDisplay : public Display, public PageOwner {
   std::unique_ptr<RunningTimer> StartTimer(std::chrono::milliseconds period,
                                            std::function<void()> fire) override;
   std::string ClipboardText() override { return pasted_; }
-  // A page may not look at the clipboard before the user pastes.
+  // A page may not read the clipboard before the user pastes.
   bool ClipboardMayHoldText() const override { return true; }
   void SetClipboardText(std::string_view text) override;
   bool MenuBarsLiveInWindows() const override { return true; }
   bool TabLeavesWindows() const override { return true; }
 
-  // What happens outside of all windows, and the keys.
+  // Handles keys, and what happens outside all windows.
   PageAnswer Take(const PageReport& report) override;
   void RunEvent(const std::function<void()>& event) override;
 
@@ -49,16 +49,16 @@ class WebDisplay : public Display, public PageOwner {
   // The active window, or null.
   WebWindow* Front() const;
   void Activate(WebWindow& window);
-  // Activates the window whose turn it is, as an event of its own.
+  // Activates the window whose turn it is, in a separate event.
   void ActivateLater();
-  // Does something that may ask for the clipboard's text, which is `text`.
+  // Calls `act`, which may ask for the clipboard's text; that is then `text`.
   void WithPasted(std::string text, const std::function<void()>& act);
 
  private:
-  // Does something as an event of its own, unless the program ends before.
+  // Calls `act` as a separate event, unless the program ends before.
   void Post(std::function<void()> act);
   void ActivateNext();
-  // Tells the style sheet which of the two layouts there is room for.
+  // Tells the style sheet which of the two layouts the page has room for.
   void ShowRoom();
 
   const std::function<void()> ended_;
@@ -70,11 +70,12 @@ class WebDisplay : public Display, public PageOwner {
   bool stopped_ = false;
 };
 
-// The display in the page that this program runs in.
+// Creates the display in the page that runs this program.
 std::unique_ptr<Display> MakeWebDisplay(std::function<void()> ended,
                                         std::function<void(std::string_view link)> linked);
 
-// Says on the page that the program has ended, with that exit status, and offers to call `restart`.
+// Shows on the page that the program has ended, with that exit status, and offers to call
+// `restart`.
 void ShowEnd(int status, std::function<void()> restart);
 
 }  // namespace vamo

@@ -49,7 +49,7 @@ std::unique_ptr<End> end;
 
 void ShowEnd(int status, std::function<void()> restart) {
   end = std::make_unique<End>(status, [restart = std::move(restart)] {
-    // A copy runs, since it goes with what shows.
+    // Runs a copy, because `restart` is destroyed with what is shown.
     const std::function<void()> start = restart;
     end = nullptr;
     start();

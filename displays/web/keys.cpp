@@ -41,11 +41,11 @@ bool IsPrintable(std::string_view name) { return CharacterCount(name) == 1; }
 
 bool IsCommand(const PageReport& report, bool on_mac) {
   if (on_mac) return report.meta;
-  // Ctrl and Alt together are AltGr on Windows, which makes characters.
+  // Ctrl and Alt together are AltGr on Windows, which types characters.
   return report.control && !(report.alt && IsPrintable(report.text));
 }
 
-// On a keyboard of another script, the letter that has the key on a Latin one.
+// On a keyboard of another script, the letter that a Latin keyboard has on the key.
 char CommandLetter(const PageReport& report) {
   constexpr std::string_view kKey = "Key";
   const bool latin = report.text.size() == 1;
@@ -76,8 +76,9 @@ std::optional<Key> ToKey(const PageReport& report, bool on_mac) {
     key.text = std::string(1, code);
     return key;
   }
-  // With Alt a key is the browser's. On a Mac that makes other characters and goes by words, and
-  // the keys with Control are those of every text.
+  // A key with Alt is left to the browser. On a Mac, Option types other characters and moves by
+  // words; there the keys with Control are left to the browser, which has the system's editing
+  // commands on them.
   const bool browsers = on_mac ? report.control : report.alt && !report.control;
   if (browsers) return key;
   for (const auto& [coded_name, code] : kCodedKeys) {
@@ -86,7 +87,7 @@ std::optional<Key> ToKey(const PageReport& report, bool on_mac) {
   if (key.code != KeyCode::kOther || !IsPrintable(name)) return key;
   key.code = KeyCode::kCharacter;
   key.text = key.command ? std::string(1, CommandLetter(report)) : name;
-  // A comma on many layouts, and the program knows the point alone.
+  // A comma on many layouts, but the program knows only the point.
   if (report.data == "NumpadDecimal" && !key.command) key.text = ".";
   return key;
 }

@@ -12,7 +12,7 @@ namespace vamo {
 // modifier.
 std::optional<Key> ToKey(const PageReport& report, bool on_mac);
 
-// Of a letter of ASCII. The C library's would depend on the locale.
+// Converts an ASCII letter to lower case. std::tolower would depend on the locale.
 char LowerCase(char c);
 
 }  // namespace vamo

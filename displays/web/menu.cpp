@@ -14,7 +14,7 @@
 namespace vamo {
 namespace {
 
-// A page may read the clipboard only while the user looks on, and has to wait for it.
+// A page may read the clipboard only with the user's consent, and has to wait for it.
 bool Pastes(const MenuItem& item) {
   for (const EditCommand& command : kEditCommands) {
     if (command.action == EditAction::kPaste && command.item == item.Name()) return item.Enabled();
@@ -41,7 +41,7 @@ struct WebMenuBar::Entry {
     element.SetAttribute("tabindex", "-1");
     element.SetAttribute("aria-disabled", item->Enabled() ? "false" : "true");
     element.SetText(item->Value());
-    // Without what the style sheet shows of the shortcut.
+    // Without the shortcut, which the style sheet adds to the text.
     element.SetAttribute("aria-label", item->Value());
     const std::string& shortcut = item->Shortcut();
     if (shortcut.empty()) return;
@@ -145,7 +145,7 @@ void WebMenuBar::Close() {
 PageAnswer WebMenuBar::TakeTitle(std::size_t menu, const PageReport& report) {
   if (report.event == PageEvent::kKey) return TakeKey(menu, report);
   const bool pressed = report.event == PageEvent::kPress;
-  // The click of a mouse is the end of a press; another one is assistive technology's.
+  // A mouse click ends a press that was handled; any other click comes from assistive technology.
   if (!pressed && (report.event != PageEvent::kClick || report.x != 0)) return PageAnswer::kPassed;
   const bool was_open = open_ == menu;
   window_.BringToFront();
@@ -208,7 +208,7 @@ PageAnswer WebMenuBar::TakeKey(std::size_t menu, const PageReport& report) {
   }
   if (report.control || report.meta || report.alt || key == "F1" || key == "F9")
     return PageAnswer::kPassed;
-  // No other key is for what has the focus behind the menu.
+  // The control that had the focus before the menu must get no other key either.
   if (key.size() != 1) return PageAnswer::kTaken;
   if (open_ == menu) {
     for (std::size_t i = 0; i < menus_[menu]->entries.size(); ++i) {
@@ -241,7 +241,7 @@ void WebMenuBar::FocusEntry(std::size_t menu, std::size_t entry) {
   if (entry != kNone) menus_[menu]->entries[entry]->element.Focus();
 }
 
-// What is chosen may close the window, and this bar with it.
+// The item may close the window, and this bar with it.
 void WebMenuBar::Choose(Ref<MenuItem> item) {
   if (!item->Enabled()) return;
   Close();

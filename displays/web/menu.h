@@ -13,18 +13,18 @@ namespace vamo {
 
 class WebWindow;
 
-// The menu bar of a window, as keyboard and screen readers expect it of a page: one stop of Tab,
-// the arrow keys between and in the menus, first letters, Escape back.
+// The menu bar of a window, with the keys that users and screen readers expect in a page: one tab
+// stop, arrow keys between and in the menus, first letters, and Escape.
 class WebMenuBar {
  public:
   WebMenuBar(WebWindow& window, const PageElement& parent, const MenuBar& bar);
   ~WebMenuBar();
 
-  // Takes the focus to the first menu.
+  // Moves the focus to the first menu.
   void Focus();
-  // Closes an open menu, and what has the keys gets them back.
+  // Closes an open menu and returns the focus to the control that had it.
   void Leave();
-  // Whether Tab comes here.
+  // Makes the bar a tab stop if its window is in front.
   void ShowPlace(bool in_front);
 
  private:
@@ -37,8 +37,7 @@ class WebMenuBar {
   void FocusTitle(std::size_t menu);
   void Open(std::size_t menu);
   void Close();
-  // The entry after another one that shows, around the ends; the first or the last of all after
-  // kNone.
+  // The next visible entry after `entry`, wrapping around; after kNone, the first or the last one.
   std::size_t Next(std::size_t menu, std::size_t entry, int step) const;
   void FocusEntry(std::size_t menu, std::size_t entry);
   void Choose(Ref<MenuItem> item);

@@ -1,5 +1,5 @@
-// Says in one sentence why the program does not run, where it does not. It comes before the program
-// and is written so that every browser understands it.
+// Shows one sentence that says why the program does not run. It comes before the program and uses
+// only what every browser understands.
 function sayInstead(sentence) {
   var notice = document.getElementById('notice');
   if (!notice.hidden) return;
@@ -9,10 +9,10 @@ function sayInstead(sentence) {
   document.getElementById('vamo').hidden = true;
 }
 (function () {
-  // A module whose one function has a try and a catch_all.
+  // A module with one function that contains a try and a catch_all.
   var withExceptions = [0, 97, 115, 109, 1, 0, 0, 0, 1, 4, 1, 96, 0, 0, 3, 2, 1, 0, 10, 8, 1, 6, 0,
     6, 64, 25, 11, 11];
-  // A saved copy of the page may say what has happened when it was saved.
+  // A saved copy of the page may show what happened before it was saved.
   document.getElementById('notice').hidden = true;
   document.getElementById('vamo').hidden = false;
   if (!window.WebAssembly || !WebAssembly.validate(new Uint8Array(withExceptions))) {

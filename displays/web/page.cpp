@@ -6,7 +6,8 @@
 #include <memory>
 #include <utility>
 
-// What page.js does. A text is its first byte and its length, in UTF-8.
+// The functions that page.js implements. A text is passed as a pointer to its first byte and its
+// length, in UTF-8.
 extern "C" {
 int page_create(int parent, const char* tag, std::size_t tag_length, int listens);
 void page_remove(int element);
@@ -67,18 +68,18 @@ State& Page() {
   return state;
 }
 
-// Takes over a text that page.js has put there.
+// Takes ownership of a text that page.js has allocated.
 std::string Taken(char* text, std::size_t length) {
   const std::unique_ptr<char, decltype(&std::free)> owned(text, std::free);
   return length == 0 ? std::string() : std::string(text, length);
 }
 
-// What happens when nobody owns the page is lost.
+// Events are dropped while the page has no owner.
 void RunEvent(const std::function<void()>& event) {
   if (Page().owner != nullptr) Page().owner->RunEvent(event);
 }
 
-// Notes that `name` has that value now. Whether it is new.
+// Notes that `name` now has that value. Returns whether it is new.
 bool Note(std::map<std::string, std::string, std::less<>>& values, std::string_view name,
           std::string_view value) {
   const auto known = values.find(name);
@@ -230,15 +231,15 @@ bool IsMac() { return page_is_mac() != 0; }
 }  // namespace page
 }  // namespace vamo
 
-// What page.js calls. The page's link names them as roots.
+// The functions that page.js calls. The build exports them from the page's program.
 extern "C" {
 
-// To the element, or to the page's own listener for -1.
+// For an element, or with -1 for the owner of the page.
 int page_report(int element, int event, double x, double y, unsigned held, char* text,
                 std::size_t text_length, char* data, std::size_t data_length) {
-  // Of an event that ends with an exception.
+  // The answer of an event that ends with an exception.
   vamo::PageAnswer answer = vamo::PageAnswer::kTakenWhole;
-  // Also where nobody hears of it any more, since the texts are to be taken over.
+  // Done even if nobody receives the report, because it takes ownership of the texts.
   const vamo::PageReport report{.event = static_cast<vamo::PageEvent>(event),
                                 .x = x,
                                 .y = y,
@@ -265,7 +266,7 @@ int page_report(int element, int event, double x, double y, unsigned held, char*
 void page_fire(int timer) {
   const auto found = vamo::Page().timers.find(timer);
   if (found == vamo::Page().timers.end()) return;
-  // A copy runs, since what fires may stop the timer.
+  // Runs a copy, because the function may stop the timer.
   const std::function<void()> fire = found->second;
   vamo::RunEvent(fire);
 }

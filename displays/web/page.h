@@ -1,5 +1,4 @@
-// The page that the program runs in, as a few primitives. What they do in the browser is in
-// page.js.
+// The page that the program runs in, as a few primitives, which page.js implements.
 #ifndef VAMO_DISPLAYS_WEB_PAGE_H_
 #define VAMO_DISPLAYS_WEB_PAGE_H_
 
@@ -29,69 +28,69 @@ enum class PageEvent {
   kPaste = 10,
   kComposing = 11,
   kSelected = 12,
-  // A press of any button begins, before it is reported itself: by kPress where the button is the
-  // main one, else by kOtherPress.
+  // A press of any button begins. The press itself is reported next: as kPress for the main button,
+  // else as kOtherPress.
   kPressBegins = 13,
   kOtherPress = 14,
-  // The page, or its texts, have another size.
+  // The page or its text size has changed.
   kRoom = 15,
-  // A finger touches a slider, moves on to another place, and goes.
+  // A finger touches a slider, moves, and is lifted.
   kTouch = 16,
   kTouchMoves = 17,
   kTouchEnds = 18,
-  // The page's address has another fragment, which is the text; or it is asked for.
+  // The fragment of the page's address has changed, or TellLink was called. The text is the
+  // fragment.
   kLink = 19
 };
 
 struct PageReport {
   PageEvent event = PageEvent::kKey;
-  // Of a press that begins, in `x`, whether it follows another one as in a double click. Of a
-  // press, its place as a share of the width and the height of the element that hears of it.
-  // Of a wheel, what it has turned, in notches to the right and away from the user. Of a click, in
-  // `x`, how often the mouse has been clicked; 0 where it was something else that clicked. Of an
-  // input, in `x`, its value where that is a number. Of an edit, what it is about, as offsets in
-  // UTF-16 code units; -1 where that is what is selected.
+  // For the beginning of a press: `x` is 1 if it follows another press as in a double click. For a
+  // press and a touch: the position, as a share of the width and height of the listening element.
+  // For a wheel: the notches turned to the right and away from the user. For a click: `x` is 1 if
+  // it ends where its press began, else 0. For the input of a number: `x` is its value. For an
+  // edit: the range that it changes, as offsets in UTF-16 code units; -1 if that is the selection.
   double x = 0;
   double y = 0;
   bool shift = false;
   bool control = false;
   bool alt = false;
   bool meta = false;
-  // Of a key, whether it is held down and repeats by itself.
+  // For a key: whether it is an automatic repeat.
   bool repeat = false;
-  // The name of a key, the kind of an edit, what has been composed or pasted, the value of an input
-  // that is no number.
+  // The name of a key, the type of an edit, a composed or pasted text, or the value of an input
+  // that is not a number.
   std::string text = {};
-  // The text that an edit brings. Of a key, its name by its place on the keyboard.
+  // For an edit: the text that it inserts. For a key: its name by its place on the keyboard.
   std::string data = {};
 };
 
-// What becomes of a report: it goes on to the element around; or it has arrived, and the browser
-// does what it would do by itself; or it has arrived, and the browser is to do nothing more. The
-// numbers are those of page.js.
+// What happens after a report: it goes on to the enclosing element (kPassed); or it is handled,
+// with the browser's default action (kTaken) or without it (kTakenWhole). The numbers are those of
+// page.js.
 enum class PageAnswer { kPassed = 0, kTaken = 1, kTakenWhole = 2 };
 
-// Hears what the user does to an element and to what is in it.
+// Receives what the user does to an element and its contents.
 class PageListener {
  public:
   virtual ~PageListener() = default;
   virtual PageAnswer Take(const PageReport& report) = 0;
 };
 
-// Hears what no element's listener has taken, and answers for all.
+// Receives the reports that no element's listener has handled, and runs all events.
 class PageOwner : public PageListener {
  public:
-  // Runs an event, whoever hears of it. Must let no exception through.
+  // Runs an event for any listener. Must let no exception through.
   virtual void RunEvent(const std::function<void()>& event) = 0;
 };
 
-// A listener that is a function. What it calls may destroy it.
+// A listener that calls a function, which may destroy the listener.
 class PageHandler : public PageListener {
  public:
   using Handler = std::function<PageAnswer(const PageReport&)>;
   explicit PageHandler(Handler handler) : handler_(std::move(handler)) {}
   PageAnswer Take(const PageReport& report) override {
-    // A copy runs, which stays until it has returned.
+    // Runs a copy, which lives until it has returned.
     const Handler handler = handler_;
     return handler(report);
   }
@@ -100,52 +99,53 @@ class PageHandler : public PageListener {
   const Handler handler_;
 };
 
-// Offsets into the text of an element, in UTF-16 code units. Equal: a caret and no selection.
+// Offsets into the text of an element, in UTF-16 code units. If both are equal, there is a caret
+// and no selection.
 struct PageSelection {
   std::size_t anchor = 0;
   std::size_t caret = 0;
   bool operator==(const PageSelection&) const = default;
 };
 
-// An element of the page, which goes when this object does.
+// An element of the page. It is removed when this object is destroyed.
 class PageElement {
  public:
-  // At the end of `parent`.
+  // Creates an element at the end of `parent`.
   PageElement(const PageElement& parent, std::string_view tag, PageListener* listener = nullptr);
-  // What the windows lie in. It stays.
+  // The element that contains the windows. It is never removed.
   PageElement();
   ~PageElement();
   PageElement(const PageElement&) = delete;
   PageElement& operator=(const PageElement&) = delete;
 
-  // Each of these leaves the page alone where nothing changes.
+  // These functions do not touch the page if nothing changes.
   void SetAttribute(std::string_view name, std::string_view value);
-  // Whether it has been set here.
+  // Whether this object has set the attribute.
   bool HasAttribute(std::string_view name) const {
     return attributes_.find(name) != attributes_.end();
   }
   void RemoveAttribute(std::string_view name);
-  // An attribute that says something where it has a text, and is not there where it has none.
+  // Sets an attribute, or removes it if the value is empty.
   void SetOptionalAttribute(std::string_view name, std::string_view value);
-  // An attribute that says yes by being there.
+  // Sets or removes a Boolean attribute.
   void SetFlag(std::string_view name, bool on);
   void SetStyle(std::string_view name, std::string_view value);
-  // The text in it. Whether it was another one before.
+  // Sets the element's text. Returns whether it has changed.
   bool SetText(std::string_view text);
   // Shows one of the page's pictures, in an `img`.
   void ShowPicture(std::string_view name);
 
-  // The value of an input, which the user changes too: always set.
+  // Sets the value of an input. It is always set, because the user changes it too.
   void SetValue(std::string_view value);
   void Select(const PageSelection& selection);
   PageSelection Selection() const;
 
-  // Scrolls nothing.
+  // Does not scroll.
   void Focus();
   void ComeIntoView();
   bool HasFocus() const;
   void BringToEnd();
-  // To the end of another element.
+  // Moves the element to the end of `parent`.
   void MoveTo(const PageElement& parent);
   void Flash();
 
@@ -153,11 +153,11 @@ class PageElement {
   double Width() const;
   double Height() const;
 
-  // What other elements refer to it by.
+  // The id by which other elements refer to it.
   std::string Id() const;
 
  private:
-  // By name, as the page has them.
+  // Values by name, as the page has them.
   using Values = std::map<std::string, std::string, std::less<>>;
 
   const int number_;
@@ -169,21 +169,22 @@ class PageElement {
 
 namespace page {
 
-// Null: nobody hears anything any more, nor is the clipboard waited for.
+// With null, nothing is reported any more, and a pending read of the clipboard is dropped.
 void SetOwner(PageOwner* owner);
 
-// Calls `function` once, as an event of its own. It belongs to the present owner and is dropped if
-// the page has another one by then. If the page has no owner, it always runs.
+// Calls `function` once, as a separate event. It belongs to the current owner and is dropped if the
+// page has another owner, or none, by then. If the page has no owner now, it always runs.
 void Post(std::function<void()> function);
-// Calls `function` each time that the period has passed, until it is stopped by the number.
+// Calls `function` each time the period has passed, until StopTimer is called with the returned
+// number.
 int StartTimer(std::chrono::milliseconds period, std::function<void()> function);
 void StopTimer(int number);
 
 // The width of a text in a CSS font, in CSS pixels.
 double TextWidth(std::string_view text, std::string_view css_font);
 
-// How much wider texts are than asked for, because somebody has set the browser, or a style of his
-// own, to larger or wider ones.
+// The ratio of the actual width of texts to the requested one. It is above 1 if the browser's
+// settings or a user style make texts larger or wider.
 double TextEnlargement();
 // The width of the page in CSS pixels.
 double Width();
@@ -191,9 +192,10 @@ double Width();
 // Reports the fragment of the page's address.
 void TellLink();
 
-// Puts a text on the clipboard, unless the browser refuses; only while the user does something.
+// Puts a text on the clipboard. Returns false if the browser refuses. Call this only during an act
+// of the user.
 bool Copy(std::string_view text);
-// Asks for the clipboard's text; nothing where the browser or the user refuses.
+// Asks for the clipboard's text. Calls `take` with nothing if the browser or the user refuses.
 void ReadClipboard(std::function<void(std::optional<std::string>)> take);
 
 void Sound();

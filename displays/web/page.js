@@ -1,29 +1,29 @@
-// The primitives of page.h and the listeners of the page. What a press or a key does is decided by
-// the program, which answers whether the browser is still to do what it would do by itself.
+// The primitives of page.h and the listeners of the page. The program decides what a press or a key
+// does and answers whether the browser still takes its default action.
 mergeInto(LibraryManager.library, {
   $Page: {
-    // By their numbers. The first is what the windows lie in.
+    // By number. The first element contains the windows.
     elements: [],
     timers: {},
-    // What the running event is to put on the clipboard.
+    // The text that the current event puts on the clipboard.
     copied: null,
     inCopy: false,
-    // By the number of the event.
+    // By event number.
     hasPlace: { 1: true, 14: true, 16: true, 17: true },
-    // Whether a text stands in an element that is not complete.
+    // Whether an element contains an incomplete composition.
     composes: false,
-    // Where the mouse has gone down.
+    // The element on which the mouse was pressed.
     pressed: null,
-    // Whether that press does not count, nor then the click that comes of it.
+    // Whether that press and its click are ignored.
     ignored: false,
-    // Whether the user has pressed something in the page.
+    // Whether the user has pressed a button or a key in the page.
     used: false,
-    // What gets the focus when the page has it.
+    // The element that gets the focus once the page has it.
     waiting: null,
-    // Whether there is somebody to report to.
+    // Whether the program receives reports.
     owned: 0,
-    // A text is its first byte and its length. The short ones are nearly all in ASCII, and a decoder
-    // takes longer to call than they take to read.
+    // A text is the address of its first byte and its length. Short texts are nearly all ASCII, and
+    // reading them takes less time than calling a decoder.
     read: function (at, length) {
       var text = '';
       if (length < 40) {
@@ -36,7 +36,7 @@ mergeInto(LibraryManager.library, {
       if (!Page.decoder) Page.decoder = new TextDecoder('utf-8', { ignoreBOM: true });
       return Page.decoder.decode(HEAPU8.subarray(at, at + length));
     },
-    // Puts a text there for the program to take over.
+    // Allocates a text, which the program then owns.
     give: function (text) {
       if (!text) return { at: 0, length: 0 };
       if (!Page.encoder) Page.encoder = new TextEncoder();
@@ -46,8 +46,8 @@ mergeInto(LibraryManager.library, {
       HEAPU8.set(bytes, at);
       return { at: at, length: bytes.length };
     },
-    // Tells the listeners from the target outwards, until one has taken it. A press has its place in
-    // each of them.
+    // Tells the listeners from the target outwards until one has handled the event. A press has a
+    // position in each of them.
     report: function (cause, event, x, y, text, data) {
       var held = (cause.shiftKey ? 1 : 0) + (cause.ctrlKey ? 2 : 0) + (cause.altKey ? 4 : 0) +
         (cause.metaKey ? 8 : 0) + (cause.repeat ? 16 : 0);
@@ -67,7 +67,7 @@ mergeInto(LibraryManager.library, {
       return answer;
     },
     tell: function (number, event, x, y, held, text, data) {
-      // Before the program has been compiled there is nobody, and after its end.
+      // The program receives nothing before it is compiled and after it has ended.
       if (!Page.owned) return 0;
       return Page.enter(function () {
         var first = Page.give(text);
@@ -76,7 +76,7 @@ mergeInto(LibraryManager.library, {
           second.length);
       });
     },
-    // An error in the program is its end. What else goes wrong on the page is not the program's.
+    // An error in the program ends it. Other errors on the page are not the program's.
     enter: function (entry) {
       try {
         return entry();
@@ -116,7 +116,8 @@ mergeInto(LibraryManager.library, {
     listen: function () {
       var listeners = {
         keydown: function (event) {
-          // What is composed in a text comes when it has been; Safari's last key of it by its number.
+          // A composed text is reported when it is complete. Safari marks the last key of a
+          // composition only by its key code, 229.
           var composes = event.isComposing || event.keyCode === 229 || event.key === 'Unidentified';
           if (composes && typeof event.target.selectionStart === 'number') return;
           Page.report(event, 0, 0, 0, event.key, event.code);
@@ -176,17 +177,17 @@ mergeInto(LibraryManager.library, {
         paste: function (event) {
           Page.report(event, 10, 0, 0, event.clipboardData.getData('text/plain'));
         },
-        // Without a selection there would be no event, and yet the program may have something to
+        // Without a selection there would be no event, although the program may have something to
         // copy.
         beforecopy: function (event) { event.preventDefault(); },
         beforecut: function (event) { event.preventDefault(); },
         beforepaste: function (event) { event.preventDefault(); }
       };
       for (var name in listeners) {
-        // A touch is never held up, so that the page scrolls at once.
+        // Touches are passive, so that the page scrolls at once.
         document.addEventListener(name, listeners[name], { passive: name.indexOf('touch') === 0 });
       }
-      // A press that the program takes whole leaves the focus around a frame.
+      // A press without the default action would leave the focus in the page around a frame.
       document.addEventListener('mousedown', function () {
         Page.used = true;
         if (!document.hasFocus()) window.focus();
@@ -196,8 +197,8 @@ mergeInto(LibraryManager.library, {
       window.addEventListener('resize', tellRoom);
       window.addEventListener('hashchange', function () { _page_tell_link(); });
       if (window.ResizeObserver) new ResizeObserver(tellRoom).observe(Page.probe);
-      // A keyboard on the screen leaves less of the page to be seen; to enlarge the page does, too,
-      // and is nothing that it follows.
+      // An on-screen keyboard reduces the visible part of the page. So does zooming in, but the
+      // layout does not follow that.
       if (window.visualViewport) {
         visualViewport.addEventListener('resize', function () {
           document.documentElement.style.setProperty('--shown',
@@ -211,8 +212,8 @@ mergeInto(LibraryManager.library, {
           element.focus({ preventScroll: true });
         }
       });
-      // By the mouse, by a finger or by a key: but for sliders, which are moved often. In some browsers
-      // it is an event of the element alone.
+      // By mouse, finger or key, but not for sliders, which move often. In some browsers only the
+      // element receives this event.
       document.addEventListener('selectionchange', function () {
         if (!Page.composes && document.activeElement && document.activeElement.type !== 'range') {
           Page.tell(-1, 12, 0, 0, 0, '', '');
@@ -225,7 +226,7 @@ mergeInto(LibraryManager.library, {
   page_create__deps: ['$Page', 'malloc'],
   page_create: function (parent, tag, length, listens) {
     var name = Page.read(tag, length);
-    // A picture and what is in it are of another kind than the page.
+    // An SVG picture and its contents have another namespace than the page.
     var element = document.createElementNS(name === 'svg' ? 'http://www.w3.org/2000/svg' :
       Page.elements[parent].namespaceURI, name);
     element.listens = listens;
@@ -253,7 +254,7 @@ mergeInto(LibraryManager.library, {
   page_set_text: function (number, text, length) {
     var element = Page.elements[number];
     var first = element.firstChild;
-    // To write into a text is cheaper than to replace it. A translator may have put something around
+    // Changing a text node is cheaper than replacing it. A translator may have put something around
     // or beside it.
     if (length && first && first.nodeType === 3 && !first.nextSibling) {
       first.data = Page.read(text, length);
@@ -278,7 +279,7 @@ mergeInto(LibraryManager.library, {
     return element.selectionDirection === 'backward' ? element.selectionStart :
       element.selectionEnd;
   },
-  // The keys are not taken from what is around: another page, or the one that has this in a frame.
+  // Takes the focus neither from another page nor from the page that has this one in a frame.
   page_focus: function (number) {
     var element = Page.elements[number];
     if (document.hasFocus() && (Page.used || window.parent === window)) {
@@ -316,7 +317,7 @@ mergeInto(LibraryManager.library, {
   page_post: function () { setTimeout(function () { Page.enter(_page_run_posted); }, 0); },
   page_start_timer: function (timer, period) {
     function wait(left) {
-      // A longer wait than 31 bits can say is over at once.
+      // A wait that does not fit 31 bits would end at once.
       var part = Math.min(left, 0x7fffffff);
       Page.timers[timer] = setTimeout(function () {
         if (part < left) return wait(left - part);
@@ -333,7 +334,8 @@ mergeInto(LibraryManager.library, {
   page_text_width: function (text, length, font, fontLength) {
     return Page.measure(Page.read(text, length), Page.read(font, fontLength));
   },
-  // Only the event of a copy reaches the clipboard everywhere, so one is made where none runs.
+  // Only a copy event can write to the clipboard in every browser, so this makes one if none is
+  // running.
   page_copy: function (text, length) {
     Page.copied = Page.read(text, length);
     if (Page.inCopy || document.execCommand('copy')) return 1;
@@ -360,13 +362,13 @@ mergeInto(LibraryManager.library, {
     } catch (error) {
       return;
     }
-    // A phone suspends it.
+    // A phone suspends the context.
     if (Page.audio.state !== 'running') Page.audio.resume().catch(function () {});
     var tone = Page.audio.createOscillator();
     var strength = Page.audio.createGain();
     var start = Page.audio.currentTime;
     tone.frequency.value = 800;
-    // Without a ramp it clicks.
+    // Without a ramp the tone would click.
     strength.gain.setValueAtTime(0, start);
     strength.gain.linearRampToValueAtTime(0.15, start + 0.01);
     strength.gain.setValueAtTime(0.15, start + 0.08);

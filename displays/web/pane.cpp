@@ -11,7 +11,7 @@
 namespace vamo {
 namespace {
 
-// To a hundredth of a pixel. It is done many times at each step of a drag.
+// Adds a number with two decimals. This runs many times at each step of a drag.
 void AddNumber(std::string& text, double number) {
   const long long hundredths = std::llround(number * 100);
   const long long size = hundredths < 0 ? -hundredths : hundredths;
@@ -43,14 +43,14 @@ std::string PathText(const std::vector<Drawing::Point>& points) {
   return path;
 }
 
-// Puts a mark into its element.
+// Shows a mark in its element.
 class MarkShower {
  public:
   MarkShower(PageElement& element, Colour ground) : element_(element), ground_(ground) {}
 
   void operator()(const Drawing::Line& line) const {
     ShowPath(PathText({line.from, line.to}), line.pen);
-    // Along the pixels it covers whole ones.
+    // A horizontal or vertical line covers whole pixels.
     element_.SetAttribute("shape-rendering", "crispEdges");
   }
   void operator()(const Drawing::Polyline& line) const {
@@ -129,8 +129,8 @@ void WebPane::Update() {
   ShowTable();
 }
 
-// Most marks stay as they are. One of the same kind keeps its element; where the kinds are not the
-// same, that mark and all behind it are made anew.
+// Most marks do not change. A mark of the same kind keeps its element; from the first mark of
+// another kind on, all elements are created again.
 void WebPane::ShowDrawing(Drawing drawing) {
   picture_.SetStyle("background-color", ToCss(drawing.ground));
   for (std::size_t i = 0; i < drawing.marks.size(); ++i) {

@@ -13,13 +13,13 @@
 namespace vamo {
 
 // The pane of a window: its picture as SVG, which is sharp at every size, and its numbers as a
-// table that only screen readers get. Of both, only what has changed is written.
+// table for screen readers only. In both, only what has changed is written.
 class WebPane {
  public:
-  // At the end of `parent`. `height` is that of the window's content.
+  // Creates the elements at the end of `parent`. `height` is that of the window's content.
   WebPane(const PageElement& parent, const Pane& pane, double height);
 
-  // Shows the pane as it is now.
+  // Shows the pane's current state.
   void Update();
 
  private:
@@ -31,7 +31,7 @@ class WebPane {
   PageElement box_;
   PageElement picture_;
   Drawing drawing_;
-  // Of its marks.
+  // The elements of its marks.
   std::vector<std::unique_ptr<PageElement>> marks_;
   PageElement table_;
   std::vector<std::unique_ptr<PageElement>> rows_;

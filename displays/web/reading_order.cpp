@@ -8,12 +8,12 @@
 namespace vamo {
 namespace {
 
-// Boxes that overlap by no more than this are designed to be apart.
+// Boxes that overlap by no more than this count as separate.
 constexpr std::int64_t kTolerance = 4;
 
 using Numbers = std::vector<std::size_t>;
 
-// How much two ranges have in common; not above 0 where they are apart.
+// The overlap of two ranges; 0 or less if they are separate.
 std::int64_t Overlap(std::int64_t a, std::int64_t a_length, std::int64_t b, std::int64_t b_length) {
   return std::min(a + a_length, b + b_length) - std::max(a, b);
 }
@@ -22,14 +22,15 @@ bool SameRow(const Bounds& a, const Bounds& b) {
   return Overlap(a.top, a.height, b.top, b.height) > kTolerance;
 }
 
-// Whether one stands over the other in a column.
+// Whether one box is above the other in a column.
 bool SameColumn(const Bounds& a, const Bounds& b) {
   const std::int64_t in_height = Overlap(a.top, a.height, b.top, b.height);
   return Overlap(a.left, a.width, b.left, b.width) > kTolerance &&
          2 * in_height < std::min(a.height, b.height);
 }
 
-// Those that belong together, by way of others too, in the order of their first ones.
+// The sets of numbers that belong together, directly or through others, in the order of their first
+// members.
 std::vector<Numbers> Gathered(const Numbers& numbers,
                               const std::function<bool(std::size_t, std::size_t)>& together) {
   std::vector<Numbers> sets;
@@ -65,7 +66,7 @@ Block Ordered(const std::vector<Bounds>& boxes, Numbers numbers) {
     block.beside = sets.size() > 1;
   }
   for (const Numbers& set : sets) {
-    // What cannot be told apart stays in its order.
+    // Boxes that cannot be separated stay in their order.
     if (sets.size() == 1) {
       for (const std::size_t number : numbers) block.parts.push_back({.box = number});
     } else {

@@ -8,16 +8,16 @@
 
 namespace vamo {
 
-// Things that follow each other as one reads: a single one, or blocks beside or below each other.
+// Boxes in reading order: a single box, or blocks beside or below each other.
 struct Block {
   bool beside = false;
   std::vector<Block> parts = {};
-  // Where there are no parts, the number of the box.
+  // The number of the box, if there are no parts.
   std::size_t box = 0;
 };
 
-// The order in which one reads boxes that are placed like this: row by row, from the left, and a
-// column that stands in a row from above. There is at least one.
+// Returns the reading order of boxes with these places: row by row, each from the left, and a
+// column within a row from the top. There must be at least one box.
 Block InReadingOrder(const std::vector<Bounds>& boxes);
 
 }  // namespace vamo

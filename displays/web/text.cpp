@@ -11,7 +11,7 @@
 namespace vamo {
 namespace {
 
-// An edit that the browser is about to make, and the key that means the same.
+// An edit that the browser is about to make, and the equivalent key.
 struct EditKey {
   std::string_view kind;
   // A control code; 0 for a forward delete.
@@ -24,11 +24,11 @@ constexpr std::array kEditKeys{
     EditKey{"deleteWordBackward", kBackspace, true},     EditKey{"deleteWordForward", 0, true},
 };
 
-// These are about another part of the text than what is selected.
+// These edits may change a part of the text that is not selected.
 constexpr std::array<std::string_view, 2> kCorrecting{"insertReplacementText", "insertTranspose"};
 constexpr std::array<std::string_view, 3> kBrought{"insertFromPaste", "insertFromDrop",
                                                    "insertFromYank"};
-// These cannot be held up; what comes of them is reported when it is complete.
+// These edits cannot be prevented; their result is reported when it is complete.
 constexpr std::array<std::string_view, 3> kComposing{
     "insertCompositionText", "deleteCompositionText", "insertFromComposition"};
 
@@ -71,7 +71,7 @@ void WebText::ShowState() {
   ShowSelection();
 }
 
-// In some browsers to select is to take the focus.
+// In some browsers selecting takes the focus.
 void WebText::ShowSelection() {
   if (!Element().HasFocus()) return;
   const auto offset = [this](std::size_t at) { return Utf16Offset(text_.Text(), at); };
@@ -102,13 +102,13 @@ PageAnswer WebText::Take(const PageReport& report) {
       ReportSelection();
       return PageAnswer::kTaken;
     case PageEvent::kComposed:
-      // What stands in the element is the browser's; the text is still without it.
+      // The element contains the browser's edit; the control's text does not.
       Element().SetValue(shown_);
       ShowSelection();
       TakeTyped(report.text);
       return PageAnswer::kTakenWhole;
     case PageEvent::kKey:
-      // What a keyboard on the screen types comes as an edit, too, and as a text.
+      // An on-screen keyboard's character also comes as an edit, with its text.
       return report.data.empty() && CharacterCount(report.text) == 1 ? PageAnswer::kTaken : answer;
     case PageEvent::kClick:
       if (report.x == 0) return answer;
@@ -116,14 +116,14 @@ PageAnswer WebText::Take(const PageReport& report) {
       Window().Shown().UserClicked(Self(&text_));
       return PageAnswer::kTaken;
     case PageEvent::kPress:
-      // It places the caret.
+      // The press places the caret.
       return text_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
     default:
       return answer;
   }
 }
 
-// Speech control and password managers set a value without a word before.
+// Speech control and password managers set a value without announcing an edit.
 void WebText::TakeWhole(const std::string& text) {
   if (text == shown_) return;
   Element().SetValue(shown_);
@@ -150,7 +150,7 @@ PageAnswer WebText::TakeEdit(const PageReport& report) {
   return PageAnswer::kTakenWhole;
 }
 
-// Without a place for it, to exchange two characters would double them.
+// Without a range, exchanging two characters would double them.
 PageAnswer WebText::TakeCorrection(const PageReport& report) {
   const bool has_place = report.x >= 0 && report.y >= report.x;
   if (has_place) {
@@ -174,7 +174,7 @@ WebField::WebField(WebWindow& window, TextField& field) : WebText(window, field,
 
 WebArea::WebArea(WebWindow& window, TextArea& area)
     : WebText(window, area, "textarea"), area_(area) {
-  // In one that is read-only for the browser, the keys of the caret do nothing.
+  // If the browser knew that the area is read-only, the caret keys would do nothing.
   Element().SetAttribute("aria-readonly", "true");
   Element().SetAttribute("inputmode", "none");
   Update();

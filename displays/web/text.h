@@ -1,4 +1,4 @@
-// The controls of text.
+// The controls with text input.
 #ifndef VAMO_DISPLAYS_WEB_TEXT_H_
 #define VAMO_DISPLAYS_WEB_TEXT_H_
 
@@ -11,7 +11,7 @@
 
 namespace vamo {
 
-// What field and area have in common.
+// What fields and areas have in common.
 class WebText : public WebControl {
  public:
   WebText(WebWindow& window, TextEdit& text, std::string_view tag);
@@ -21,7 +21,7 @@ class WebText : public WebControl {
 
  protected:
   void ShowState() override;
-  // The text as the element has it, with as many UTF-16 code units as the control's own.
+  // The text in the element, with as many UTF-16 code units as the control's text.
   virtual std::string Shown() const { return text_.Text(); }
 
  private:
@@ -29,7 +29,7 @@ class WebText : public WebControl {
   PageAnswer TakeEdit(const PageReport& report);
   // An edit of a part of the text that need not be selected.
   PageAnswer TakeCorrection(const PageReport& report);
-  // Another text stands in the element.
+  // The element contains another text.
   void TakeWhole(const std::string& text);
   void TakeTyped(const std::string& typed);
 

@@ -13,7 +13,7 @@
 namespace vamo {
 namespace {
 
-// The splash shares its title with the control window.
+// The splash has the same title as the control window.
 std::string NameOf(const Window& window) {
   return (window.IsSplash() ? "About " : "") + window.ListedTitle();
 }
@@ -29,7 +29,7 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
         if (report.event == PageEvent::kPressBegins) return BeginPress(report);
         if (report.event != PageEvent::kPress) return PageAnswer::kPassed;
         BringToFront();
-        // What has the keys keeps them.
+        // The focus stays where it is.
         return PageAnswer::kTakenWhole;
       }),
       pressed_([this](const PageReport& report) { return TakePress(report); }),
@@ -73,7 +73,7 @@ WebWindow::~WebWindow() {
   display_.ActivateLater();
 }
 
-// For who goes from heading to heading.
+// For screen reader users, who go from heading to heading.
 void WebWindow::MakeHiddenHeading() {
   title_bar_.push_back(std::make_unique<PageElement>(frame_, "h1"));
   title_bar_.back()->SetAttribute("class", "announcement");
@@ -108,8 +108,8 @@ std::unique_ptr<ControlView> WebWindow::CreateControl(AnyControl control) {
   return std::visit(create, control);
 }
 
-// A caption is the label of the first control that it stands beside, and describes the others: it
-// can be the label of one alone.
+// A caption can be the label of only one control: the first one. It is the description of the
+// others.
 void WebWindow::LinkCaptions() {
   for (WebControl* control : controls_) {
     const Ref<Label> caption = control->Control().LabelledBy();
@@ -123,7 +123,7 @@ void WebWindow::LinkCaptions() {
   }
 }
 
-// Another window of the page is always active, so this one may be.
+// Some window of the page is always active, so this one may always be activated.
 void WebWindow::Show(bool /*activate*/) {
   if (!std::exchange(has_been_shown_, true)) {
     LinkCaptions();
@@ -163,7 +163,7 @@ void WebWindow::ShowFocus() {
   }
 }
 
-// Where it has no room on the screen, the user scrolls to it.
+// If the pane does not fit the page, the user scrolls to it.
 bool WebWindow::ShowPane() {
   pane_->Update();
   const bool open = window_.SidePane()->IsOpen();
@@ -172,7 +172,7 @@ bool WebWindow::ShowPane() {
   return true;
 }
 
-// The user has moved it by a key.
+// The user has moved the focus by a key.
 void WebWindow::UpdateFocus() {
   GiveFocus();
   WebControl* control = FocusedControl();
@@ -217,7 +217,7 @@ PageAnswer WebWindow::TakeKey(const PageReport& report) {
   const std::optional<Key> key = ToKey(report, page::IsMac());
   if (!key.has_value()) return PageAnswer::kPassed;
   const bool with_command = key->command && key->code == KeyCode::kCharacter && !key->shift;
-  // The browser's own events of these bring the clipboard.
+  // The browser's own events for these keys bring the clipboard.
   if (with_command && (key->text == "c" || key->text == "x" || key->text == "v")) {
     return PageAnswer::kPassed;
   }
@@ -228,7 +228,7 @@ PageAnswer WebWindow::TakeKey(const PageReport& report) {
     menu_bar_->Focus();
     return PageAnswer::kTakenWhole;
   }
-  // There is nothing else to select on the page.
+  // Nothing else on the page can be selected.
   const bool selects_all = with_command && key->text == "a" && !IsText(FocusedControl());
   const bool types = key->code == KeyCode::kCharacter && !key->command && key->text[0] != kTab;
   return types || selects_all ? PageAnswer::kTakenWhole : PageAnswer::kPassed;
@@ -253,7 +253,8 @@ PageAnswer WebWindow::TakePress(const PageReport& report) {
   const Window::State& state = window_.InitialState();
   window_.UserPressedMouse(std::llround(report.x * static_cast<double>(state.width)),
                            std::llround(report.y * static_cast<double>(state.height)));
-  // The other buttons are the browser's as well; by the main one, what has the keys keeps them.
+  // The other buttons are left to the browser too; a press of the main button does not move the
+  // focus.
   return by_other_button ? PageAnswer::kTaken : PageAnswer::kTakenWhole;
 }
 

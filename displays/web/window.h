@@ -17,7 +17,7 @@ namespace vamo {
 
 class WebDisplay;
 
-// A window as an element of the page, with a bar for its title where it has one.
+// A window as an element of the page, with a title bar unless it is a splash.
 class WebWindow : public WindowView {
  public:
   WebWindow(WebDisplay& display, Window& window);
@@ -30,30 +30,30 @@ class WebWindow : public WindowView {
   void UpdateFocus() override;
 
   Window& Shown() const { return window_; }
-  // Whether it is the one that the keys go to.
+  // Whether this is the active window.
   bool IsInFront() const;
-  // The user has come to this window.
+  // The user has pressed or focused something in this window.
   void BringToFront();
-  // Shows that the window has come in front, or has gone from there.
+  // Shows whether the window is in front, and its depth among the others.
   void ShowPlace(int depth);
-  // Takes the browser's focus to what has the keys, but opens no keyboard on the screen: the user
-  // does that by a touch. Meanwhile no change of focus is the user's.
+  // Moves the browser's focus to the focused control, but does not open an on-screen keyboard: the
+  // user does that by a touch. During the call no change of focus counts as the user's.
   void ShowFocus();
   bool IsShowingFocus() const { return showing_focus_; }
   PageAnswer TakeKey(const PageReport& report);
-  // A press that does not count is taken whole.
+  // Returns kTakenWhole for a press that does not count.
   PageAnswer BeginPress(const PageReport& report);
-  // The command key with that letter.
+  // Handles the command key with that letter.
   void TakeCommand(std::string_view letter);
   void ReportSelection();
-  // Flashes what has the keys.
+  // Flashes the focused control.
   void Flash();
 
-  // What the controls lie in.
+  // The element that contains the controls.
   PageElement& Content() { return content_; }
   void Add(WebControl& control) { controls_.push_back(&control); }
   void Remove(WebControl& control) { std::erase(controls_, &control); }
-  // The element of a control that has been created; null for another.
+  // The element of a control; null if it has not been created.
   PageElement* ElementOf(const RectControl& control) const;
   WebDisplay& Display() { return display_; }
 
@@ -72,7 +72,7 @@ class WebWindow : public WindowView {
   PageHandler closed_;
   PageElement frame_;
   std::vector<std::unique_ptr<PageElement>> title_bar_;
-  // Among these; null where there is none.
+  // One of these; null if there is none.
   PageElement* close_button_ = nullptr;
   std::unique_ptr<WebMenuBar> menu_bar_;
   PageElement content_;

@@ -80,8 +80,8 @@ class WindowView {
   virtual void Hide() = 0;
 
   // Called when the window's pane has been opened or closed and, while it is open, at the end of
-  // each event that has changed it: must show the pane in its present state before it returns to
-  // the event loop. False: the screen has no room for it.
+  // each event that has changed it: must show the pane's current state before it returns to the
+  // event loop. Returns false if the screen has no room for the pane.
   virtual bool ShowPane() = 0;
 
   // Called when another control, or none, has received the focus: must move the keyboard focus

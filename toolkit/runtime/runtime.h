@@ -97,8 +97,8 @@ class Runtime {
   // from there to the default action unless it is handled. An exception of another class ends the
   // event loop and is kept for RaiseAgain.
   void Dispatch(const std::function<void()>& event, Cause cause = Cause::kUser);
-  // Calls the function when the current event, with the events inside it, has ended, also by an
-  // exception; at once if there is no event. The function must not throw.
+  // Calls the function at the end of the current outermost event, even if an exception ends it; at
+  // once if there is no event. The function must not throw.
   void AtEndOfEvent(std::function<void()> function);
   // The cause of the current event; the user if there is none.
   Cause EventCause() const { return event_cause_; }

@@ -33,7 +33,7 @@ class MenuItem : public Object {
   void SetEnabled(bool enabled);
   bool Visible() const { return Trapped(visible_); }
   void SetVisible(bool visible);
-  // Whether the item bears its check mark; nothing for an item that never has one.
+  // Whether the item has its check mark; nothing for an item that never has one.
   std::optional<bool> Checked() const;
   void SetChecked(bool checked);
 

@@ -53,13 +53,13 @@ Ref<MenuItem> FindByShortcut(const std::vector<Ref<MenuItem>>& items, std::strin
   return nullptr;
 }
 
-// As the shortcut that the key may be is written; empty where it can be none.
+// The text of the shortcut that the key may be; empty if it cannot be one.
 std::string ShortcutText(const Key& key) {
   if (key.code == KeyCode::kF9 && !key.shift && !key.command) return "F9";
   if (!key.command || key.shift || key.text.size() != 1) return "";
   const char letter = key.text[0];
   std::string shortcut(kCommandPrefix);
-  // A shortcut is written with a capital. The C library's would depend on the locale.
+  // Shortcuts are written in capitals. std::toupper would depend on the locale.
   shortcut += letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
   return shortcut;
 }

@@ -24,7 +24,7 @@ struct DrawnMenu {
 bool IsSeparator(const MenuItem& item);
 
 // The menus of a bar as every display draws them. Menus and items that are invisible or have no
-// text are left out. The View menu stands before "Window", or else at the end. AppleMenuItems go to
+// text are left out. The View menu comes before "Window", or else at the end. AppleMenuItems go to
 // a "Help" menu at the end of the bar, where users look for them; a display whose platform has an
 // application menu moves them there.
 std::vector<DrawnMenu> DrawnMenus(const MenuBar& bar);

@@ -12,7 +12,7 @@ void Pane::Toggle() {
     return Beep();
   }
   const std::string name(kName);
-  // One sentence, since a second would cut the first one off.
+  // One announcement, because a second one would cut off the first.
   Runtime::Current().Display().Announce(open_ ? name + " shown. " + Description()
                                               : name + " hidden");
 }

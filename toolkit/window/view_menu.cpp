@@ -6,7 +6,7 @@
 
 namespace vamo {
 
-// Made at the first use, and gone with the run time.
+// Created at its first use and destroyed by the finalisers.
 struct ViewMenuFields {
   Ref<MenuItem> pane;
 };
@@ -26,8 +26,8 @@ const Ref<MenuItem>& PaneItem() {
   return item;
 }
 
-// The window whose pane the item is for, or nil: the one on the screen that has a pane, also while
-// another window than it is read.
+// The window whose pane the item opens, or nil: the visible window that has a pane, even if another
+// window is active.
 Ref<Window> WindowWithPane() {
   const Ref<Window>& active = Runtime::Current().ActiveWindow();
   if (active && active->IsSplash()) return nullptr;

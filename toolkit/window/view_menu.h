@@ -1,5 +1,5 @@
-// The View menu, which is in every menu bar and in no tree of items: it is about how windows are
-// shown, not about what the program does.
+// The View menu. It is in every menu bar but in no tree of items, because it is about how windows
+// are shown, not about what the program does.
 #ifndef VAMO_TOOLKIT_WINDOW_VIEW_MENU_H_
 #define VAMO_TOOLKIT_WINDOW_VIEW_MENU_H_
 
@@ -13,14 +13,14 @@ namespace vamo {
 
 inline constexpr std::string_view kViewMenu = "View";
 
-// Its items. A display that scales its windows adds its own below them.
+// Its items. A display that scales its windows adds its own items below them.
 std::vector<Ref<MenuItem>> ViewItems();
 
-// Brings them up to date: whether there is a window with a pane, unless a splash has the keys, and
-// whether that pane is open.
+// Updates the items: whether a window has a pane, unless a splash is active, and whether that pane
+// is open.
 void EnableViewItems();
 
-// Does what the item is for. False: it is none of them.
+// Performs the item's command. Returns false if it is not an item of this menu.
 bool ChooseViewItem(const MenuItem& item);
 
 }  // namespace vamo

@@ -95,7 +95,7 @@ class Window : public Object {
   virtual bool Event_MouseDown(std::int64_t /*x*/, std::int64_t /*y*/) { return false; }
   // The accessibility data of the controls, applied once the controls exist.
   virtual std::span<const AccessibleText> AccessibleTexts() const { return {}; }
-  // The pane at the window's side, or null where its class has none.
+  // The pane at the window's side, or null if the class has none.
   virtual Pane* SidePane() { return nullptr; }
 
   bool IsLive() const { return Trapped(view_ != nullptr); }
@@ -178,7 +178,7 @@ class Window : public Object {
   // The key that presses a control from anywhere in the window.
   std::optional<KeyCode> KeyThatPresses(const RectControl& control) const;
 
-  // Has the display show the pane as it is now. False: the screen has no room for it.
+  // Has the display show the pane's current state. Returns false if the screen has no room for it.
   bool ShowPane() { return IsLive() && view_->ShowPane(); }
 
   // What a display reports.
