@@ -116,6 +116,7 @@ TEST_F(ControlWndTest, AnnouncesResultsOnceTheyStopChanging) {
   };
   const std::vector<std::string> nothing;
   EXPECT_EQ(heard_after(1000ms), nothing) << "nothing has been calculated";
+  EXPECT_EQ(user.Sees(Role::kButton, "Info").text, "?");
   window_->nEdit()->SetText("30");
   for (const char* r : {".4", ".6", ".5"}) {
     EXPECT_EQ(heard_after(250ms), nothing);

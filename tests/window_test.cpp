@@ -27,6 +27,7 @@ TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   EXPECT_TRUE(program.runtime().ActiveWindow() == window);
   window->Close();
   EXPECT_FALSE(program.runtime().ActiveWindow());
+  EXPECT_THROW(program.display().ActiveWindow(), InvalidArgumentException);
   window->Show();
   window->Close();
   EXPECT_EQ(window->ends, 1);
