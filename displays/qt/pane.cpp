@@ -15,7 +15,6 @@ namespace vamo {
 PaneWidget::PaneWidget(WindowWidget& parent) : QWidget(&parent), window_(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAccessibleName(ToQString(Pane::kName));
-  hide();
 }
 
 const Pane* PaneWidget::ShownPane() const {
@@ -24,27 +23,19 @@ const Pane* PaneWidget::ShownPane() const {
 }
 
 bool PaneWidget::Refresh() {
-  const Pane* pane = ShownPane();
-  const bool open = pane != nullptr && pane->IsOpen();
-  if (open) {
-    const QSize content = window_.Content().size();
-    const int room = WidthOfRoom(window_) - content.width();
-    const auto scaled = [this](double length) { return qRound(length * window_.Factor()); };
-    if (room < scaled(Pane::kSmallestWidth)) return false;
-    setFixedSize(std::min(scaled(Pane::kWidth), room), content.height());
-    update();
-    if (QAccessible::isActive()) {
-      QAccessibleEvent event(this, QAccessible::DescriptionChanged);
-      QAccessible::updateAccessibility(&event);
-    }
+  const QSize content = window_.Content().size();
+  const int room = WidthOfRoom(window_) - content.width();
+  if (room < SmallestWidth()) return false;
+  setFixedSize(std::min(qRound(Pane::kWidth * window_.Factor()), room), content.height());
+  update();
+  if (QAccessible::isActive()) {
+    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
   }
-  setVisible(open);
   return true;
 }
 
-int PaneWidget::SmallestWidth() const {
-  return isHidden() ? 0 : qRound(Pane::kSmallestWidth * window_.Factor());
-}
+int PaneWidget::SmallestWidth() const { return qRound(Pane::kSmallestWidth * window_.Factor()); }
 
 void PaneWidget::paintEvent(QPaintEvent* /*event*/) {
   const Pane* pane = ShownPane();

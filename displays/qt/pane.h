@@ -8,18 +8,17 @@ namespace vamo {
 class Pane;
 class WindowWidget;
 
-// The widget of a window's pane. It paints what the pane shows. It handles no keys, and leaves a
-// press to the window system, which brings the window to the front.
+// The widget of a window's open pane. It paints what the pane shows. It handles no keys, and leaves
+// a press to the window system, which brings the window to the front.
 class PaneWidget : public QWidget {
  public:
   explicit PaneWidget(WindowWidget& parent);
 
-  // Null if there is none or the window's view is destroyed.
+  // Null if the window's view is destroyed.
   const Pane* ShownPane() const;
-  // Shows the pane if it is open, as wide as the screen allows, and hides it if it is closed.
-  // Returns false if the screen has no room for it.
+  // Shows the pane as wide as the screen allows. Returns false if the screen has no room for it.
   bool Refresh();
-  // The smallest width of the pane at the window's factor; 0 while it is closed.
+  // The smallest width of the pane at the window's factor.
   int SmallestWidth() const;
 
  protected:

@@ -18,6 +18,7 @@
 #include "displays/qt/slider.h"
 #include "displays/qt/text_area.h"
 #include "displays/qt/text_field.h"
+#include "toolkit/window/pane.h"
 #include "toolkit/window/window.h"
 
 namespace vamo {
@@ -53,7 +54,6 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
       zoom_(zoom),
       factor_(zoom.Factor()),
       content_(new ContentWidget(*this)),
-      pane_(new PaneWidget(*this)),
       keys_(*this),
       presses_(*this, activation) {
   setWindowTitle(ToQString(window.ListedTitle()));
@@ -63,7 +63,6 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(content_);
-  layout->addWidget(pane_);
   AddMenuBar();
   SetSizes(DesignedSize());
   settle_.setSingleShot(true);
@@ -108,11 +107,11 @@ void WindowWidget::Rescale() {
   const double change = Factor() / std::exchange(factor_, Factor());
   SetSizes(window_->CanBeResized() ? content_->size() * change : DesignedSize());
   content_->Rescale();
-  pane_->Refresh();
+  if (pane_ != nullptr) pane_->Refresh();
 }
 
 QSize WindowWidget::SizeAt(double factor) const {
-  const int pane = pane_->isHidden() ? 0 : pane_->width() - pane_->SmallestWidth();
+  const int pane = pane_ == nullptr ? 0 : pane_->width() - pane_->SmallestWidth();
   return (QSizeF(width() - pane, height()) * (factor / Factor())).toSize();
 }
 
@@ -122,10 +121,23 @@ void WindowWidget::Add(ControlWidget& widget) {
 }
 
 bool WindowWidget::ShowPane() {
-  const bool was_hidden = pane_->isHidden();
-  if (!pane_->Refresh()) return false;
+  const Pane* pane = window_ == nullptr ? nullptr : window_->SidePane();
+  if (pane == nullptr || !pane->IsOpen()) {
+    pane_ = nullptr;
+    layout()->activate();
+    return true;
+  }
+  // A screen reader finds hidden widgets too, so a closed pane has none.
+  auto opened = pane_ == nullptr ? std::make_unique<PaneWidget>(*this) : nullptr;
+  if (!(opened != nullptr ? *opened : *pane_).Refresh()) return false;
+  const bool opens = opened != nullptr;
+  if (opens) {
+    pane_ = std::move(opened);
+    layout()->addWidget(pane_.get());
+    pane_->show();
+  }
   layout()->activate();
-  if (!was_hidden || pane_->isHidden() || !isVisible()) return true;
+  if (!opens || !isVisible()) return true;
   if (PlatformPlacesWindows()) {
     MapAgain();
   } else {

@@ -77,7 +77,8 @@ class WindowWidget : public QWidget {
   // The factor for which the sizes are set.
   double factor_;
   ContentWidget* content_;
-  PaneWidget* pane_;
+  // Null while the pane is closed.
+  std::unique_ptr<PaneWidget> pane_;
   KeyRouter keys_;
   PressRouter presses_;
   QMenuBar* menu_bar_ = nullptr;

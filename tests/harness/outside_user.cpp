@@ -104,8 +104,10 @@ bool OutsideUser::IsSettled() {
   }
   std::vector<std::string> titles;
   std::optional<std::string> active;
+  width_ = 0;
   for (const WindowOnScreen& window : desktop_.WindowsOf(program_.id())) {
     titles.push_back(window.title);
+    width_ += window.width;
     if (window.active) active = window.title;
   }
   std::sort(titles.begin(), titles.end());
@@ -118,8 +120,11 @@ bool OutsideUser::IsSettled() {
 void OutsideUser::AwaitRest() {
   const std::vector<std::string> titles = frames_.titles;
   const std::string active = frames_.active_title;
+  const int width = width_;
   const bool settled = Await([&] { return !program_.Running() || (IsSettled() && IsSettled()); });
-  if (titles != frames_.titles || active != frames_.active_title) elements_.clear();
+  if (titles != frames_.titles || active != frames_.active_title || width != width_) {
+    elements_.clear();
+  }
   if (!settled) throw std::runtime_error("the windows do not settle: " + TellWindows());
 }
 

@@ -74,6 +74,8 @@ class OutsideUser final : public ScreenUser<Element> {
   // The windows as they were when the program had settled.
   Frames frames_;
   std::vector<Element> elements_;
+  // All windows together; it changes when a pane opens or closes.
+  int width_ = 0;
   std::chrono::steady_clock::time_point now_;
 };
 
