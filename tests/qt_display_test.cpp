@@ -236,6 +236,27 @@ TEST(QtDisplayTest, AKeyThatIsHeldDownOnTheSplashTypesNothing) {
   });
 }
 
+TEST(QtDisplayTest, TheSecondPressOfADoubleClickOnTheSplashIsIgnored) {
+  FromTheStart([](User& user) {
+    const auto press = [&](QEvent::Type type, const QPoint& at) {
+      QWidget* window = QApplication::activeWindow();
+      const QPoint on_screen = window->mapToGlobal(at);
+      QMouseEvent event(type, at, on_screen, Qt::LeftButton, Qt::LeftButton, {});
+      QCoreApplication::sendEvent(window->windowHandle(), &event);
+      QMouseEvent end(QEvent::MouseButtonRelease, at, on_screen, Qt::LeftButton, {}, {});
+      QCoreApplication::sendEvent(window->windowHandle(), &end);
+      user.LetTimePass(std::chrono::milliseconds(100));
+    };
+    press(QEvent::MouseButtonPress, {150, 100});
+    auto& slider = Named<QSlider>("r");
+    const QPoint middle = slider.mapTo(slider.window(), slider.rect().center());
+    press(QEvent::MouseButtonDblClick, middle);
+    EXPECT_EQ(FieldText(user, "r"), "");
+    press(QEvent::MouseButtonPress, middle);
+    EXPECT_NE(FieldText(user, "r"), "");
+  });
+}
+
 TEST(QtDisplayTest, TheButtonIgnoresKeys) {
   InControlWindow([](User& user) {
     auto& button = Named<QPushButton>("Info");
