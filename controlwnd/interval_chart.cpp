@@ -138,8 +138,11 @@ std::string LimitText(double limit) { return Format(limit, "+.000"); }
 class Painter {
  public:
   Painter(const std::optional<Calculation>& last, double width, double height)
-      : r_(ROf(last)), N_(NOf(last)), right_(width - 22), bottom_(height - 46) {
-    drawing_ = {width, height, kWhite, {}};
+      : r_(ROf(last)),
+        N_(NOf(last)),
+        right_(width - 22),
+        bottom_(height - 46),
+        drawing_{width, height, kWhite, {}} {
     drawing_.marks.reserve(64);
   }
 

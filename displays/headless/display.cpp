@@ -44,8 +44,8 @@ void HeadlessDisplay::LetTimePass(std::chrono::milliseconds time) {
 }
 
 HeadlessWindow& HeadlessDisplay::ActiveWindow() const {
-  if (HeadlessWindow* active = order_.Active()) return *active;
-  throw InvalidArgumentException("No window has the keys.");
+  if (order_.Active() == nullptr) throw InvalidArgumentException("No window is active.");
+  return *order_.Active();
 }
 
 std::string HeadlessDisplay::ClipboardText() {

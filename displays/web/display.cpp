@@ -85,7 +85,7 @@ void WebDisplay::ShowRoom() {
   constexpr double kEnlarged = 1.1;
   const double enlargement = page::TextEnlargement();
   const bool flows =
-      page::Width() < kNarrow || enlargement > kEnlarged || page::IsWorkedByFingers();
+      kNarrow > page::Width() || enlargement > kEnlarged || page::IsWorkedByFingers();
   page_.SetAttribute("class", flows ? "flow" : "designed");
   page_.SetStyle("--enlarged", ShortText(std::max(1.0, enlargement)));
 }

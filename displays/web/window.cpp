@@ -43,7 +43,6 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
   const Window::State& state = window.InitialState();
   frame_.SetAttribute("aria-label", NameOf(window));
   if (window.IsSplash()) frame_.SetAttribute("role", "dialog");
-  if (window.IsSplash()) frame_.SetAttribute("role", "dialog");
   if (!window.AccessibleDescription().empty()) {
     frame_.SetAttribute("aria-description", window.AccessibleDescription());
   }

@@ -148,8 +148,7 @@ void Window::SetFocus(const Ref<RectControl>& control) {
 bool Window::UserBeginsPress(bool repeat) {
   const Ref<Window> self = Self(this);
   if (!Continues(Gestures().pressed, self, repeat)) return false;
-  Runtime& runtime = Runtime::Current();
-  entered_by_press_ = runtime.ActiveWindow() != self;
+  entered_by_press_ = Runtime::Current().ActiveWindow() != self;
   UserActivated();
   return true;
 }
