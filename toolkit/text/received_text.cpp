@@ -47,7 +47,7 @@ char AsciiDigit(std::int64_t code) {
   if (code == kArabicDecimalSeparator) return '.';
   const auto* const above = std::upper_bound(std::begin(kZeros), std::end(kZeros), code);
   const std::int64_t value = code - *(above - 1);
-  return value < 10 ? static_cast<char>('0' + value) : 0;
+  return value < 10 ? static_cast<char>('0' + value) : '\0';
 }
 
 char PlainSpace(std::int64_t code) {
