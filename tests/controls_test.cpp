@@ -1,7 +1,6 @@
 // The toolkit's rules for sliders, buttons and timers.
 #include <gtest/gtest.h>
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -106,19 +105,6 @@ TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   EXPECT_EQ(fired_after(1ms), 1U);
   window->Close();
   EXPECT_EQ(fired_after(1000ms), 0U);
-}
-
-TEST(StretchedTest, ASideThatIsNotLockedMovesWithTheOppositeSide) {
-  const Bounds designed{10, 20, 30, 40};
-  const auto stretched = [&](bool left, bool right) {
-    const Bounds box = Stretched(designed, {left, left, right, right}, 5, -50);
-    return std::array{box.left, box.width, box.top, box.height};
-  };
-  using Box = std::array<std::int64_t, 4>;
-  EXPECT_EQ(stretched(true, true), (Box{10, 35, 20, 0}));
-  EXPECT_EQ(stretched(true, false), (Box{10, 30, 20, 40}));
-  EXPECT_EQ(stretched(false, true), (Box{15, 30, -30, 40}));
-  EXPECT_EQ(stretched(false, false), (Box{10, 30, 20, 40}));
 }
 
 TEST(LabelTest, ATextStandsOutOfItsBoxBeforeItIsNarrowed) {

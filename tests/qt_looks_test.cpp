@@ -19,16 +19,11 @@
 #include <algorithm>
 #include <cstdlib>
 #include <string>
-#include <utility>
 
 #include "controlwnd/interval_chart.h"
 #include "displays/qt/painting.h"
 #include "journeys/journey_steps.h"
 #include "qt_steps.h"
-#include "toolkit/control/label.h"
-#include "toolkit/control/properties.h"
-#include "toolkit/object/property_stream.h"
-#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -258,65 +253,6 @@ TEST(QtLooksTest, TheWindowGrowsByTheChartAndStaysOnItsScreen) {
     user.PressKey(f9);
     EXPECT_EQ(control.frameGeometry().width(), small.availableGeometry().width());
     EXPECT_TRUE(small.availableGeometry().contains(control.frameGeometry()));
-  });
-}
-
-// A window that the user can resize, with one control locked to all sides.
-class ElasticWindow : public Window {
- public:
-  void Layout() override {
-    _SetProperties(*this, EncodedStream<640>()
-                              .Set(property::kWidth, 300)
-                              .Set(property::kHeight, 200)
-                              .Set(property::kMinimumWidth, 64)
-                              .Set(property::kResizeable, true));
-  }
-  bool Event_MouseDown(std::int64_t x, std::int64_t y) override {
-    pressed = {x, y};
-    return false;
-  }
-  std::pair<std::int64_t, std::int64_t> pressed;
-  void CreateControls() override {
-    _AddControl("label", __New<Label>());
-    _SetProperties(*ControlNamed<Label>("label"), EncodedStream<640>()
-                                                      .Set(property::kTop, 180)
-                                                      .Set(property::kWidth, 298)
-                                                      .Set(property::kHeight, 15)
-                                                      .Set(property::kLockLeft, true)
-                                                      .Set(property::kLockTop, true)
-                                                      .Set(property::kLockRight, true)
-                                                      .Set(property::kLockBottom, true));
-  }
-};
-
-TEST(QtLooksTest, AWindowThatIsResizedStretchesItsControls) {
-  InControlWindow([](User& user) {
-    MakeWindowsLarger(user, 4);
-    const Ref<ElasticWindow> elastic = New<ElasticWindow>();
-    elastic->Constructor();
-    user.LetTimePass(std::chrono::milliseconds(0));
-    QWidget& window = *QApplication::activeWindow();
-    EXPECT_EQ(window.size(), QSize(600, 400));
-    window.resize(720, 500);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(window.findChild<QLabel*>()->geometry(), QRect(0, 360, 716, 130));
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(100, 50));
-    EXPECT_EQ(elastic->pressed, std::pair(std::int64_t{50}, std::int64_t{25}));
-    user.PressKey(Key::Command("0"));
-    EXPECT_EQ(window.size(), QSize(360, 250));
-    EXPECT_EQ(window.findChild<QLabel*>()->geometry(), QRect(0, 180, 358, 65));
-    window.resize(10, 250);
-    EXPECT_EQ(window.width(), 64);
-    elastic->Close();
-  });
-}
-
-TEST(QtLooksTest, TheSplashHasOneSizeAndAName) {
-  RunProgram([](User&) {
-    const QWidget& window = *QApplication::activeWindow();
-    EXPECT_EQ(window.minimumSize(), QSize(300, 200));
-    EXPECT_EQ(window.maximumSize(), QSize(300, 200));
-    EXPECT_EQ(window.windowTitle(), "Vamo") << "for lists of windows";
   });
 }
 

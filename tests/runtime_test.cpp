@@ -110,7 +110,7 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   add(picture, &Picture::Image);
   add(window, &Window::Close, &Window::Constructor, &Window::Controls, &Window::Hide, &Window::Show,
       &Window::IsLive, &Window::MenuHandlers, &Window::MenuBar, &Window::InitialState,
-      &Window::ListedTitle, &Window::IsSplash, &Window::IsReading, &Window::CanBeResized,
+      &Window::ListedTitle, &Window::IsSplash, &Window::IsReading,
       &Window::Visible, &Window::WhereToShow, &Window::Focus, &Window::UserActivated,
       &Window::UserDeactivated);
   add(item, &MenuItem::Name, &MenuItem::Value, &MenuItem::Shortcut, &MenuItem::AutoEnabled,

@@ -34,19 +34,14 @@ struct Bounds {
   std::int64_t height = 0;
 };
 
-// Whether each side of a control keeps its distance from that side of the window when the window is
-// resized.
+// Which sides of a control keep their distance from that side of a window that is resized. No window
+// can be.
 struct Locks {
   bool left = false;
   bool top = false;
   bool right = false;
   bool bottom = false;
 };
-
-// Returns the bounds of a control that is designed for `bounds` when its window has grown by
-// `wider` and `taller`. A control locked on both sides stretches, but never to less than 0; one
-// locked only at the right or bottom moves; any other stays.
-Bounds Stretched(const Bounds& bounds, const Locks& locks, std::int64_t wider, std::int64_t taller);
 
 }  // namespace vamo
 

@@ -12,11 +12,11 @@ namespace {
 
 // Both ends are rounded to whole pixels, so that controls that touch by design do so at every
 // factor.
-Bounds ScaledBounds(const Bounds& bounds, double factor) {
-  const std::int64_t left = Scaled(bounds.left, factor);
-  const std::int64_t top = Scaled(bounds.top, factor);
-  return {left, top, Scaled(bounds.left + bounds.width, factor) - left,
-          Scaled(bounds.top + bounds.height, factor) - top};
+QRect ScaledBox(const Bounds& bounds, double factor) {
+  const QPoint begin(Scaled(bounds.left, factor), Scaled(bounds.top, factor));
+  const QPoint end(Scaled(bounds.left + bounds.width, factor),
+                   Scaled(bounds.top + bounds.height, factor));
+  return {begin, QSize(end.x() - begin.x(), end.y() - begin.y())};
 }
 
 }  // namespace
@@ -56,24 +56,13 @@ QWidget* ContentWidget::Find(const RectControl* control) const {
 
 void ContentWidget::Place(ControlWidget& widget) {
   const RectControl* control = widget.Control();
-  const Window* window = window_.ShownWindow();
-  if (control == nullptr || window == nullptr) return;
-  const double factor = window_.Factor();
-  const Window::State& designed = window->InitialState();
-  const Bounds box = Stretched(ScaledBounds(control->Bounds(), factor), control->Locks(),
-                               width() - Scaled(designed.width, factor),
-                               height() - Scaled(designed.height, factor));
-  widget.SetBox({ToInt(box.left), ToInt(box.top), ToInt(box.width), ToInt(box.height)});
+  if (control != nullptr) widget.SetBox(ScaledBox(control->Bounds(), window_.Factor()));
 }
 
 void ContentWidget::mousePressEvent(QMouseEvent* event) {
   event->accept();
   const QPoint at = (event->position() / window_.Factor()).toPoint();
   if (Window* window = window_.ShownWindow()) window->UserPressedMouse(at.x(), at.y());
-}
-
-void ContentWidget::resizeEvent(QResizeEvent* /*event*/) {
-  for (ControlWidget* widget : controls_) Place(*widget);
 }
 
 void ContentWidget::paintEvent(QPaintEvent* /*event*/) {

@@ -25,7 +25,6 @@ class ContentWidget : public QWidget {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

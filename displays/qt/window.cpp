@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QWindow>
-#include <algorithm>
 #include <chrono>
 #include <utility>
 #include <vector>
@@ -32,14 +31,7 @@ Qt::WindowFlags Flags(const Window& window) {
       Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
   flags.setFlag(Qt::WindowCloseButtonHint, state.has_close_button);
   flags.setFlag(Qt::WindowMinimizeButtonHint, state.has_minimize_button);
-  // A window of a fixed size cannot be maximised.
-  flags.setFlag(Qt::WindowMaximizeButtonHint, state.has_maximize_button && window.CanBeResized());
   return flags;
-}
-
-int Maximum(std::int64_t length, int extra) {
-  if (length <= 0) return QWIDGETSIZE_MAX;
-  return std::min(ToInt(length), QWIDGETSIZE_MAX - extra) + extra;
 }
 
 // How long a window manager may take to draw its frame. Qt does not report when it has.
@@ -52,7 +44,6 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
       window_(&window),
       activation_(activation),
       zoom_(zoom),
-      factor_(zoom.Factor()),
       content_(new ContentWidget(*this)),
       keys_(*this),
       presses_(*this, activation) {
@@ -64,7 +55,7 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
   layout->setSpacing(0);
   layout->addWidget(content_);
   AddMenuBar();
-  SetSizes(DesignedSize());
+  SetSize();
   settle_.setSingleShot(true);
   connect(&settle_, &QTimer::timeout, this, [this] { Settle(); });
 }
@@ -79,33 +70,16 @@ void WindowWidget::AddMenuBar() {
   layout()->setMenuBar(menu_bar_);
 }
 
-QSize WindowWidget::DesignedSize() const {
+void WindowWidget::SetSize() {
   const Window::State& state = window_->InitialState();
-  return {Scaled(state.width, Factor()), Scaled(state.height, Factor())};
-}
-
-void WindowWidget::SetSizes(const QSize& content) {
-  if (!window_->CanBeResized()) {
-    content_->setFixedSize(content);
-    layout()->setSizeConstraint(QLayout::SetFixedSize);
-    layout()->activate();
-    return;
-  }
-  const Window::State& state = window_->InitialState();
-  const auto scaled = [this](std::int64_t length) { return Scaled(length, Factor()); };
-  const bool bar_above = menu_bar_ != nullptr && !kOneMenuBarOnScreen;
-  const int bar = bar_above ? menu_bar_->heightForWidth(content.width()) : 0;
-  content_->setMinimumSize(scaled(state.minimum_width), scaled(state.minimum_height));
+  content_->setFixedSize(Scaled(state.width, Factor()), Scaled(state.height, Factor()));
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
   layout()->activate();
-  setMaximumSize(Maximum(scaled(state.maximum_width), 0),
-                 Maximum(scaled(state.maximum_height), bar));
-  resize(content.width(), content.height() + bar);
 }
 
 void WindowWidget::Rescale() {
   if (window_ == nullptr) return;
-  const double change = Factor() / std::exchange(factor_, Factor());
-  SetSizes(window_->CanBeResized() ? content_->size() * change : DesignedSize());
+  SetSize();
   content_->Rescale();
   if (pane_ != nullptr) pane_->Refresh();
 }

@@ -62,8 +62,7 @@ class WindowWidget : public QWidget {
 
  private:
   void AddMenuBar();
-  QSize DesignedSize() const;
-  void SetSizes(const QSize& content);
+  void SetSize();
   void Map(bool activate);
   // Moves the keyboard focus to where the toolkit has it, unless a menu is open.
   void RestoreFocus();
@@ -75,7 +74,6 @@ class WindowWidget : public QWidget {
   Activation& activation_;
   Zoom& zoom_;
   // The factor for which the sizes are set.
-  double factor_;
   ContentWidget* content_;
   // Null while the pane is closed.
   std::unique_ptr<PaneWidget> pane_;

@@ -141,9 +141,6 @@ class Window : public Object {
   std::string ListedTitle() const;
   bool IsSplash() const { return Trapped(state_.type == WindowType::kSplash); }
   bool IsReading() const { return Trapped(state_.type == WindowType::kReading); }
-  // A splash has a fixed size, whatever its state says: a tiling window manager would otherwise
-  // fill the screen with it.
-  bool CanBeResized() const { return Trapped(state_.resizeable && !IsSplash()); }
   bool Visible() const { return Trapped(visible_); }
 
   // Where a display puts the window when it shows it, as far as it can.
