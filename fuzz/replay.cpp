@@ -1,18 +1,17 @@
 // Runs the target on stored or random inputs, in order and without the fuzzer.
 //
-// Usage: replay_user FILE-OR-FOLDER...     runs each file, and each file of each folder
+// Usage: replay_user FILE...               runs these inputs
 //        replay_user --random SEED COUNT   runs COUNT random inputs, one per seed from SEED on
 //
 // Before each input it prints the arguments that replay this input alone, so the last line names
 // the input that ended the process.
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <random>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,8 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr std::size_t kRandomBytes = 4096;
 
 // The vector has exactly the size of the input, so that the sanitizers see a read past its end.
@@ -30,18 +27,11 @@ void Run(const std::vector<char>& input) {
   LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
 }
 
-bool RunFile(const fs::path& file) {
-  std::cout << file.string() << std::endl;
+bool RunFile(const char* file) {
+  std::cout << file << std::endl;
   std::ifstream stream(file, std::ios::binary);
-  if (!stream) return false;
-  Run({std::istreambuf_iterator<char>(stream), {}});
-  return true;
-}
-
-bool RunFilesOf(const fs::path& path) {
-  if (!fs::is_directory(path)) return RunFile(path);
-  const std::vector<fs::path> files(fs::directory_iterator(path), {});
-  return !files.empty() && std::all_of(files.begin(), files.end(), RunFile);
+  if (stream) Run({std::istreambuf_iterator<char>(stream), {}});
+  return bool(stream);
 }
 
 // Uses the generator without a distribution: its numbers are the same with every compiler.
@@ -53,23 +43,16 @@ void RunRandom(std::uint64_t seed) {
   Run(input);
 }
 
-bool RunRandomFrom(const char* seed, const char* count) {
-  constexpr int kDecimal = 10;
-  const std::uint64_t first = std::strtoull(seed, nullptr, kDecimal);
-  const std::uint64_t inputs = std::strtoull(count, nullptr, kDecimal);
-  for (std::uint64_t i = 0; i < inputs; ++i) RunRandom(first + i);
-  return inputs > 0;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-  const bool random = argc == 4 && arguments[0] == "--random";
-  if (random ? RunRandomFrom(argv[2], argv[3])
-             : argc > 1 && std::all_of(arguments.begin(), arguments.end(), RunFilesOf)) {
+  if (argc == 4 && std::string_view(argv[1]) == "--random") {
+    const std::uint64_t seed = std::stoull(argv[2]);
+    const std::uint64_t count = std::stoull(argv[3]);
+    for (std::uint64_t i = 0; i < count; ++i) RunRandom(seed + i);
     return 0;
   }
+  if (argc > 1 && std::all_of(argv + 1, argv + argc, RunFile)) return 0;
   std::cerr << "no input, or one that cannot be read\n";
   return 1;
 }

@@ -19,10 +19,6 @@
 #include "controlwnd/control_wnd.h"
 #include "journeys/journey_steps.h"
 #include "qt_steps.h"
-#include "toolkit/control/properties.h"
-#include "toolkit/object/property_stream.h"
-#include "toolkit/text/text_field.h"
-#include "toolkit/window/window.h"
 
 namespace vamo {
 namespace {
@@ -96,32 +92,6 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
     // However a position gets into the widget, the program learns of it.
     Named<QSlider>("r").setValue(7);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".070");
-  });
-}
-
-// A window with the focus in a field, which any key closes.
-class FleetingWindow : public Window {
- public:
-  void Layout() override {
-    _SetProperties(*this,
-                   EncodedStream<640>().Set(property::kWidth, 200).Set(property::kHeight, 100));
-  }
-  void CreateControls() override { _AddControl("field", __New<TextField>()); }
-  bool Event_KeyDown(std::string /*key*/) override {
-    Close();
-    return false;
-  }
-};
-
-TEST(QtDisplayTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
-  InControlWindow([](User& user) {
-    New<FleetingWindow>()->Constructor();
-    user.LetTimePass(std::chrono::milliseconds(0));
-    EXPECT_EQ(user.Windows().size(), 2U);
-    EXPECT_EQ(user.Focused().role, Role::kText);
-    EXPECT_EQ(user.Focused().name, "") << "that of its own field";
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F5);
-    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
   });
 }
 

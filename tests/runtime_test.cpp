@@ -45,49 +45,39 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   const auto area = New<TextArea>();
   const auto picture = New<Picture>(nullptr);
   std::vector<std::function<void()>> operations{
-      [&] { label->SetText("x"); },
-      [&] { label->SetVisible(false); },
-      [&] { label->SetEnabled(false); },
-      [&] { label->SetTabStop(false); },
-      [&] { label->_SetIndex(1); },
       [&] { label->_SetWindow(window); },
-      [&] { label->SetAccessibleName("x"); },
-      [&] { label->SetAccessibleDescription("x"); },
       [&] { label->SetLabelledBy(label); },
-      [&] { field->SetText("x"); },
       [&] { field->UserSelected(0, 0); },
-      [&] { slider->SetPositionsPerUnit(1); },
-      [&] { slider->InUnits(1); },
-      [&] { slider->UserMovedTo(1); },
-      [&] { canvas->SetBackdrop(nullptr); },
       [&] { _SetProperties(*label, EncodedStream<8>()); },
       [&] { AddHandler(slider->ValueChanged, &*window, &TestWindow::Hear); },
       [&] { window->__New<Label>(); },
       [&] { window->_AddControl("x", label); },
       [&] { window->ParentOf(*label); },
       [&] { window->KeyThatPresses(*label); },
-      [&] { window->SetFocus(label); },
-      [&] { window->UserFocused(label); },
-      [&] { window->UserClicked(label); },
-      [&] { window->_ControlByName("field"); },
       [&] { window->_AddMenuHandler("x", MenuHandler()); },
-      [&] { window->SetMenuBar(nullptr); },
       [&] { app->_AddMenuHandler("x", MenuHandler()); },
-      [&] { app->SetMenuBar(nullptr); },
-      [&] { item->SetName("x"); },
-      [&] { item->SetValue("x"); },
-      [&] { item->SetShortcut("x"); },
-      [&] { item->SetAutoEnabled(false); },
-      [&] { item->SetEnabled(false); },
-      [&] { item->SetVisible(false); },
-      [&] { item->SetChecked(true); },
       [&] { item->AddMenu(child); },
-      [&] { item->Child("x"); },
-      [&] { item->_Lookup("x"); },
       [&] { Picture::_OpenFromApp("ChartSmall.jpg"); },
   };
+  const auto with = [&](const auto& value, const auto& object, auto... setters) {
+    (operations.push_back([=] { ((*object).*setters)(value); }), ...);
+  };
+  with("x", label, &Label::SetText, &Label::SetAccessibleName, &Label::SetAccessibleDescription);
+  with("x", item, &MenuItem::SetName, &MenuItem::SetValue, &MenuItem::SetShortcut, &MenuItem::Child,
+       &MenuItem::_Lookup);
+  with("x", field, &TextField::SetText);
+  with("x", window, &Window::_ControlByName);
+  with(false, label, &Label::SetVisible, &Label::SetEnabled, &Label::SetTabStop);
+  with(false, item, &MenuItem::SetAutoEnabled, &MenuItem::SetEnabled, &MenuItem::SetVisible,
+       &MenuItem::SetChecked);
+  with(1, slider, &Slider::SetPositionsPerUnit, &Slider::InUnits, &Slider::UserMovedTo);
+  with(1, label, &Label::_SetIndex);
+  with(label, window, &Window::SetFocus, &Window::UserFocused, &Window::UserClicked);
+  with(nullptr, window, &Window::SetMenuBar);
+  with(nullptr, app, &Application::SetMenuBar);
+  with(nullptr, canvas, &Canvas::SetBackdrop);
   const auto add = [&](const auto& object, auto... getters) {
-    (operations.push_back([&object, getters] { ((*object).*getters)(); }), ...);
+    (operations.push_back([=] { ((*object).*getters)(); }), ...);
   };
   add(label, &Label::Name, &Label::Window, &Label::_Index, &Label::Bounds, &Label::Locks,
       &Label::InitialParent, &Label::Visible, &Label::Enabled, &Label::Tooltip, &Label::TabIndex,
@@ -110,9 +100,8 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   add(picture, &Picture::Image);
   add(window, &Window::Close, &Window::Constructor, &Window::Controls, &Window::Hide, &Window::Show,
       &Window::IsLive, &Window::MenuHandlers, &Window::MenuBar, &Window::InitialState,
-      &Window::ListedTitle, &Window::IsSplash, &Window::IsReading,
-      &Window::Visible, &Window::WhereToShow, &Window::Focus, &Window::UserActivated,
-      &Window::UserDeactivated);
+      &Window::ListedTitle, &Window::IsSplash, &Window::IsReading, &Window::Visible,
+      &Window::WhereToShow, &Window::Focus, &Window::UserActivated, &Window::UserDeactivated);
   add(item, &MenuItem::Name, &MenuItem::Value, &MenuItem::Shortcut, &MenuItem::AutoEnabled,
       &MenuItem::Enabled, &MenuItem::Visible, &MenuItem::Checked, &MenuItem::Children);
   const auto trapped = [](const std::function<void()>& operation) {

@@ -91,38 +91,35 @@ TEST(StartupTest, AFailingStepIsHandedOverOnceAndStillEndsInOrder) {
   }
 }
 
+std::vector<std::int64_t> positions;
+
 // A slider's handler that fails at one position.
-struct FailingHandler : Object {
-  explicit FailingHandler(std::function<void()> failure) : fail(std::move(failure)) {}
-  void Take(Ref<Slider> slider) {
-    positions.push_back(slider->Value());
-    if (slider->Value() == 50) fail();
-  }
-  const std::function<void()> fail;
-  std::vector<std::int64_t> positions;
-};
+template <class Exception>
+void FailAt50(Ref<Slider> slider) {
+  positions.push_back(slider->Value());
+  if (slider->Value() == 50) throw Exception("made to fail");
+}
 
 TEST(StartupTest, AHandlerThatFailsInTheMiddleOfADragEndsTheProgramInOrder) {
   const struct {
-    std::function<void()> fail;
+    void (*handler)(Ref<Slider>);
     std::string said;
     Steps end;
   } kCases[] = {
-      {[] { throw OutOfBoundsException("made to fail"); },
+      {FailAt50<OutOfBoundsException>,
        "vamo: OutOfBoundsException: made to fail\n",
        {"RuntimePerformFinalizers", "RuntimeExit"}},
-      {[] { throw std::runtime_error("made to fail"); },
+      {FailAt50<std::runtime_error>,
        "vamo: made to fail\n",
        {"_UnhandledException", "RuntimePerformFinalizers", "RuntimeExit"}},
   };
-  for (const auto& [fail, said, end] : kCases) {
-    const auto handler = New<FailingHandler>(fail);
+  for (const auto& [handler, said, end] : kCases) {
+    positions.clear();
     std::vector<WeakRef<Window>> windows;
     const Outcome outcome = RunFailingAt("", [&](HeadlessUser& user) {
       user.PressKey(Key::Character("x"));
       for (const auto& window : Runtime::Current().LiveWindows()) windows.emplace_back(window);
-      ControlWnd()->rSlider()->ValueChanged =
-          Delegate<void(Ref<Slider>)>(handler, &FailingHandler::Take, ReceiverFlag::kStrong);
+      ControlWnd()->rSlider()->ValueChanged = Delegate<void(Ref<Slider>)>(handler);
       user.DragSlider("r", {12, 50, 37});
       EXPECT_FALSE(user.Display().Running());
       Quit(0);
@@ -130,7 +127,7 @@ TEST(StartupTest, AHandlerThatFailsInTheMiddleOfADragEndsTheProgramInOrder) {
     EXPECT_EQ(outcome.status, 1) << "the first exit status stands";
     EXPECT_EQ(outcome.said, said);
     EXPECT_EQ(outcome.steps, StepsUpTo("_RuntimeRun", end));
-    EXPECT_EQ(handler->positions, (std::vector<std::int64_t>{12, 50}));
+    EXPECT_EQ(positions, (std::vector<std::int64_t>{12, 50}));
     ASSERT_EQ(windows.size(), 2U);
     EXPECT_FALSE(windows[0].Value() || windows[1].Value());
   }
@@ -173,20 +170,17 @@ TEST(StartupTest, AProcessGoesOnWhereThePlatformHasTheLoop) {
   }
 }
 
-// Runs tests inside the started program.
-class ProgramTest : public testing::Test {
- protected:
-  static void InProgram(const std::function<void(HeadlessUser&)>& act) {
-    bool completed = false;
-    Main(std::make_unique<HeadlessDisplay>([&](HeadlessUser& user) {
-      act(user);
-      completed = true;
-    }));
-    EXPECT_TRUE(completed);
-  }
-};
+// Runs a test inside the started program.
+void InProgram(const std::function<void(HeadlessUser&)>& act) {
+  bool completed = false;
+  Main(std::make_unique<HeadlessDisplay>([&](HeadlessUser& user) {
+    act(user);
+    completed = true;
+  }));
+  EXPECT_TRUE(completed);
+}
 
-TEST_F(ProgramTest, TheApplicationCarriesItsVersionAndTheBar) {
+TEST(ProgramTest, TheApplicationCarriesItsVersionAndTheBar) {
   InProgram([](HeadlessUser&) {
     const auto app = App();
     EXPECT_EQ((std::vector{app->MajorVersion(), app->MinorVersion(), app->BugVersion(),
@@ -203,7 +197,7 @@ TEST_F(ProgramTest, TheApplicationCarriesItsVersionAndTheBar) {
   });
 }
 
-TEST_F(ProgramTest, TheMenuTreeStands) {
+TEST(ProgramTest, TheMenuTreeStands) {
   InProgram([](HeadlessUser&) {
     std::string tree;
     for (const auto& menu : Menu()->Children()) {
@@ -230,7 +224,7 @@ TEST_F(ProgramTest, TheMenuTreeStands) {
   });
 }
 
-TEST_F(ProgramTest, ClassesTellTheEventsThatTheyImplement) {
+TEST(ProgramTest, ClassesTellTheEventsThatTheyImplement) {
   InProgram([](HeadlessUser&) {
     const auto implemented = [](const auto& object) {
       std::string events;
@@ -251,7 +245,7 @@ TEST_F(ProgramTest, ClassesTellTheEventsThatTheyImplement) {
   });
 }
 
-TEST_F(ProgramTest, EachHandlerPassesItsEventOn) {
+TEST(ProgramTest, EachHandlerPassesItsEventOn) {
   InProgram([](HeadlessUser&) {
     const auto window = ControlWnd();
     for (const auto* handlers : {&window->MenuHandlers(), &App()->MenuHandlers()}) {
@@ -264,7 +258,7 @@ TEST_F(ProgramTest, EachHandlerPassesItsEventOn) {
   });
 }
 
-TEST_F(ProgramTest, TheSplashGoesThroughItsStates) {
+TEST(ProgramTest, TheSplashGoesThroughItsStates) {
   InProgram([](HeadlessUser& user) {
     const auto about = AboutWnd();
     user.LetTimePass(3999ms);
@@ -292,7 +286,7 @@ TEST_F(ProgramTest, TheSplashGoesThroughItsStates) {
   InProgram([](HeadlessUser& user) {
     user.SwitchAway();
     user.LetTimePass(4000ms);
-    EXPECT_EQ(user.Windows(), std::vector<std::string>{"Vamo"});
+    EXPECT_EQ(user.Windows(), Steps{"Vamo"});
     EXPECT_EQ(user.ActiveTitle(), "") << "the user types into another program";
   });
   InProgram([](HeadlessUser& user) {
@@ -306,7 +300,7 @@ TEST_F(ProgramTest, TheSplashGoesThroughItsStates) {
   });
 }
 
-TEST_F(ProgramTest, TheFileTypesAreRegistered) {
+TEST(ProgramTest, TheFileTypesAreRegistered) {
   InProgram([](HeadlessUser&) {
     const auto& types = FileTypes::AllFileTypes();
     ASSERT_EQ(types.size(), 2U);

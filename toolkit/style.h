@@ -34,8 +34,8 @@ struct Bounds {
   std::int64_t height = 0;
 };
 
-// Which sides of a control keep their distance from that side of a window that is resized. No window
-// can be.
+// Which sides of a control keep their distance from that side of a window that is resized. No
+// window can be.
 struct Locks {
   bool left = false;
   bool top = false;

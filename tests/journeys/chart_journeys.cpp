@@ -1,7 +1,6 @@
 // A user's journeys with the chart. They run on every display.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -18,12 +17,6 @@ constexpr const char* kOf370 =
 std::string Chart(User& user) {
   const ShownControl chart = user.Sees(Role::kChart, "Chart");
   return chart.visible ? chart.description : "";
-}
-
-// Whether a screen reader has spoken the sentence since the last call.
-bool Heard(User& user, const std::string& sentence) {
-  const std::vector<std::string> heard = user.Hears();
-  return std::find(heard.begin(), heard.end(), sentence) != heard.end();
 }
 
 TEST(ChartJourney, TheMenuAndAKeyOpenItAndItFollowsTheResults) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
+
 namespace vamo {
 
 Key Arrow(KeyCode code, bool shift) { return {code, "", shift, false}; }
@@ -17,11 +20,21 @@ std::string FieldText(User& user, std::string_view name) {
 
 bool Warned(User& user) { return user.SeesDescribed("range of N").visible; }
 
+bool Heard(User& user, const std::string& sentence) {
+  const std::vector<std::string> heard = user.Hears();
+  return std::find(heard.begin(), heard.end(), sentence) != heard.end();
+}
+
 void Retype(User& user, std::string_view field, std::string_view text) {
   user.Click(Role::kText, field);
   user.PressKey(Key::Command("a"));
   user.PressKey(Key::Character(std::string(1, kBackspace)));
   user.Type(text);
+}
+
+void PasteOver(User& user, std::string_view field, std::string_view text) {
+  Retype(user, field, "");
+  user.Paste(text);
 }
 
 int FromTheStart(const std::function<void(User&)>& journey) {

@@ -20,9 +20,13 @@ Key Arrow(KeyCode code, bool shift = false);
 std::string ResultLine(User& user);
 std::string FieldText(User& user, std::string_view name);
 bool Warned(User& user);
+// Whether a screen reader has spoken the sentence since the last call.
+bool Heard(User& user, const std::string& sentence);
 
 // Focuses a field, empties it and types into it.
 void Retype(User& user, std::string_view field, std::string_view text);
+// The same with a paste.
+void PasteOver(User& user, std::string_view field, std::string_view text);
 
 // Runs a journey from the start. A journey that ends early, because something is not on the screen,
 // has failed. This function and the next return the program's exit status.
