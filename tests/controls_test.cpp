@@ -28,28 +28,6 @@ TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
   EXPECT_EQ(log->entries, (std::vector<std::string>{"3", "100", "0"}));
 }
 
-// Removes itself from the event that called it, and continues.
-struct Fleeting : Object {
-  void Hear(Ref<Slider> slider) {
-    slider->ValueChanged = {};
-    heard = slider->Value();
-  }
-  ~Fleeting() override { gone_with = heard; }
-  std::int64_t heard = 0;
-  static inline std::int64_t gone_with = 0;
-};
-
-TEST(SliderTest, AHandlerCanRemoveItself) {
-  TestProgram program;
-  const auto slider = New<Slider>();
-  slider->ValueChanged =
-      Delegate<void(Ref<Slider>)>(New<Fleeting>(), &Fleeting::Hear, ReceiverFlag::kStrong);
-  slider->UserMovedTo(7);
-  EXPECT_EQ(Fleeting::gone_with, 7) << "it was destroyed before it returned";
-  slider->UserMovedTo(8);
-  EXPECT_EQ(Fleeting::gone_with, 7);
-}
-
 TEST(SliderTest, StepsOfAnySizeEndAtTheEnds) {
   TestProgram program;
   const auto slider = New<Slider>();
@@ -123,17 +101,6 @@ TEST(LabelTest, ATextStandsOutOfItsBoxBeforeItIsNarrowed) {
     EXPECT_EQ(fitted.left, left) << width;
     EXPECT_EQ(fitted.scale, scale) << width;
   }
-}
-
-TEST(TimerTest, TheWrapperDoesNotKeepItsWindow) {
-  TestProgram program;
-  auto window = ImplicitInstance<TestWindow>();
-  const auto wrapper = window->ControlNamed<_wrapper_Timer1>("timer");
-  EXPECT_TRUE(wrapper->Window() == window);
-  window->Close();
-  window = nullptr;
-  EXPECT_FALSE(wrapper->Window());
-  EXPECT_FALSE(New<_wrapper_Timer1>()->Window());
 }
 
 }  // namespace

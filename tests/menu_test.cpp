@@ -93,14 +93,6 @@ TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {
   EXPECT_EQ(program_.display().Clipboard(), "te");
 }
 
-TEST_F(MenuTest, AnItemOfASubmenuIsEnabledAsAnyOther) {
-  const auto item = New<MenuItem>();
-  item->SetAutoEnabled(false);
-  bar_->_Lookup("Own")->AddMenu(item);
-  EnableMenuItems();
-  EXPECT_FALSE(item->Enabled());
-}
-
 TEST_F(MenuTest, WhatIsInvisibleIsNotDrawn) {
   EXPECT_FALSE(program_.user().CanChoose("Edit/Own"));
   bar_->_Lookup("Own")->SetVisible(false);

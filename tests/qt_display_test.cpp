@@ -1,19 +1,8 @@
 // What only the Qt display has: input methods, drops, assistive technology.
 #include <gtest/gtest.h>
 
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QDropEvent>
-#include <QImage>
-#include <QInputMethodEvent>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMimeData>
-#include <QPushButton>
-#include <QSlider>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <set>
 
 #include "controlwnd/control_wnd.h"

@@ -4,18 +4,8 @@
 // VAMO_RENEW_PICTURES=1 in the environment stores new pictures.
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QFontInfo>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPainter>
-#include <QPushButton>
-#include <QScreen>
-#include <QSlider>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <algorithm>
 #include <cstdlib>
 #include <string>

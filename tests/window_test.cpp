@@ -36,19 +36,6 @@ TEST(WindowTest, TheImplicitInstanceIsTheOneLiveWindow) {
   EXPECT_FALSE(ImplicitInstance<TestWindow>() == window);
 }
 
-TEST(WindowTest, AWindowThatOutlivesTheRunTimeHasNothingOnTheDisplay) {
-  Ref<TestWindow> held;
-  TestProgram outer;
-  {
-    TestProgram program;
-    held = ImplicitInstance<TestWindow>();
-  }
-  EXPECT_FALSE(held->IsLive());
-  held->Hide();
-  held->field()->SetText("nobody shows it");
-  EXPECT_EQ(&Runtime::Current(), &outer.runtime()) << "the former run time is the current one";
-}
-
 TEST(WindowTest, AWindowThatItsOwnKeyClosesIsNotUsedAfterwards) {
   TestProgram program;
   for (const char* text : {"x", "several"}) {
