@@ -34,6 +34,36 @@ apt_get() {
   fi
 }
 
+# Commands that run in the background, each with its output in a file of the folder `outputs`.
+jobs=()
+outputs=''
+start() {
+  [[ -n $outputs ]] || outputs=$(mktemp -d)
+  "$@" >"$outputs/${#jobs[@]}" 2>&1 &
+  jobs+=("$!")
+}
+
+# Prints the outputs in the order in which the commands were started, and fails if one of them failed.
+wait_for_jobs() {
+  local number status=0
+  for number in "${!jobs[@]}"; do
+    wait "${jobs[number]}" || status=$?
+    cat "$outputs/$number"
+  done
+  jobs=()
+  return "$status"
+}
+
+# Ends them before their time, when the script fails.
+end_jobs() {
+  local job
+  for job in "${jobs[@]}"; do
+    kill "$job" 2>/dev/null || continue
+    wait "$job" || true
+  done
+  [[ -z $outputs ]] || rm -rf -- "$outputs"
+}
+
 # Switches assistive technology on or off (true, false) for programs that start later.
 switch_assistive_technology() {
   dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
