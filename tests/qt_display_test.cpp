@@ -77,7 +77,9 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".990");
     auto* other = QAccessible::queryAccessibleInterface(&Named<QSlider>("N"));
     other->valueInterface()->setCurrentValue(30);
-    EXPECT_EQ(user.Sees(Role::kText, "N").text, "30");
+    other->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    user.PressKey(Arrow(KeyCode::kRight));
+    EXPECT_EQ(user.Sees(Role::kText, "N").text, "31");
     // However a position gets into the widget, the program learns of it.
     Named<QSlider>("r").setValue(7);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".070");

@@ -36,8 +36,7 @@ void ControlWidget::ShowCommonState() {
 }
 
 void ControlWidget::ReportFocus(Qt::FocusReason reason) {
-  const bool users = reason == Qt::MouseFocusReason || reason == Qt::OtherFocusReason;
-  if (!users || !IsUsersDoing()) return;
+  if (reason != Qt::OtherFocusReason || !IsUsersDoing()) return;
   if (const Ref<Window> window = control_->Window()) window->UserFocused(Self(control_));
 }
 

@@ -38,7 +38,8 @@ class ControlWidget {
   double Factor() const { return factor_; }
   // Whether the current change is the user's.
   bool IsUsersDoing() const { return control_ != nullptr && !refreshing_; }
-  // Call this when the widget has received the focus: reports it if the user has moved it here.
+  // Call this when the widget has received the focus: reports it if assistive technology has moved
+  // it here. PressRouter reports the presses.
   void ReportFocus(Qt::FocusReason reason);
 
  private:

@@ -12,7 +12,6 @@ namespace vamo {
 AreaWidget::AreaWidget(TextArea& area, QWidget& parent) : WidgetFor(area, parent) {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   const auto report_selection = [this] {
