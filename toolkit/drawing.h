@@ -42,6 +42,7 @@ struct Drawing {
     bool operator==(const Polyline&) const = default;
   };
 
+  // Lines cover its edges, so a display may draw them without antialiasing.
   struct Polygon {
     std::vector<Point> points;
     Colour fill;

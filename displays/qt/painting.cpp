@@ -16,6 +16,17 @@
 namespace vamo {
 namespace {
 
+// The picture of a mark that takes long to paint. Most of these marks are the same from one
+// painting to the next, so the pictures are kept.
+template <class Make>
+QPixmap Kept(const QString& key, const Make& make) {
+  QPixmap picture;
+  if (QPixmapCache::find(key, &picture)) return picture;
+  picture = make();
+  QPixmapCache::insert(key, picture);
+  return picture;
+}
+
 // Paints one mark after the other, in pixels of the device.
 class MarkPainter {
  public:
@@ -24,10 +35,14 @@ class MarkPainter {
 
   void operator()(const Drawing::Line& line) const;
   void operator()(const Drawing::Polyline& line) const;
+  // Lines cover the edges of a polygon, so these need not be smooth, which would take four times as
+  // long.
   void operator()(const Drawing::Polygon& polygon) const {
+    painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(ToQColor(polygon.fill));
     painter_.drawPolygon(ToQPolygon(polygon.points));
+    painter_.setRenderHint(QPainter::Antialiasing);
   }
   void operator()(const Drawing::Dot& dot) const {
     painter_.setPen(QPen(ground_, dot.rim * scale_));
@@ -45,6 +60,7 @@ class MarkPainter {
     return polygon;
   }
   QPolygonF Ribbon(const Drawing::Polyline& line) const;
+  void DrawDashed(const Drawing::Polyline& line) const;
   QPixmap PictureOf(const Drawing::Text& text, int margin) const;
   // The distance of the baseline from the upper edge of a text's picture.
   double BaseIn(const Drawing::Text& text, int margin) const {
@@ -106,19 +122,39 @@ QPolygonF MarkPainter::Ribbon(const Drawing::Polyline& line) const {
 }
 
 void MarkPainter::operator()(const Drawing::Polyline& line) const {
-  if (line.pen.gap > 0) {
-    painter_.setPen(ToQPen(line.pen));
-    painter_.setBrush(Qt::NoBrush);
-    painter_.drawPolyline(ToQPolygon(line.points));
-  } else {
-    painter_.setPen(Qt::NoPen);
-    painter_.setBrush(ToQColor(line.pen.colour));
-    painter_.drawPolygon(Ribbon(line), Qt::WindingFill);
-  }
+  if (line.pen.gap > 0) return DrawDashed(line);
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(ToQColor(line.pen.colour));
+  painter_.drawPolygon(Ribbon(line), Qt::WindingFill);
 }
 
-// Halos take long to paint, so texts are cached as pictures: most are the same from one painting to
-// the next.
+void MarkPainter::DrawDashed(const Drawing::Polyline& line) const {
+  const QPolygonF points = ToQPolygon(line.points);
+  const QPen pen = ToQPen(line.pen);
+  const int margin = static_cast<int>(std::ceil(pen.widthF()));
+  const QRect box =
+      points.boundingRect().toAlignedRect().adjusted(-margin, -margin, margin, margin);
+  const auto bytes = reinterpret_cast<const char*>(points.constData());
+  const QString key =
+      QStringLiteral("vamo-%1-%2-%3-%4-")
+          .arg(pen.color().rgb())
+          .arg(pen.widthF())
+          .arg(line.pen.dash)
+          .arg(line.pen.gap) +
+      QString::fromLatin1(bytes, points.size() * static_cast<qsizetype>(sizeof(QPointF)));
+  const QPixmap picture = Kept(key, [&] {
+    QPixmap made(box.size());
+    made.fill(Qt::transparent);
+    QPainter painter(&made);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-box.topLeft());
+    painter.setPen(pen);
+    painter.drawPolyline(points);
+    return made;
+  });
+  painter_.drawPixmap(box.topLeft(), picture);
+}
+
 void MarkPainter::operator()(const Drawing::Text& text) const {
   const int margin = static_cast<int>(std::ceil(Drawing::Text::kHalo * scale_));
   const QString key = QStringLiteral("vamo-%1-%2-%3-%4-%5")
@@ -127,11 +163,7 @@ void MarkPainter::operator()(const Drawing::Text& text) const {
                           .arg(text.bold)
                           .arg(ToQColor(text.colour).rgb())
                           .arg(ground_.rgb());
-  QPixmap picture;
-  if (!QPixmapCache::find(key, &picture)) {
-    picture = PictureOf(text, margin);
-    QPixmapCache::insert(key, picture);
-  }
+  const QPixmap picture = Kept(key, [&] { return PictureOf(text, margin); });
   double left = text.base.x * scale_ - margin;
   const double width = picture.width() - 2 * margin;
   if (text.alignment == TextAlignment::kCentre) left -= width / 2;
