@@ -110,6 +110,8 @@ mergeInto(LibraryManager.library, {
       Page.elements[0] = document.getElementById('vamo');
       // A saved copy of the page still has the windows that were open.
       Page.elements[0].textContent = '';
+      // For the style sheet.
+      if (window.parent !== window) document.documentElement.className = 'framed';
       Page.probe = document.getElementById('probe');
       Page.listen();
     },

@@ -123,7 +123,7 @@ TEST_F(PageTest, TheChartIsBesideOrBelowTheControlsAndPrintsOnTheSamePage) {
         "return [chart.left >= controls.right - 1, chart.top >= controls.bottom - 1,"
         "  chart.right + scrollX <= page.scrollWidth, chart.bottom + scrollY <= page.scrollHeight,"
         "  chart.width >= 260];");
-    EXPECT_EQ(places, json::array({width > 400, width < 400, true, true, true}));
+    EXPECT_EQ(places, json::array({width > 700, width < 700, true, true, true}));
     EXPECT_EQ(browser().Run("return document.querySelector('.pane table').rows[2].innerText;"),
               "30\t+.011 to +.644\t.04416");
     const json sheets = browser().DoOwn("Page.printToPDF", json::object()).at("data");
