@@ -42,7 +42,7 @@ endfunction()
 # vamo_library(name SOURCES cpp... [LINKS library...])
 #
 # A static library of the current folder. Headers are included by their path from the project's root
-# ("stats/interval.h"); tests/includes.cmake says which folders a library may include from.
+# ("stats/interval.h"); cmake/Includes.cmake says which folders a library may include from.
 function(vamo_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})

@@ -1,4 +1,4 @@
-# Fails if a folder includes from one that it must not depend on. Usage: cmake -D ROOT=folder -P includes.cmake
+# Fails if a folder includes from one that it must not depend on. Usage: cmake -D ROOT=folder -P Includes.cmake
 set(toolkit "toolkit/[a-z0-9_]+\\.h")
 set(toolkit/object "${toolkit}|toolkit/object/")
 set(toolkit/runtime "${toolkit/object}|toolkit/runtime/")
