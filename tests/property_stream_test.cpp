@@ -83,30 +83,23 @@ TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
 }
 
 TEST(StreamReaderTest, ABrokenStreamRaisesAnExceptionAndKeepsWhatWasSet) {
-  struct Case {
-    std::string entries, named, offset;
-  };
   const std::string top = "Top \x07\0\0\0\0\0\0\0"s;
-  const Case kCases[] = {
-      {top + "Nonsense \x01"s, "\"Nonsense\"", "offset 12"},
-      {top + "Left \x01\0\0"s, "\"Left\"", "offset 12"},
-      {top + "Tooltip \xFF\xFF\xFF\xFF"s, "\"Tooltip\"", "offset 12"},
-      {top + "Visib"s, "\"Visib\"", "offset 12"},
-      {"Visible ", "\"Visible\"", "offset 0"},
-  };
   TestProgram program;
-  for (const Case& test : kCases) {
+  for (const auto& [entries, place] :
+       {std::pair{top + "Nonsense \x01"s, "\"Nonsense\" at offset 12"},
+        {top + "Left \x01\0\0"s, "\"Left\" at offset 12"},
+        {top + "Tooltip \xFF\xFF\xFF\xFF"s, "\"Tooltip\" at offset 12"},
+        {top + "Visib"s, "\"Visib\" at offset 12"},
+        {"Visible "s, "\"Visible\" at offset 0"}}) {
     const auto label = New<Label>();
-    std::string stream(1, '\xFF');
-    (stream += test.entries) += '\0';
+    const std::string stream = "\xFF" + entries + '\0';
     try {
       _SetProperties(*label, {stream.data(), stream.size() - 2});
-      ADD_FAILURE() << test.named;
+      ADD_FAILURE() << place;
     } catch (const InvalidArgumentException& exception) {
-      EXPECT_NE(exception.Message().find(test.named), std::string::npos) << exception.Message();
-      EXPECT_NE(exception.Message().find(test.offset), std::string::npos) << exception.Message();
+      EXPECT_NE(exception.Message().find(place), std::string::npos) << exception.Message();
     }
-    EXPECT_EQ(label->Bounds().top, test.offset == "offset 0" ? 0 : 7);
+    EXPECT_EQ(label->Bounds().top, entries[0] == 'T' ? 7 : 0);
   }
 }
 
