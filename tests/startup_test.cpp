@@ -116,7 +116,7 @@ TEST(StartupTest, AHandlerThatFailsInTheMiddleOfADragEndsTheProgramInOrder) {
   for (const auto& [handler, said, end] : kCases) {
     positions.clear();
     std::vector<WeakRef<Window>> windows;
-    const Outcome outcome = RunFailingAt("", [&](HeadlessUser& user) {
+    const Outcome outcome = RunFailingAt("", [&, handler = handler](HeadlessUser& user) {
       user.PressKey(Key::Character("x"));
       for (const auto& window : Runtime::Current().LiveWindows()) windows.emplace_back(window);
       ControlWnd()->rSlider()->ValueChanged = Delegate<void(Ref<Slider>)>(handler);
