@@ -24,7 +24,7 @@ class WebTimer : public RunningTimer {
 WebDisplay::WebDisplay(std::function<void()> ended,
                        std::function<void(std::string_view link)> linked)
     : ended_(std::move(ended)), linked_(std::move(linked)), announcement_(page_, "div") {
-  announcement_.SetAttribute("class", "announcement");
+  announcement_.SetAttribute("class", "unseen");
   announcement_.SetAttribute("role", "status");
   page::SetOwner(this);
   ShowRoom();

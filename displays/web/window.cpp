@@ -75,7 +75,7 @@ WebWindow::~WebWindow() {
 // For screen reader users, who go from heading to heading.
 void WebWindow::MakeHiddenHeading() {
   title_bar_.push_back(std::make_unique<PageElement>(frame_, "h1"));
-  title_bar_.back()->SetAttribute("class", "announcement");
+  title_bar_.back()->SetAttribute("class", "unseen");
   title_bar_.back()->SetText(NameOf(window_));
 }
 
