@@ -82,6 +82,7 @@ void WindowWidget::Rescale() {
   SetSize();
   content_->Rescale();
   if (pane_ != nullptr) pane_->Refresh();
+  layout()->activate();
 }
 
 QSize WindowWidget::SizeAt(double factor) const {
