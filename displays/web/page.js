@@ -291,6 +291,8 @@ mergeInto(LibraryManager.library, {
     }
   },
   page_come_into_view: function (number) {
+    // This also scrolls a page that has this one in a frame.
+    if (!Page.used && window.parent !== window) return;
     Page.elements[number].scrollIntoView({ block: 'nearest', inline: 'nearest' });
   },
   page_has_focus: function (number) {

@@ -131,6 +131,8 @@ void WebWindow::Show(bool /*activate*/) {
   frame_.SetFlag("hidden", false);
   display_.Order().Show(*this);
   display_.ActivateLater();
+  // The page may be scrolled to the chart.
+  if (close_button_ != nullptr) close_button_->ComeIntoView();
 }
 
 void WebWindow::Hide() {
