@@ -149,7 +149,9 @@ TEST(QtLooksTest, TheChartsLookAsInTheirKeptPictures) {
       int left = 0;
       for (const Calculation& last : {Calculation{.37, 30}, {.06, 1000}, {.37, 2}}) {
         QImage chart(QSize(420, 425) * factor, QImage::Format_RGB32);
-        Paint(DrawIntervalChart(last, 420, 425), factor, chart);
+        chart.setDevicePixelRatio(factor);
+        Paint(DrawIntervalChart(last, 420, 425), 1, chart);
+        chart.setDevicePixelRatio(1);
         painter.drawImage(left, 0, chart);
         left += chart.width();
       }

@@ -202,7 +202,7 @@ TEST_F(TextFieldTest, ADigitAfterACommaAfterZerosTakesTheirPlace) {
                                    {"0,<5", ".05"},
                                    {"0<,5", ".05"},
                                    {"0,x5", ".05"},
-                                   {"0,0\b5", ".5"}}) {
+                                   {"00,\b5", ".05"}}) {
     EXPECT_EQ(typed(keys), text) << keys;
   }
   field_->KeyDown = Delegate<bool(Ref<TextField>, std::string)>(

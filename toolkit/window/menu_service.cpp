@@ -20,13 +20,6 @@ TextEdit* FocusedTextControl() {
   return dynamic_cast<TextEdit*>(&*window->Focus());
 }
 
-void EnableBelow(const MenuItem& menu) {
-  for (const Ref<MenuItem>& item : menu.Children()) {
-    item->SetEnabled(item->AutoEnabled());
-    EnableBelow(*item);
-  }
-}
-
 bool CallHandler(const MenuHandlers& handlers, const std::string& name) {
   const auto found = handlers.find(name);
   return found != handlers.end() && found->second.Invoke();
@@ -104,7 +97,9 @@ void EnableMenuItems() {
   EnableViewItems();
   const Ref<MenuBar> bar = ActiveMenuBar();
   if (!bar) return;
-  for (const Ref<MenuItem>& menu : bar->Children()) EnableBelow(*menu);
+  for (const Ref<MenuItem>& menu : bar->Children()) {
+    for (const Ref<MenuItem>& item : menu->Children()) item->SetEnabled(item->AutoEnabled());
+  }
   const Ref<Application> app = Runtime::Current().App();
   if (app) app->Event_EnableMenuItems();
   const Ref<Window> window = Runtime::Current().ActiveWindow();
