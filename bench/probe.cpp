@@ -56,8 +56,8 @@ QSlider* SliderTo(const QWidget& window, int maximum) {
 }
 
 void SendMouse(QSlider& slider, QEvent::Type type, int position) {
-  const QPoint at(KnobAt(position, slider.minimum(), slider.maximum(), slider.width()),
-                  slider.height() / 2);
+  const Scale scale{.least = 1.0 * slider.minimum(), .greatest = 1.0 * slider.maximum()};
+  const QPoint at(KnobAt(position, scale, slider.width()), slider.height() / 2);
   const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
   QMouseEvent event(type, at, slider.mapToGlobal(at), button, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&slider, &event);

@@ -9,13 +9,11 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
-#include <cmath>
 #include <map>
 #include <memory>
 
 #include "displays/qt/display.h"
 #include "journeys/journey_steps.h"
-#include "place.h"
 #include "screen_user.h"
 #include "shell/startup.h"
 
@@ -53,8 +51,7 @@ class QtElement {
   bool IsActive() const { return accessible_->state().active; }
   std::string Text() const {
     QAccessibleTextInterface* text = accessible_->textInterface();
-    if (text != nullptr) return text->text(0, text->characterCount()).toStdString();
-    return accessible_->valueInterface() != nullptr ? Told(QAccessible::Value) : Name();
+    return text != nullptr ? text->text(0, text->characterCount()).toStdString() : Name();
   }
   std::string SelectedText() const {
     int start = 0;
@@ -69,22 +66,20 @@ class QtElement {
     }
     return name;
   }
-  double Value() const { return ValueInterface().currentValue().toDouble(); }
-  double LeastValue() const { return ValueInterface().minimumValue().toDouble(); }
-  double GreatestValue() const { return ValueInterface().maximumValue().toDouble(); }
-  std::int64_t InSteps(double value) const {
-    return std::llround(value / ValueInterface().minimumStepSize().toDouble());
+  Scale ReadScale() const {
+    QAccessibleValueInterface& value = *accessible_->valueInterface();
+    return {value.currentValue().toDouble(), value.minimumValue().toDouble(),
+            value.maximumValue().toDouble(), value.minimumStepSize().toDouble()};
   }
   Place Extents() const {
     const QRect rect = accessible_->rect();
     return {rect.x(), rect.y(), rect.width(), rect.height()};
   }
   QWindow& Window() const { return *accessible_->window(); }
-  void Do(const QString& action) const { accessible_->actionInterface()->doAction(action); }
+  void Press() const { accessible_->actionInterface()->doAction("Press"); }
 
  private:
   std::string Told(QAccessible::Text which) const { return accessible_->text(which).toStdString(); }
-  QAccessibleValueInterface& ValueInterface() const { return *accessible_->valueInterface(); }
 
   QAccessibleInterface* accessible_;
 };

@@ -1,26 +1,19 @@
 // Reads what assistive technology sees of a program, through libatspi.
 #include "at_spi.h"
 
-#include <cmath>
-#include <sstream>
 #include <stdexcept>
 
 namespace vamo {
 namespace {
 
-struct UnrefAny {
-  void operator()(gpointer object) const { g_object_unref(object); }
-};
-struct Free {
-  void operator()(gpointer memory) const { g_free(memory); }
-};
-struct FreeArray {
-  void operator()(GArray* array) const { g_array_free(array, TRUE); }
+template <auto function>
+struct FreeWith {
+  void operator()(auto* owned) const { function(owned); }
 };
 template <typename T>
-using Held = std::unique_ptr<T, UnrefAny>;
+using Held = std::unique_ptr<T, FreeWith<g_object_unref>>;
 template <typename T>
-using Memory = std::unique_ptr<T, Free>;
+using Memory = std::unique_ptr<T, FreeWith<g_free>>;
 
 // Calls an AT-SPI function whose last argument receives the error. Throws the message of the error:
 // usually the element no longer exists, or the program does not answer.
@@ -40,19 +33,6 @@ template <typename Function, typename... Args>
 std::string CallForText(Function function, Args... args) {
   const Memory<gchar> text(Call(function, args...));
   return text ? text.get() : "";
-}
-
-std::string NumberText(double number) {
-  std::ostringstream text;
-  text << number;
-  return text.str();
-}
-
-template <typename Function>
-double Number(AtspiAccessible* accessible, Function function) {
-  const Held<AtspiValue> value(atspi_accessible_get_value_iface(accessible));
-  if (!value) throw std::runtime_error("it has no value");
-  return Call(function, value.get());
 }
 
 }  // namespace
@@ -84,11 +64,8 @@ bool Element::HasState(AtspiStateType state) const {
 }
 
 std::string Element::Text() const {
-  if (const Held<AtspiText> text{atspi_accessible_get_text_iface(Get())}) {
-    return CallForText(atspi_text_get_text, text.get(), 0, -1);
-  }
-  const bool has_value = Held<AtspiValue>(atspi_accessible_get_value_iface(Get())) != nullptr;
-  return has_value ? NumberText(Value()) : Name();
+  const Held<AtspiText> text(atspi_accessible_get_text_iface(Get()));
+  return text ? CallForText(atspi_text_get_text, text.get(), 0, -1) : Name();
 }
 
 std::string Element::SelectedText() const {
@@ -99,7 +76,7 @@ std::string Element::SelectedText() const {
 }
 
 std::string Element::LabelledBy() const {
-  const std::unique_ptr<GArray, FreeArray> relations(
+  const std::unique_ptr<GArray, FreeWith<g_array_unref>> relations(
       Call(atspi_accessible_get_relation_set, Get()));
   std::string name;
   for (guint i = 0; relations && i < relations->len; ++i) {
@@ -110,12 +87,13 @@ std::string Element::LabelledBy() const {
   return name;
 }
 
-double Element::Value() const { return Number(Get(), atspi_value_get_current_value); }
-double Element::LeastValue() const { return Number(Get(), atspi_value_get_minimum_value); }
-double Element::GreatestValue() const { return Number(Get(), atspi_value_get_maximum_value); }
-
-std::int64_t Element::InSteps(double value) const {
-  return std::llround(value / Number(Get(), atspi_value_get_minimum_increment));
+Scale Element::ReadScale() const {
+  const Held<AtspiValue> value(atspi_accessible_get_value_iface(Get()));
+  if (!value) throw std::runtime_error("it has no value");
+  return {Call(atspi_value_get_current_value, value.get()),
+          Call(atspi_value_get_minimum_value, value.get()),
+          Call(atspi_value_get_maximum_value, value.get()),
+          Call(atspi_value_get_minimum_increment, value.get())};
 }
 
 Place Element::Extents() const {
@@ -126,31 +104,26 @@ Place Element::Extents() const {
   return {rect->x, rect->y, rect->width, rect->height};
 }
 
-void Element::Do(std::string_view wanted) const {
+void Element::Press() const {
   const Held<AtspiAction> action(atspi_accessible_get_action_iface(Get()));
-  const int count = action ? Call(atspi_action_get_n_actions, action.get()) : 0;
-  for (int i = 0; i < count; ++i) {
-    if (CallForText(atspi_action_get_action_name, action.get(), i) != wanted) continue;
-    if (Call(atspi_action_do_action, action.get(), i)) return;
-    throw std::runtime_error("it refuses the action");
+  if (!action || CallForText(atspi_action_get_action_name, action.get(), 0) != "Press" ||
+      !Call(atspi_action_do_action, action.get(), 0)) {
+    throw std::runtime_error("it cannot be pressed");
   }
-  throw std::runtime_error("it has no such action");
 }
 
-unsigned Element::Process() const { return Call(atspi_accessible_get_process_id, Get()); }
+pid_t Element::Process() const {
+  return static_cast<pid_t>(atspi_accessible_get_process_id(Get(), nullptr));
+}
 
-std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted) {
+std::optional<Element> FindApplication(pid_t process) {
   AtspiAccessible* desktop = atspi_get_desktop(0);
   if (desktop == nullptr) throw std::runtime_error("there is no accessibility bus");
   // The library caches what it reads until its main loop delivers changes, and no test runs that
   // loop.
   atspi_accessible_clear_cache(desktop);
   for (const Element& application : Element(desktop).Children()) {
-    try {
-      if (wanted(application)) return application;
-    } catch (const std::runtime_error&) {
-      continue;
-    }
+    if (application.Process() == process) return application;
   }
   return std::nullopt;
 }

@@ -3,16 +3,15 @@
 #define VAMO_TESTS_HARNESS_AT_SPI_H_
 
 #include <atspi/atspi.h>
+#include <sys/types.h>
 
-#include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "place.h"
+#include "screen_user.h"
 
 namespace vamo {
 
@@ -31,23 +30,17 @@ class Element {
   bool IsEnabled() const { return HasState(ATSPI_STATE_ENABLED); }
   bool IsFocused() const { return HasState(ATSPI_STATE_FOCUSED); }
   bool IsActive() const { return HasState(ATSPI_STATE_ACTIVE); }
-  // The content as it is read out: the text of a field, the value of a slider, otherwise the name.
+  // The text of a field, otherwise the name.
   std::string Text() const;
   // Empty if nothing is selected or the element has no text.
   std::string SelectedText() const;
   // The name of the element's caption; empty if it has none.
   std::string LabelledBy() const;
-  // For an element with a value, such as a slider.
-  double Value() const;
-  double LeastValue() const;
-  double GreatestValue() const;
-  // Converts a value of the element to a number of steps.
-  std::int64_t InSteps(double value) const;
+  Scale ReadScale() const;
   Place Extents() const;
-  void Do(std::string_view action) const;
-
-  // The process id of the element's program.
-  unsigned Process() const;
+  void Press() const;
+  // The process id of the element's program; none if the program is starting or ending.
+  pid_t Process() const;
 
  private:
   AtspiAccessible* Get() const { return accessible_.get(); }
@@ -55,9 +48,8 @@ class Element {
   std::shared_ptr<AtspiAccessible> accessible_;
 };
 
-// The first program on the accessibility bus for which `wanted` is true. Skips programs that are
-// starting or ending. Throws if there is no bus.
-std::optional<Element> FindApplication(const std::function<bool(const Element&)>& wanted);
+// The program on the accessibility bus with that process id. Throws if there is no bus.
+std::optional<Element> FindApplication(pid_t process);
 
 }  // namespace vamo
 

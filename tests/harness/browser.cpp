@@ -1,11 +1,8 @@
 #include "browser.h"
 
+#include <gio/gio.h>
 #include <httplib.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
-#include <cstdint>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -23,16 +20,10 @@ constexpr char kElement[] = "element-6066-11e4-a52e-4f735466cecf";
 
 // A free port of this machine.
 int FreePort() {
-  const int probe = socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  socklen_t size = sizeof address;
-  const bool bound = bind(probe, reinterpret_cast<sockaddr*>(&address), size) == 0 &&
-                     getsockname(probe, reinterpret_cast<sockaddr*>(&address), &size) == 0;
-  close(probe);
-  if (!bound) throw std::runtime_error("no port is free");
-  return ntohs(address.sin_port);
+  GSocketListener* listener = g_socket_listener_new();
+  const int port = g_socket_listener_add_any_inet_port(listener, nullptr, nullptr);
+  g_object_unref(listener);
+  return port;
 }
 
 json Key(const char* type, const std::string& value) { return {{"type", type}, {"value", value}}; }
@@ -99,15 +90,11 @@ void Browser::PressKeys(const std::string& held, const std::string& last) {
 
 void Browser::MoveMouse(int x, int y) { Act(Pointer("mouse", json::array({MoveTo(x, y)}))); }
 
-void Browser::DragMouse(const std::vector<std::pair<int, int>>& points) { Drag("mouse", points); }
-
 void Browser::TurnWheel(int x, int y, int pixels) {
   const json scroll = {{"type", "scroll"}, {"x", x},           {"y", y},
                        {"deltaX", 0},      {"deltaY", pixels}, {"origin", "viewport"}};
   Act({{"type", "wheel"}, {"id", "wheel"}, {"actions", json::array({scroll})}});
 }
-
-void Browser::Swipe(const std::vector<std::pair<int, int>>& points) { Drag("touch", points); }
 
 void Browser::Drag(const char* pointer, const std::vector<std::pair<int, int>>& points) {
   json actions = json::array();
@@ -122,7 +109,7 @@ void Browser::Drag(const char* pointer, const std::vector<std::pair<int, int>>& 
 struct Chromium::Parts {
   int port = FreePort();
   TemporaryFolder profile;
-  Child driver{{"chromedriver", "--port=" + std::to_string(port), "--log-level=OFF"}, {}};
+  Child driver{{"chromedriver", "--port=" + std::to_string(port), "--log-level=OFF"}};
   httplib::Client connection{"127.0.0.1", port};
   std::string session;
 
@@ -150,10 +137,9 @@ Chromium::Chromium() : parts_(std::make_unique<Parts>()) {
     }
   };
   if (!Await(listens)) throw std::runtime_error("the driver of Chromium does not start");
-  const json arguments = {
-      "--headless=new",    "--no-sandbox",
-      "--disable-gpu",     "--window-size=1280,800",
-      "--hide-scrollbars", "--user-data-dir=" + parts_->profile.Path().string()};
+  const json arguments = {"--headless=new",    "--no-sandbox",
+                          "--disable-gpu",     "--window-size=1280,800",
+                          "--hide-scrollbars", "--user-data-dir=" + parts_->profile.Path()};
   const json wanted = {
       {"browserName", "chrome"},
       {"goog:loggingPrefs", {{"browser", "ALL"}}},

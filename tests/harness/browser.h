@@ -38,10 +38,10 @@ class Browser {
   void MoveMouse(int x, int y);
   // Presses the mouse button, moves through these points and releases it, in one command: between
   // two commands a browser ends the drag of a slider.
-  void DragMouse(const std::vector<std::pair<int, int>>& points);
-  void TurnWheel(int x, int y, int pixels);
+  void DragMouse(const std::vector<std::pair<int, int>>& points) { Drag("mouse", points); }
   // Touches with a finger, moves it through these points and lifts it.
-  void Swipe(const std::vector<std::pair<int, int>>& points);
+  void Swipe(const std::vector<std::pair<int, int>>& points) { Drag("touch", points); }
+  void TurnWheel(int x, int y, int pixels);
 
  protected:
   // A command in both protocols: WebDriver over HTTP, and Marionette.
@@ -88,19 +88,8 @@ class Chromium : public Browser {
   std::unique_ptr<Parts> parts_;
 };
 
-// Firefox, through its own protocol, Marionette (marionette.cpp).
-class Firefox : public Browser {
- public:
-  Firefox();
-  ~Firefox() override;
-
- private:
-  struct Parts;
-  nlohmann::json Do(const Command& command, const nlohmann::json& parameters,
-                    const std::string& element) override;
-
-  std::unique_ptr<Parts> parts_;
-};
+// Starts Firefox, which is operated through its own protocol, Marionette.
+std::unique_ptr<Browser> OpenFirefox();
 
 }  // namespace vamo
 

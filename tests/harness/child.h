@@ -5,9 +5,7 @@
 #include <sys/types.h>
 
 #include <chrono>
-#include <filesystem>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,40 +13,30 @@
 
 namespace vamo {
 
-using Environment = std::map<std::string, std::string>;
+// A program and its arguments. {"env", "NAME=value", "program"} adds to its environment.
+using CommandLine = std::vector<std::string>;
 
 // A child process. The destructor kills it.
 class Child {
  public:
-  // `settings` are added to the environment of this process.
-  Child(const std::vector<std::string>& command, const Environment& settings);
+  explicit Child(CommandLine command);
   ~Child();
   Child(const Child&) = delete;
   Child& operator=(const Child&) = delete;
 
   pid_t id() const { return id_; }
-  bool Running();
+  bool Running() { return !ExitStatus().has_value(); }
   // The exit status, or 256 plus the signal that ended the process; nothing while it runs.
   std::optional<int> ExitStatus();
 
  private:
-  pid_t id_;
+  pid_t id_ = 0;
   std::optional<int> status_;
 };
 
-// The result of a program that has ended.
-struct Ended {
-  // As from Child::ExitStatus.
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-// Runs a program with `input` as its standard input; kills it if it takes more than a minute.
-Ended RunToEnd(const std::vector<std::string>& command, std::string_view input = {},
-               const Environment& settings = {});
-// Runs a program and returns its standard output. Throws if it fails.
-std::string Output(const std::vector<std::string>& command, std::string_view input = {},
-                   const Environment& settings = {});
+// Runs a program with `input` as its standard input and returns its standard output. Throws if the
+// program fails or takes more than a minute.
+std::string Output(const CommandLine& command, std::string_view input = {});
 
 // A temporary folder. The destructor deletes it.
 class TemporaryFolder {
@@ -57,10 +45,10 @@ class TemporaryFolder {
   ~TemporaryFolder();
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::filesystem::path& Path() const { return path_; }
+  const std::string& Path() const { return path_; }
 
  private:
-  std::filesystem::path path_;
+  std::string path_;
 };
 
 // Asks until `so` returns true. Returns false if it does not within `patience`.

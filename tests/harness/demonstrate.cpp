@@ -1,5 +1,4 @@
 // Operates the program as a user does, prints what it shows, and takes a picture of it.
-#include <cstdlib>
 #include <iostream>
 #include <stdexcept>
 #include <string>
@@ -11,14 +10,16 @@ namespace vamo {
 namespace {
 
 void Show(User& user, std::string_view deed) {
-  const auto field = [&](std::string_view name) { return user.Sees(Role::kText, name).text; };
-  const std::string t = user.SeesDescribed("Student's t").text;
-  const std::string p = user.SeesDescribed("two-tailed p").text;
-  const std::string interval = user.SeesDescribed("95% confidence interval of r").text;
-  std::cout << deed << ":\n  r = " << field("r") << "   N = " << field("N") << "   t = " << t
-            << "   p = " << p << "   95% CI of r = " << interval
-            << "   Fisher's z = " << field("Fisher's z") << '\n';
-  if (t.empty() || p.empty() || interval.empty()) throw std::runtime_error("there is no result");
+  std::cout << deed << ":\n";
+  for (const char* field : {"r", "N", "Fisher's z"}) {
+    std::cout << "  " << field << " = " << user.Sees(Role::kText, field).text;
+  }
+  for (const char* result : {"Student's t", "two-tailed p", "95% confidence interval of r"}) {
+    const std::string text = user.SeesDescribed(result).text;
+    if (text.empty()) throw std::runtime_error("there is no result");
+    std::cout << "  " << result << " = " << text;
+  }
+  std::cout << '\n';
 }
 
 void Demonstrate(OutsideUser& user, const std::string& picture) {
@@ -43,17 +44,12 @@ void Demonstrate(OutsideUser& user, const std::string& picture) {
 }  // namespace vamo
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::cerr << "usage: demonstrate PROGRAM PICTURE\n";
-    return 2;
-  }
   try {
+    if (argc != 3) throw std::runtime_error("usage: demonstrate PROGRAM PICTURE");
     const auto demonstrate = [&](vamo::OutsideUser& user) { vamo::Demonstrate(user, argv[2]); };
-    const int status = vamo::RunProgramWith({}, demonstrate, {argv[1]});
-    if (status == 0) return EXIT_SUCCESS;
-    std::cerr << "demonstrate: the program ended with " << status << '\n';
+    return vamo::RunProgramWith(demonstrate, {argv[1]});
   } catch (const std::exception& e) {
     std::cerr << "demonstrate: " << e.what() << '\n';
+    return 1;
   }
-  return EXIT_FAILURE;
 }

@@ -30,8 +30,7 @@ struct WindowOnScreen {
   int frame_top = 0;
 };
 
-// Watches the windows and alerts of a desktop, and changes windows and clipboard as a user can. It
-// sends neither keys nor presses.
+// Watches the windows and alerts of a desktop, and operates what differs between X and Wayland.
 class Desktop {
  public:
   virtual ~Desktop() = default;
@@ -41,19 +40,18 @@ class Desktop {
   // Returns false if one of them does not answer within a second, or if the program ends.
   virtual bool RoundTrip(unsigned long window, const std::function<bool()>& runs) = 0;
   virtual void Activate(unsigned long window) = 0;
-  // Moves the window so that the upper left corner of its frame is at (x, y).
-  virtual void Move(unsigned long window, int x, int y) = 0;
-  // Offers a text as the selection "clipboard" or "primary", until another program offers one.
-  virtual void Offer(const std::string& selection, std::string_view text) = 0;
-  virtual std::string Offered(const std::string& selection) = 0;
+  // Offers a text in the clipboard, until another program offers one.
+  virtual void SetClipboard(std::string_view text) = 0;
+  virtual std::string Clipboard() = 0;
   // How often the bell has rung since the start; 0 on a platform without a bell.
   virtual int Bells() = 0;
-  virtual int Width() const = 0;
-  virtual int Height() const = 0;
 };
 
-// The desktop that the environment names. Throws if there is none.
-std::unique_ptr<Desktop> OpenDesktop();
+// Of an X server with a window manager that follows the EWMH. Throws if DISPLAY names no server.
+std::unique_ptr<Desktop> OpenXDesktop();
+// Of the compositor sway, whose only output is a window that covers an X screen: the compositor
+// passes the keys and mouse of the X server on to the Wayland programs.
+std::unique_ptr<Desktop> OpenWaylandDesktop();
 
 }  // namespace vamo
 

@@ -14,16 +14,21 @@ constexpr std::array kNews{"object:state-changed:showing", "object:announcement"
 
 }  // namespace
 
-Ears::Ears() : listener_(atspi_event_listener_new(Take, this, nullptr)) {
+Ears::Ears()
+    : listener_(atspi_event_listener_new(
+          [](AtspiEvent* event, void* ears) {
+            static_cast<Ears*>(ears)->Note(*event);
+            g_boxed_free(ATSPI_TYPE_EVENT, event);
+          },
+          this, nullptr)) {
   for (const char* news : kNews) {
     if (!atspi_event_listener_register(listener_, news, nullptr)) {
       throw std::runtime_error("the accessibility bus delivers no events");
     }
   }
   // Drops events of earlier programs.
-  Listen();
-  notices_.clear();
-  edits_.clear();
+  Notices();
+  Edits("");
 }
 
 Ears::~Ears() {
@@ -47,11 +52,6 @@ std::vector<std::string> Ears::Edits(std::string_view text) {
 
 void Ears::Listen() {
   while (g_main_context_iteration(nullptr, FALSE) != FALSE) continue;
-}
-
-void Ears::Take(AtspiEvent* event, void* ears) {
-  static_cast<Ears*>(ears)->Note(*event);
-  g_boxed_free(ATSPI_TYPE_EVENT, event);
 }
 
 void Ears::Note(const AtspiEvent& event) {

@@ -27,7 +27,6 @@ class Ears {
   std::vector<std::string> Edits(std::string_view text);
 
  private:
-  static void Take(AtspiEvent* event, void* ears);
   static void Listen();
   void Note(const AtspiEvent& event);
 

@@ -1,6 +1,10 @@
 // A user who knows only the running program.
 #include "outside_user.h"
 
+extern "C" {
+#include <xdo.h>
+}
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -9,8 +13,17 @@
 #include <thread>
 
 namespace vamo {
+namespace {
+
+// In microseconds.
+constexpr useconds_t kBetweenKeys = 12'000;
+constexpr useconds_t kBetweenLetters = 1000;
+constexpr useconds_t kBetweenClicks = 100'000;
+
+}  // namespace
+
 OutsideUser::OutsideUser(Child& program, Desktop& desktop, Ears& ears)
-    : program_(program), desktop_(desktop), ears_(ears) {
+    : program_(program), desktop_(desktop), xdo_(xdo_new(nullptr), xdo_free), ears_(ears) {
   const bool shown =
       Await([&] { return !desktop_.WindowsOf(program_.id()).empty() || !program_.Running(); },
             std::chrono::seconds(30));
@@ -19,20 +32,38 @@ OutsideUser::OutsideUser(Child& program, Desktop& desktop, Ears& ears)
   AwaitRest();
 }
 
+void OutsideUser::PressCombination(const std::string& keys) {
+  xdo_send_keysequence_window(xdo_.get(), CURRENTWINDOW, keys.c_str(), kBetweenKeys);
+}
+
+void OutsideUser::TypePrintable(std::string_view text) {
+  xdo_enter_text_window(xdo_.get(), CURRENTWINDOW, std::string(text).c_str(), kBetweenLetters);
+}
+
+void OutsideUser::PressMouse() { xdo_mouse_down(xdo_.get(), CURRENTWINDOW, 1); }
+void OutsideUser::ReleaseMouse() { xdo_mouse_up(xdo_.get(), CURRENTWINDOW, 1); }
+void OutsideUser::Scroll(int notches) { ClickButton(notches > 0 ? 4 : 5, std::abs(notches)); }
+
+void OutsideUser::ClickButton(int button, int times) {
+  xdo_click_window_multiple(xdo_.get(), CURRENTWINDOW, button, times, kBetweenClicks);
+}
+
 // Converts between the program's logical pixels and the screen's pixels, relative to the window: on
 // Wayland a program does not know the positions of its windows.
 void OutsideUser::MoveTo(int x, int y) {
   const Place content = Frame().Extents();
   const WindowOnScreen window = WindowTitled(ActiveTitle());
   const double scale = std::round(window.width / static_cast<double>(content.width));
-  hand_.MoveTo(window.x + static_cast<int>(scale * (x - content.x)),
-               window.y + static_cast<int>(scale * (y - content.y)));
+  xdo_move_mouse(xdo_.get(), window.x + static_cast<int>(scale * (x - content.x)),
+                 window.y + static_cast<int>(scale * (y - content.y)), 0);
 }
 
 void OutsideUser::PasteSelection(Role role, std::string_view name, std::string_view text) {
   Click(role, name);
-  desktop_.Offer("primary", text);
-  Act([this] { hand_.Click(2); });
+  Output({"xclip", "-i"}, text);
+  // xclip goes to the background before it owns the selection.
+  Await([&] { return Output({"xclip", "-o"}) == text; });
+  Act([this] { ClickButton(2); });
 }
 
 void OutsideUser::Close(std::string_view title) {
@@ -44,13 +75,14 @@ void OutsideUser::ClickCloseButton(std::string_view title) {
   const WindowOnScreen window = WindowTitled(title);
   // The button is at the right end of the title bar and as wide as the bar is high.
   const int half = window.frame_top / 2;
-  hand_.MoveTo(window.x + window.width + window.frame_right - half, window.y - half);
-  Act([this] { hand_.Click(1); });
+  xdo_move_mouse(xdo_.get(), window.x + window.width + window.frame_right - half, window.y - half,
+                 0);
+  Act([this] { ClickButton(1); });
 }
 
 void OutsideUser::MoveWindow(std::string_view title, int x, int y) {
   const unsigned long id = WindowTitled(title).id;
-  Act([&] { desktop_.Move(id, x, y); });
+  Act([&] { xdo_move_window(xdo_.get(), id, x, y); });
 }
 
 void OutsideUser::ActivateWindow(std::string_view title) {
@@ -77,12 +109,11 @@ WindowOnScreen OutsideUser::WindowTitled(std::string_view title) {
   FailToFind(title);
 }
 
+int OutsideUser::ScreenWidth() const { return XDisplayWidth(xdo_->xdpy, 0); }
+int OutsideUser::ScreenHeight() const { return XDisplayHeight(xdo_->xdpy, 0); }
+
 std::optional<Element> OutsideUser::Application() {
-  if (!application_.has_value()) {
-    application_ = FindApplication([&](const Element& candidate) {
-      return candidate.Process() == static_cast<unsigned>(program_.id());
-    });
-  }
+  if (!application_.has_value()) application_ = FindApplication(program_.id());
   return application_;
 }
 
@@ -129,6 +160,8 @@ void OutsideUser::AwaitRest() {
 }
 
 void OutsideUser::Settle() {
+  // The server has then received the act; the desktop finds out when the program has handled it.
+  XSync(xdo_->xdpy, False);
   AwaitRest();
   now_ = std::chrono::steady_clock::now();
 }
@@ -143,13 +176,13 @@ std::string OutsideUser::TellWindows() {
   return told;
 }
 
-int RunProgramWith(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
-                   const std::vector<std::string>& command) {
+int RunProgramWith(const std::function<void(OutsideUser&)>& journey, const CommandLine& command) {
   static const int initialised = atspi_init();
   if (initialised > 1) throw std::runtime_error("there is no accessibility bus");
-  const std::unique_ptr<Desktop> desktop = OpenDesktop();
+  const bool on_wayland = std::getenv("WAYLAND_DISPLAY") != nullptr;
+  const std::unique_ptr<Desktop> desktop = on_wayland ? OpenWaylandDesktop() : OpenXDesktop();
   Ears ears;
-  Child child(command, settings);
+  Child child(command);
   OutsideUser user(child, *desktop, ears);
   journey(user);
   return child.ExitStatus().value_or(kStillRunning);

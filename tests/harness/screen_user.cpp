@@ -36,11 +36,12 @@ std::string NameOf(const Key& key) {
   return (key.command || key.word ? "ctrl+" : "") + std::string(key.shift ? "shift+" : "") + name;
 }
 
-int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int width) {
+int KnobAt(std::int64_t position, const Scale& scale, int width) {
   // 15 of 450 pixels, and the same share at every zoom.
   const int knob = width / 30;
-  const auto offset = (position - least) * (width - knob) / (greatest - least);
-  return knob / 2 + static_cast<int>(offset);
+  const double share =
+      (static_cast<double>(position) * scale.step - scale.least) / (scale.greatest - scale.least);
+  return knob / 2 + static_cast<int>(std::lround(share * (width - knob)));
 }
 
 std::optional<Role> RoleNamed(std::string_view role_name) {

@@ -3,6 +3,7 @@
 #define VAMO_TESTS_HARNESS_SCREEN_USER_H_
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <optional>
@@ -12,15 +13,30 @@
 #include <vector>
 
 #include "displays/user.h"
-#include "place.h"
 
 namespace vamo {
+
+// The position and size of an element, in logical pixels of the program's window or of the page.
+struct Place {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+};
+
+// The value of a slider, its limits and the distance between two positions.
+struct Scale {
+  double value = 0;
+  double least = 0;
+  double greatest = 0;
+  double step = 1;
+};
 
 // The X name of a key without a printable character, or of a combination of keys, such as
 // "ctrl+shift+Left". Empty for a key that only types its character.
 std::string NameOf(const Key& key);
 // The distance from the left of a slider's box to the middle of its knob at a position.
-int KnobAt(std::int64_t position, std::int64_t least, std::int64_t greatest, int width);
+int KnobAt(std::int64_t position, const Scale& scale, int width);
 // The role with that name; nothing if it is not that of a text, slider, button or label.
 std::optional<Role> RoleNamed(std::string_view role_name);
 [[noreturn]] void FailToFind(std::string_view what);
@@ -63,17 +79,17 @@ class ScreenUser : public User {
     Act([&] { Scroll(static_cast<int>(notches)); });
   }
   void PressByAssistiveTechnology(std::string_view button) override {
-    Act([&] { Find(Role::kButton, button).Do("Press"); });
+    Act([&] { Find(Role::kButton, button).Press(); });
   }
   bool Choose(std::string_view path) override {
     const Element item = Open(path);
     const bool enabled = item.IsEnabled();
-    // A second press on the title of a menu closes it.
     ClickOn(enabled ? item : MenuTitle(path));
     return enabled;
   }
   bool CanChoose(std::string_view path) override {
     const bool enabled = Open(path).IsEnabled();
+    // A second press on the title of a menu closes it.
     ClickOn(MenuTitle(path));
     return enabled;
   }
@@ -81,40 +97,26 @@ class ScreenUser : public User {
   std::vector<std::string> Windows() override { return Look().titles; }
   std::string ActiveTitle() override { return Look().active_title; }
   ShownControl Sees(Role role, std::string_view name) override {
+    const std::optional<Element> found = FirstOf(role, name);
     // A closed chart may have no element.
-    return role == Role::kChart && !Has(role, name) ? ShownControl{} : Read(Find(role, name));
+    return role == Role::kChart && !found ? ShownControl{} : Read(Found(found, name));
   }
   ShownControl SeesDescribed(std::string_view description) override {
-    return Read(FindDescribed(description));
+    return Read(Found(
+        FirstWith([&](const Element& element) { return element.Description() == description; }),
+        description));
   }
   ShownControl Focused() override {
-    for (const Element& element : Elements()) {
-      if (RoleNamed(element.RoleName()) && element.IsFocused()) return Read(element);
-    }
-    return {};
+    const std::optional<Element> found = FirstWith([](const Element& element) {
+      return RoleNamed(element.RoleName()) && element.IsFocused();
+    });
+    return found ? Read(*found) : ShownControl{};
   }
 
   // The active window.
   Element Frame() { return Look().active.value(); }
-  bool Has(Role role, std::string_view name) {
-    const std::vector<Element> elements = Elements();
-    return std::any_of(elements.begin(), elements.end(), [&](const Element& element) {
-      return RoleNamed(element.RoleName()) == role && element.Name() == name;
-    });
-  }
-  // The element of the active window with that name or description.
-  Element Find(Role role, std::string_view name) {
-    for (const Element& element : Elements()) {
-      if (RoleNamed(element.RoleName()) == role && element.Name() == name) return element;
-    }
-    FailToFind(name);
-  }
-  Element FindDescribed(std::string_view description) {
-    for (const Element& element : Elements()) {
-      if (element.Description() == description) return element;
-    }
-    FailToFind(description);
-  }
+  // The element of the active window with that role and name.
+  Element Find(Role role, std::string_view name) { return Found(FirstOf(role, name), name); }
   // All elements of the active window, also hidden ones, except menus.
   virtual std::vector<Element> Elements() {
     std::vector<Element> all;
@@ -189,10 +191,27 @@ class ScreenUser : public User {
     shown.text = element.Text();
     if (shown.role == Role::kText) shown.selected_text = element.SelectedText();
     if (shown.role == Role::kSlider) {
-      shown.value = element.Value();
-      shown.position = element.InSteps(shown.value);
+      const Scale scale = element.ReadScale();
+      shown.value = scale.value;
+      shown.position = std::llround(scale.value / scale.step);
     }
     return shown;
+  }
+  static Element Found(const std::optional<Element>& element, std::string_view what) {
+    if (!element) FailToFind(what);
+    return *element;
+  }
+  template <class Condition>
+  std::optional<Element> FirstWith(const Condition& condition) {
+    for (const Element& element : Elements()) {
+      if (condition(element)) return element;
+    }
+    return std::nullopt;
+  }
+  std::optional<Element> FirstOf(Role role, std::string_view name) {
+    return FirstWith([&](const Element& element) {
+      return RoleNamed(element.RoleName()) == role && element.Name() == name;
+    });
   }
   static void Collect(const Element& parent, std::vector<Element>& all) {
     for (const Element& child : parent.Children()) {
@@ -217,9 +236,7 @@ class ScreenUser : public User {
   }
   void MoveKnob(const Element& slider, std::int64_t to) {
     const Place place = slider.Extents();
-    const int knob = KnobAt(to, slider.InSteps(slider.LeastValue()),
-                            slider.InSteps(slider.GreatestValue()), place.width);
-    MoveTo(place.x + knob, place.y + place.height / 2);
+    MoveTo(place.x + KnobAt(to, slider.ReadScale(), place.width), place.y + place.height / 2);
   }
   void Drag(std::string_view name, std::int64_t from, const std::vector<std::int64_t>& positions) {
     const Element slider = Find(Role::kSlider, name);
@@ -243,12 +260,7 @@ class ScreenUser : public User {
 
   Element MenuTitle(std::string_view path) {
     const std::string_view text = path.substr(0, path.find('/'));
-    const std::optional<Element> bar = FindBelow(Frame(), "menu bar", "");
-    if (!bar) FailToFind("menu bar");
-    for (const Element& title : bar->Children()) {
-      if (title.Name() == text) return title;
-    }
-    FailToFind(text);
+    return Found(FindBelow(Frame(), "menu item", text), text);
   }
   // Opens the menu of a path with the mouse and returns the item.
   Element Open(std::string_view path) {

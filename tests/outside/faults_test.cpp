@@ -5,27 +5,19 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
+#include <functional>
 #include <string>
+#include <utility>
 
-#include "desktop.h"
 #include "steps.h"
 
 namespace vamo {
 namespace {
 
-namespace fs = std::filesystem;
-
 void ExpectResultsAfterTyping(OutsideUser& user) {
   Retype(user, "N", "30");
   Retype(user, "r", ".5");
   EXPECT_EQ(ResultLine(user), "3.06 | .00490 | +.170 to +.729");
-}
-
-void AwaitEnd(OutsideUser& user) {
-  Await([&] { return !user.Running(); });
 }
 
 // Whether a window shows more than one colour in the area of its picture, 92 by 72 pixels.
@@ -35,134 +27,98 @@ bool ShowsPicture(const WindowOnScreen& window, int left, int top) {
                  "%k", "info:"}) != "1";
 }
 
-// A copy of the program with its own picture file.
-class Copy {
- public:
-  Copy() { fs::copy_file(ProgramPath(), Program()); }
-  fs::path Program() const { return folder_.Path() / "vamo"; }
-  fs::path Picture() const { return folder_.Path() / "ChartSmall.jpg"; }
-
- private:
-  const TemporaryFolder folder_;
-};
-
-void WritePicture(const Copy& copy, std::size_t length) {
-  std::ifstream whole(VAMO_CHART, std::ios::binary);
-  std::string bytes{std::istreambuf_iterator<char>(whole), {}};
-  ASSERT_GT(bytes.size(), length);
-  std::ofstream(copy.Picture(), std::ios::binary) << bytes.substr(0, length);
-}
-
 TEST(Faults, ABrokenPictureLeavesItsPlaceEmpty) {
-  struct Case {
-    const char* what;
-    std::function<void(const Copy&)> make;
-    bool shown;
-  };
-  const Case kCases[] = {
-      {"as it should be", [](const Copy& copy) { fs::copy_file(VAMO_CHART, copy.Picture()); },
-       true},
-      {"missing", [](const Copy&) {}, false},
-      {"empty", [](const Copy& copy) { WritePicture(copy, 0); }, false},
-      {"cut short", [](const Copy& copy) { WritePicture(copy, 6000); }, false},
-      {"a folder", [](const Copy& copy) { fs::create_directory(copy.Picture()); }, false},
-  };
-  for (const Case& test : kCases) {
-    SCOPED_TRACE(test.what);
-    const Copy copy;
-    test.make(copy);
-    const auto journey = [&](OutsideUser& user) {
+  for (const auto& [make_picture, shown] : {std::pair{"cp $0 $1", true},
+                                            {"true", false},
+                                            {"true >$1", false},
+                                            {"head -c 6000 $0 >$1", false},
+                                            {"mkdir $1", false}}) {
+    SCOPED_TRACE(make_picture);
+    // A program looks for the picture in its own folder.
+    const TemporaryFolder folder;
+    const std::string program = folder.Path() + "/vamo";
+    Output({"cp", ProgramPath(), program});
+    Output({"sh", "-c", make_picture, VAMO_CHART, folder.Path() + "/ChartSmall.jpg"});
+    const auto journey = [shown = shown](OutsideUser& user) {
       // The content is 425 high, below the menu bar.
       const WindowOnScreen window = user.WindowTitled("Vamo");
-      EXPECT_EQ(ShowsPicture(window, 9, window.height - 425 + 9), test.shown);
+      EXPECT_EQ(ShowsPicture(window, 9, window.height - 425 + 9), shown);
       ExpectResultsAfterTyping(user);
       user.Close("Vamo");
     };
-    EXPECT_EQ(InControlWindow({}, journey, {copy.Program()}), 0);
+    EXPECT_EQ(InControlWindow(journey, {program}), 0);
   }
 }
 
 TEST(Faults, AMessageOfQtWhileItReadsThePictureIsNoFault) {
-  FromTheStart({{"QT_LOGGING_RULES", "qt.core.library.debug=true"}}, [](OutsideUser& user) {
-    EXPECT_TRUE(ShowsPicture(user.WindowTitled(""), 104, 60));
-  });
-}
-
-TEST(Faults, WithoutADisplayOneLineSaysWhatToDo) {
-  const auto expect_line = [](const Environment& settings, const std::string& advice) {
-    const Ended ended = RunToEnd({ProgramPath()}, {}, settings);
-    EXPECT_EQ(ended.status, 1);
-    EXPECT_EQ(ended.err, "vamo: no display to connect to; " + advice + ".\n");
-  };
-  expect_line({{"DISPLAY", ""}}, "start it in a desktop session or set DISPLAY");
-  expect_line({{"DISPLAY", ":9999"}}, "start it in a desktop session or set DISPLAY");
-  expect_line({{"QT_QPA_PLATFORM", "nonsense"}}, "QT_QPA_PLATFORM may not fit this desktop");
-}
-
-TEST(Faults, OneLineSaysThatADisplayHasTooFewColours) {
-  const Ended ended =
-      RunToEnd({ProgramPath()}, {}, {{"DISPLAY", std::string(std::getenv("DISPLAY")) + ".1"}});
-  EXPECT_EQ(ended.status, 1);
-  EXPECT_EQ(ended.err, "vamo: the display has too few colours; it needs a depth of 15 bits.\n");
-}
-
-TEST(Faults, ABrokenConnectionToTheDisplayEndsTheProgram) {
   const auto journey = [](OutsideUser& user) {
-    Output({"xdotool", "windowkill", std::to_string(user.WindowTitled("Vamo").id)});
-    AwaitEnd(user);
+    EXPECT_TRUE(ShowsPicture(user.WindowTitled(""), 104, 60));
   };
-  EXPECT_EQ(InControlWindow({}, journey), 1);
+  FromTheStart(journey, {"env", "QT_LOGGING_RULES=qt.core.library.debug=true", ProgramPath()});
+}
+
+TEST(Faults, WithoutASuitableDisplayOneLineSaysWhatToDo) {
+  const std::string poor = std::string("DISPLAY=") + std::getenv("DISPLAY") + ".1";
+  const std::string start =
+      "no display to connect to; start it in a desktop session or set DISPLAY.";
+  for (const auto& [setting, line] :
+       {std::pair<std::string, std::string>{"DISPLAY=", start},
+        {"DISPLAY=:9999", start},
+        {"QT_QPA_PLATFORM=nonsense",
+         "no display to connect to; QT_QPA_PLATFORM may not fit this desktop."},
+        {poor, "the display has too few colours; it needs a depth of 15 bits."}}) {
+    EXPECT_EQ(Output({"sh", "-c", "env $0 $1 2>&1; echo $?", setting, ProgramPath()}),
+              "vamo: " + line + "\n1\n");
+  }
+}
+
+TEST(Faults, ItEndsWithItsDisplayAndWhenTheSystemAsksForIt) {
+  const auto status_after = [](const std::function<void(OutsideUser&)>& fault) {
+    return InControlWindow([&](OutsideUser& user) {
+      fault(user);
+      Await([&] { return !user.Running(); });
+    });
+  };
+  EXPECT_EQ(status_after([](OutsideUser& user) {
+              Output({"xdotool", "windowkill", std::to_string(user.WindowTitled("Vamo").id)});
+            }),
+            1);
+  EXPECT_EQ(status_after([](OutsideUser& user) { kill(user.Process(), SIGTERM); }), 256 + SIGTERM);
 }
 
 TEST(Faults, AClipboardWhoseOwnerHangsDoesNotDelayTheProgram) {
-  Child owner({"xclip", "-quiet", "-selection", "clipboard", "-i", VAMO_CHART}, {});
-  const auto offers = [] {
-    try {
-      return !OpenDesktop()->Offered("clipboard").empty();
-    } catch (const std::runtime_error&) {
-      return false;  // It does not offer it yet.
-    }
-  };
-  ASSERT_TRUE(Await(offers));
+  Child owner({"xclip", "-quiet", "-selection", "clipboard", "-i", VAMO_CHART});
+  Output({"sh", "-c", "until xclip -selection clipboard -o; do sleep .1; done"});
   kill(owner.id(), SIGSTOP);
-  InControlWindow({}, [](OutsideUser& user) {
+  InControlWindow([](OutsideUser& user) {
     ExpectResultsAfterTyping(user);
     user.Click(Role::kButton, "Info");
     EXPECT_EQ(user.ActiveTitle(), "Info");
   });
 }
 
-TEST(Faults, TheProgramEndsAtOnceWhenTheSystemAsksForIt) {
-  const auto journey = [](OutsideUser& user) {
-    ExpectResultsAfterTyping(user);
-    kill(user.Process(), SIGTERM);
-    AwaitEnd(user);
-  };
-  EXPECT_EQ(InControlWindow({}, journey), 256 + SIGTERM);
-}
-
 TEST(Faults, ClosedStandardStreamsAreNotReused) {
   const auto journey = [](OutsideUser& user) {
-    const fs::path files = "/proc/" + std::to_string(user.Process()) + "/fd";
+    const std::filesystem::path files = "/proc/" + std::to_string(user.Process()) + "/fd";
     for (const char* stream : {"0", "1", "2"}) {
-      EXPECT_EQ(fs::read_symlink(files / stream), "/dev/null") << stream;
+      EXPECT_EQ(std::filesystem::read_symlink(files / stream), "/dev/null") << stream;
     }
     ExpectResultsAfterTyping(user);
     user.Close("Vamo");
   };
-  const std::vector<std::string> without{"sh", "-c", "exec \"$0\" <&- >&- 2>&-", ProgramPath()};
-  EXPECT_EQ(InControlWindow({}, journey, without), 0);
+  const CommandLine without{"sh", "-c", "exec \"$0\" <&- >&- 2>&-", ProgramPath()};
+  EXPECT_EQ(InControlWindow(journey, without), 0);
 }
 
 TEST(Faults, TwoProgramsAtTheSameTimeKeepTheirOwnNumbers) {
-  InControlWindow({}, [](OutsideUser& first) {
+  InControlWindow([](OutsideUser& first) {
     ExpectResultsAfterTyping(first);
     const auto journey = [](OutsideUser& second) {
       EXPECT_EQ(FieldText(second, "r"), "");
       Retype(second, "r", ".9");
       second.Close("Vamo");
     };
-    EXPECT_EQ(InControlWindow({}, journey), 0);
+    EXPECT_EQ(InControlWindow(journey), 0);
     first.LetTimePass(std::chrono::milliseconds(0));
     first.ActivateWindow("Vamo");
     EXPECT_EQ(FieldText(first, "r") + FieldText(first, "N"), ".530");

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "journeys/journey_steps.h"
 #include "outside_user.h"
@@ -14,13 +13,13 @@ namespace vamo {
 // The path of the program: VAMO_PROGRAM in the environment, or else the program of this build.
 std::string ProgramPath();
 
-// Runs a journey from the start, with settings in the program's environment. A journey that ends
-// early has failed. This function and the next return the result of RunProgramWith.
-int FromTheStart(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
-                 const std::vector<std::string>& command = {ProgramPath()});
+// Runs a journey from the start. A journey that ends early has failed. This function and the next
+// return the result of RunProgramWith.
+int FromTheStart(const std::function<void(OutsideUser&)>& journey,
+                 const CommandLine& command = {ProgramPath()});
 // Runs a journey through the control window, after a key has dismissed the splash.
-int InControlWindow(const Environment& settings, const std::function<void(OutsideUser&)>& journey,
-                    const std::vector<std::string>& command = {ProgramPath()});
+int InControlWindow(const std::function<void(OutsideUser&)>& journey,
+                    const CommandLine& command = {ProgramPath()});
 
 }  // namespace vamo
 

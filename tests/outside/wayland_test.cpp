@@ -39,7 +39,7 @@ TEST(Wayland, TheProgramWorksAsOnAnXServer) {
     user.Close("Vamo");
     EXPECT_TRUE(Await([&] { return !user.Running(); }));
   };
-  EXPECT_EQ(InControlWindow({}, journey), 0);
+  EXPECT_EQ(InControlWindow(journey), 0);
 }
 
 }  // namespace

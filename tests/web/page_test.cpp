@@ -236,15 +236,15 @@ TEST_F(PageTest, SaysThatItHasEndedAndStartsAgain) {
 }
 
 TEST(FirefoxTest, TheMainJourney) {
-  Firefox browser;
-  PageUser user(browser, PageAddress());
+  const std::unique_ptr<Browser> browser = OpenFirefox();
+  PageUser user(*browser, PageAddress());
   user.PressKey(Key::Character("x"));
   Retype(user, "N", "30");
   Retype(user, "r", ".5");
   EXPECT_EQ(ResultLine(user), "3.06 | .00490 | +.170 to +.729");
   user.DragSlider("r", {37});
   EXPECT_EQ(ResultLine(user), "2.11 | .04416 | +.011 to +.644");
-  EXPECT_EQ(browser.Run("return document.querySelector('[type=range]').value;"), "0.37");
+  EXPECT_EQ(browser->Run("return document.querySelector('[type=range]').value;"), "0.37");
   user.Click(Role::kButton, "Info");
   EXPECT_EQ(user.ActiveTitle(), "Info");
   user.PressKey(Key::Character(std::string(1, kEscape)));

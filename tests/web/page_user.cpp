@@ -1,6 +1,5 @@
 #include "web/page_user.h"
 
-#include <cmath>
 #include <cstdlib>
 #include <stdexcept>
 #include <thread>
@@ -36,40 +35,31 @@ constexpr std::string_view kListen = R"(
 
 // Reads the windows with their menus and controls.
 constexpr std::string_view kLook = R"(
-  const look = (element, children) => {
+  const all = (element, selector, children) =>
+    [...element.querySelectorAll(selector)].map(part => look(part, children && children(part)));
+  const look = (element, children = []) => {
     const box = element.getBoundingClientRect();
-    const selects = element.selectionStart !== undefined && element.selectionStart !== null;
-    const described = document.getElementById(element.getAttribute('aria-describedby'));
-    const caption = element.labels && element.labels.length ? element.labels[0] : described;
-    const range = element.type === 'range';
-    const text = range ? element.value : 'value' in element && element.tagName !== 'BUTTON' &&
-        element.tagName !== 'OUTPUT' && element.tagName !== 'LI' ? element.value : element.textContent;
+    const text = element.matches('input, textarea') ? element.value : element.textContent;
+    const caption = element.labels && element.labels[0] ||
+        document.getElementById(element.getAttribute('aria-describedby'));
     return {
-      element: element, tag: element.tagName, children: children,
-      key: [element.id, element.getAttribute('role'), element.getAttribute('aria-label'),
-            range || selects ? '' : element.textContent].join('|'),
-      description: element.getAttribute('aria-description') || '',
+      element, children, text,
+      key: [element.id, element.role, element.ariaLabel, element.textContent].join('|'),
+      description: element.ariaDescription || '',
       caption: caption ? caption.textContent : '',
-      showing: Boolean(element.offsetParent) || (box.width > 0 && box.height > 0),
-      enabled: !element.disabled && element.getAttribute('aria-disabled') !== 'true',
+      showing: element.checkVisibility(),
+      enabled: !element.disabled && element.ariaDisabled !== 'true',
       focused: document.activeElement === element,
       active: element.hasAttribute('data-active'),
-      text: text,
-      selected: selects ? text.substring(element.selectionStart, element.selectionEnd) : '',
-      value: range ? Number(element.value) : 0, least: range ? Number(element.min) : 0,
-      greatest: range ? Number(element.max) : 0, step: range ? Number(element.step) : 1,
-      x: box.left, y: box.top, width: box.width, height: box.height
+      selected: text.substring(element.selectionStart, element.selectionEnd),
+      scale: [element.value, element.min, element.max, element.step].map(Number),
+      place: [box.left, box.top, box.width, box.height].map(Math.round)
     };
   };
-  return [...document.querySelectorAll('.window')].map(frame => {
-    const parts = [...frame.querySelectorAll('.control, .pane svg')].map(control => look(control, []));
-    const bar = frame.querySelector('[role=menubar]');
-    if (bar) {
-      parts.unshift(look(bar, [...bar.children].map(menu => look(menu.querySelector('button'),
-        [...menu.querySelectorAll('li')].map(item => look(item, []))))));
-    }
-    return look(frame, parts);
-  });
+  return all(document, '.window', frame => [
+    ...all(frame, '[role=menubar]', bar => all(bar, 'button', title =>
+        all(title.parentNode, 'li'))),
+    ...all(frame, '.control, .pane svg')]);
 )";
 
 // The code that WebDriver uses for a key without a character, by the key's X name.
@@ -85,8 +75,6 @@ std::string KeyNamed(const std::string& name) {
   const auto found = kKeys.find(name);
   return found == kKeys.end() ? name : found->second;
 }
-
-int Rounded(const json& number) { return static_cast<int>(std::lround(number.get<double>())); }
 
 }  // namespace
 
@@ -116,18 +104,19 @@ std::vector<SeenElement> SeenElement::Children() const {
   return children;
 }
 
-std::int64_t SeenElement::InSteps(double value) const {
-  return std::llround(value / look_->at("step").get<double>());
+Scale SeenElement::ReadScale() const {
+  const json& scale = look_->at("scale");
+  return {scale.at(0), scale.at(1), scale.at(2), scale.at(3)};
 }
 
 Place SeenElement::Extents() const {
-  return {Rounded(look_->at("x")), Rounded(look_->at("y")), Rounded(look_->at("width")),
-          Rounded(look_->at("height"))};
+  const json& place = look_->at("place");
+  return {place.at(0), place.at(1), place.at(2), place.at(3)};
 }
 
-void SeenElement::Do(std::string_view action) const {
-  user_->TheBrowser().Run(action == "Focus" ? "arguments[0].focus();" : "arguments[0].click();",
-                          json::array({look_->at("element")}));
+void SeenElement::Do(const char* method) const {
+  user_->TheBrowser().Run("arguments[0][arguments[1]]();",
+                          json::array({look_->at("element"), method}));
 }
 
 PageUser::PageUser(Browser& browser, const std::string& address) : browser_(browser) {
@@ -186,9 +175,7 @@ void PageUser::Scroll(int notches) {
 }
 
 void PageUser::TurnWheel(std::string_view slider, std::int64_t notches) {
-  if (Focused().name != slider || Focused().role != Role::kSlider) {
-    Find(Role::kSlider, slider).Do("Focus");
-  }
+  Find(Role::kSlider, slider).Do("focus");
   ScreenUser::TurnWheel(slider, notches);
 }
 
@@ -207,17 +194,14 @@ std::string PageUser::Clipboard() {
 }
 
 void PageUser::ClickOnTitle(std::string_view title, std::string_view part) {
-  const json place = browser_.Run(
-      "for (const frame of document.querySelectorAll('.window')) {"
-      "  const part = frame.querySelector(arguments[1]);"
-      "  if (frame.hidden || !part || frame.querySelector('h1').textContent !== arguments[0]) "
-      "continue;"
-      "  const box = part.getBoundingClientRect();"
-      "  return [box.left + box.width / 2, box.top + box.height / 2];"
-      "}",
+  const json middle = browser_.Run(
+      "const [title, part] = arguments;"
+      "const box = [...document.querySelectorAll('.window:not([hidden])')]"
+      "  .find(frame => frame.querySelector('h1').textContent === title)"
+      "  .querySelector(part).getBoundingClientRect();"
+      "return [box.left + box.width / 2, box.top + box.height / 2].map(Math.round);",
       json::array({title, part}));
-  if (place.is_null()) FailToFind(title);
-  MoveTo(Rounded(place.at(0)), Rounded(place.at(1)));
+  MoveTo(middle.at(0), middle.at(1));
   Act([this] { PressMouse(); });
   Act([this] { ReleaseMouse(); });
 }
@@ -242,16 +226,14 @@ std::vector<std::string> PageUser::Hears() {
 bool PageUser::Running() { return browser_.Run("return !document.querySelector('.end');"); }
 
 int PageUser::ExitStatus() {
-  const json end = browser_.Run(
-      "const end = document.querySelector('.end p'); return end ? end.textContent : null;");
-  if (end.is_null()) return -1;
-  return end == "Vamo has ended." ? 0 : 1;
+  if (Running()) return kStillRunning;
+  const json sentence = browser_.Run("return document.querySelector('.end p').textContent;");
+  return sentence == "Vamo has ended." ? 0 : 1;
 }
 
 std::optional<SeenElement> PageUser::Application() {
-  json windows = browser_.Run(kLook);
-  json look = {{"children", std::move(windows)}};
-  return SeenElement(*this, std::make_shared<const json>(std::move(look)));
+  const json page = {{"children", browser_.Run(kLook)}};
+  return SeenElement(*this, std::make_shared<const json>(page));
 }
 
 // Lets posted events run, and the events that these post.

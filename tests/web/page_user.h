@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "browser.h"
-#include "place.h"
 #include "screen_user.h"
 
 namespace vamo {
@@ -37,13 +36,12 @@ class SeenElement {
   std::string Text() const { return look_->at("text"); }
   std::string SelectedText() const { return look_->at("selected"); }
   std::string LabelledBy() const { return look_->at("caption"); }
-  double Value() const { return look_->at("value"); }
-  double LeastValue() const { return look_->at("least"); }
-  double GreatestValue() const { return look_->at("greatest"); }
-  std::int64_t InSteps(double value) const;
+  Scale ReadScale() const;
   Place Extents() const;
-  // Performs an action as assistive technology does.
-  void Do(std::string_view action) const;
+  // Presses as assistive technology does.
+  void Press() const { Do("click"); }
+  // Calls a method of the element.
+  void Do(const char* method) const;
 
  private:
   PageUser* user_;
