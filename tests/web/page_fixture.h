@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
+#include <string>
 
 #include "browser.h"
 #include "web/page_user.h"
@@ -26,6 +27,19 @@ class PageTest : public testing::Test {
     return user;
   }
   Chromium& browser() { return TheChromium(); }
+  // The value of a JavaScript expression.
+  nlohmann::json Page(const std::string& expression) {
+    return browser().Run("return " + expression + ";");
+  }
+  // Dispatches a synthetic event to the element of a CSS selector, for what WebDriver cannot do.
+  void Dispatch(const char* selector, const char* kind, const char* name,
+                const nlohmann::json& given = nlohmann::json::object()) {
+    browser().Run(
+        "const [selector, kind, name, given] = arguments;"
+        "document.querySelector(selector).dispatchEvent("
+        "    new window[kind](name, {bubbles: true, cancelable: true, ...given}));",
+        nlohmann::json::array({selector, kind, name, given}));
+  }
   void Allow(const char* state) {
     for (const char* name : {"clipboard-read", "clipboard-write"}) {
       browser().DoOwn("Browser.setPermission",

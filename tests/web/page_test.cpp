@@ -13,14 +13,14 @@ namespace {
 
 using nlohmann::json;
 
-constexpr char kHasEnded[] =
-    "const end = document.querySelector('.end'); return end && end.textContent;";
-
 TEST_F(PageTest, TakesCompositionsAndOnScreenKeyboards) {
   PageUser user = InControlWindow();
-  browser().DoOwn("Input.imeSetComposition",
-                  {{"text", "3"}, {"selectionStart", 1}, {"selectionEnd", 1}});
-  browser().DoOwn("Input.insertText", {{"text", "37"}});
+  const auto compose = [&](const char* begun, const char* text) {
+    browser().DoOwn("Input.imeSetComposition",
+                    {{"text", begun}, {"selectionStart", 1}, {"selectionEnd", 1}});
+    browser().DoOwn("Input.insertText", {{"text", text}});
+  };
+  compose("3", "37");
   EXPECT_EQ(FieldText(user, "r"), ".37");
   browser().DoOwn("Input.insertText", {{"text", "x"}});
   EXPECT_EQ(FieldText(user, "r"), ".37") << "the filter of r holds for it too";
@@ -33,9 +33,7 @@ TEST_F(PageTest, TakesCompositionsAndOnScreenKeyboards) {
   EXPECT_EQ(FieldText(user, "r"), ".37");
   Retype(user, "N", "37");
   user.PressNamed("Home");
-  browser().DoOwn("Input.imeSetComposition",
-                  {{"text", "1"}, {"selectionStart", 1}, {"selectionEnd", 1}});
-  browser().DoOwn("Input.insertText", {{"text", "1"}});
+  compose("1", "1");
   EXPECT_EQ(FieldText(user, "N"), "137") << "where the browser has the caret";
   browser().Run(
       "const field = document.activeElement, box = field.parentNode;"
@@ -48,37 +46,24 @@ TEST_F(PageTest, TakesCompositionsAndOnScreenKeyboards) {
 
 // The events are synthetic, because WebDriver has no layout with dead keys or a decimal comma.
 TEST_F(PageTest, ReportsKeysAndPressesOfAllKinds) {
-  const auto press = [&](const char* event, const json& what) {
-    browser().Run(
-        "const [name, what] = arguments;"
-        "const target = document.activeElement || document.body;"
-        "target.dispatchEvent(name === 'keydown' ? new KeyboardEvent(name, what) :"
-        "    name === 'mousedown' ? new MouseEvent(name, what) : new InputEvent(name, what));",
-        json::array({event, what}));
+  const auto press = [&](const char* key, const char* code, bool repeat = false) {
+    Dispatch(":focus", "KeyboardEvent", "keydown",
+             {{"key", key}, {"code", code}, {"repeat", repeat}});
   };
-  const auto key = [](const char* name, const char* code, bool repeat) {
-    return json{
-        {"key", name}, {"code", code}, {"repeat", repeat}, {"bubbles", true}, {"cancelable", true}};
-  };
-  for (const auto& [event, what] :
-       {std::pair{"keydown", key("Dead", "BracketLeft", false)},
-        {"mousedown", json{{"button", 2}, {"bubbles", true}, {"cancelable", true}}}}) {
+  for (const char* kind : {"KeyboardEvent", "MouseEvent"}) {
     PageUser user(browser(), PageAddress());
-    browser().Run(
-        "const [name, what] = arguments;"
-        "document.querySelector('.window .control').dispatchEvent("
-        "    name === 'keydown' ? new KeyboardEvent(name, what) : new MouseEvent(name, what));",
-        json::array({event, what}));
+    Dispatch(".window .control", kind, kind[0] == 'K' ? "keydown" : "mousedown",
+             {{"key", "Dead"}, {"code", "BracketLeft"}, {"button", 2}});
     user.LetTimePass({});
-    EXPECT_EQ(user.ActiveTitle(), "Vamo") << event;
-    press("keydown", key("5", "Digit5", true));
+    EXPECT_EQ(user.ActiveTitle(), "Vamo") << kind;
+    press("5", "Digit5", /*repeat=*/true);
     EXPECT_EQ(FieldText(user, "r"), "") << "a key that is still held is not meant for it";
   }
   PageUser user = InControlWindow();
-  press("keydown", key(",", "NumpadDecimal", false));
-  press("keydown", key("٥", "Digit5", false));
+  press(",", "NumpadDecimal");
+  press("٥", "Digit5");
   EXPECT_EQ(FieldText(user, "r"), ".5");
-  press("keydown", key(",", "", false));
+  press(",", "");
   EXPECT_EQ(user.Beeps(), 0) << "an on-screen keyboard also sends an edit";
 }
 
@@ -89,8 +74,7 @@ TEST_F(PageTest, KeepsTheCaretAndLosesNoKeyBetweenWindows) {
   browser().DragMouse({{field.x + 2, field.y + field.height / 2}});
   user.Click(Role::kButton, "Info");
   ASSERT_EQ(user.ActiveTitle(), "Info");
-  EXPECT_EQ(browser().Run("return document.querySelector('[aria-keyshortcuts=F1]') !== null;"),
-            true);
+  EXPECT_EQ(Page("document.querySelector('[aria-keyshortcuts=F1]') !== null"), true);
   // Sends the second key before the first one has taken effect.
   browser().Run(
       "for (const key of ['Escape', 'F1']) (document.activeElement || document).dispatchEvent("
@@ -107,11 +91,9 @@ TEST_F(PageTest, TakesAValueThatIsSetFromOutside) {
   PageUser user = InControlWindow();
   for (const auto& [value, shown, z] :
        {std::array{"0.5", "0.5", "0.549"}, std::array{"7", ".99999", "6.103"}}) {
-    browser().Run(
-        "const r = document.querySelector('[aria-label=r][type=text]');"
-        "r.value = arguments[0];"
-        "r.dispatchEvent(new InputEvent('input', {bubbles: true}));",
-        json::array({value}));
+    const std::string r = "[aria-label=r][type=text]";
+    Page("document.querySelector('" + r + "').value = " + value);
+    Dispatch(r.c_str(), "InputEvent", "input");
     EXPECT_EQ(FieldText(user, "r"), shown);
     EXPECT_EQ(FieldText(user, "Fisher's z"), z);
   }
@@ -130,22 +112,20 @@ TEST_F(PageTest, LeavesTheBrowserItsOwnKeysAndItsWheel) {
       "});"
       "addEventListener('wheel', event => {"
       "  if (!event.defaultPrevented) left.push('wheel');"
-      "});"
-      "document.activeElement.dispatchEvent("
-      "    new WheelEvent('wheel', {bubbles: true, cancelable: true, ctrlKey: true,"
-      "                             wheelDeltaY: 120, deltaY: -100}));");
+      "});");
+  Dispatch(":focus", "WheelEvent", "wheel",
+           {{"ctrlKey", true}, {"wheelDeltaY", 120}, {"deltaY", -100}});
   for (const char* keys : {"alt+Right", "shift+F10", "ctrl+plus", "F5"}) user.PressNamed(keys);
-  EXPECT_EQ(browser().Run("return left.filter(key => !/Alt|Shift|Control/.test(key));"),
+  EXPECT_EQ(Page("left.filter(key => !/Alt|Shift|Control/.test(key))"),
             json({"wheel", "ArrowRight", "F10", "+", "F5"}));
   EXPECT_EQ(user.Sees(Role::kSlider, "r").value, 0);
   const Place slider = user.Find(Role::kSlider, "N").Extents();
   browser().Run("left = [];");
   browser().TurnWheel(slider.x + 50, slider.y + slider.height / 2, -40);
-  EXPECT_EQ(browser().Run("return left;"), json({"wheel"}))
-      << "a wheel over an unfocused slider scrolls the page";
+  EXPECT_EQ(Page("left"), json({"wheel"})) << "a wheel over an unfocused slider scrolls the page";
   EXPECT_EQ(FieldText(user, "N"), "30");
   for (const char* keys : {"Tab", "ctrl+a"}) user.PressNamed(keys);
-  EXPECT_EQ(browser().Run("return left.filter(key => key === 'a');"), json::array())
+  EXPECT_EQ(Page("left.filter(key => key === 'a')"), json::array())
       << "there is nothing to select beside a slider";
 }
 
@@ -183,29 +163,18 @@ TEST_F(PageTest, TheMenusWorkByKeyboardAlone) {
   EXPECT_EQ(FieldText(user, "r"), ".5") << "no key goes to the field behind";
   user.PressNamed("Escape");
   EXPECT_EQ(user.Focused().name, "r") << "and the field again";
-  for (const char* key : {"F10", "h", "Down", "Return"}) {
-    user.PressNamed(key);
-  }
+  for (const char* key : {"F10", "h", "Down", "Return"}) user.PressNamed(key);
   EXPECT_EQ(user.ActiveTitle(), "") << "the splash";
 }
 
 TEST_F(PageTest, APressElsewhereClosesAMenuAndEveryKindOfClickOpensIt) {
   PageUser user = InControlWindow();
-  const auto is_open = [&]() -> bool {
-    return browser().Run("return !!document.querySelector('[aria-expanded=true]');");
-  };
-  const auto press = [&](const char* events) {
-    browser().Run(
-        "const title = document.querySelector('[role=menubar] button');"
-        "for (const name of arguments[0].split(' ')) title.dispatchEvent("
-        "    new MouseEvent(name, {bubbles: true, cancelable: true, detail: 0}));",
-        json::array({events}));
-  };
-  for (const char* events : {"click", "mousedown mouseup click"}) {
-    press(events);
-    EXPECT_TRUE(is_open()) << events;
+  using Events = std::vector<const char*>;
+  for (const Events& events : {Events{"click"}, {"mousedown", "mouseup", "click"}}) {
+    for (const char* event : events) Dispatch("[role=menubar] button", "MouseEvent", event);
+    EXPECT_EQ(Page("document.querySelectorAll('[aria-expanded=true]').length"), 1);
     user.Click(Role::kText, "N");
-    EXPECT_FALSE(is_open());
+    EXPECT_EQ(Page("document.querySelectorAll('[aria-expanded=true]').length"), 0);
     EXPECT_EQ(user.Focused().name, "N");
   }
 }
@@ -226,7 +195,7 @@ TEST_F(PageTest, ComingBackToThePageResetsNothing) {
 TEST_F(PageTest, SaysThatItHasEndedAndStartsAgain) {
   PageUser user = InControlWindow();
   user.PressKey(Key::Command("q"));
-  EXPECT_EQ(browser().Run(kHasEnded), "VamoVamo has ended.Start again");
+  EXPECT_EQ(Page("document.querySelector('.end').textContent"), "VamoVamo has ended.Start again");
   browser().PressKeys("", "\uE006");
   browser().RunAsync("setTimeout(arguments[0], 100);");
   EXPECT_EQ(user.Windows(), std::vector<std::string>{""}) << "the splash";
