@@ -37,7 +37,10 @@ class XDesktop : public Desktop {
   std::vector<WindowOnScreen> WindowsOf(pid_t process) override {
     std::vector<WindowOnScreen> windows;
     for (const unsigned long window : Numbers(root_, "_NET_CLIENT_LIST")) {
-      if (xdo_get_pid_window(xdo_, window) == process) windows.push_back(Describe(window));
+      // Not xdo_get_pid_window, which crashes when a window has just been closed.
+      const std::vector<unsigned long> id = Numbers(window, "_NET_WM_PID");
+      if (id == std::vector<unsigned long>{static_cast<unsigned long>(process)})
+        windows.push_back(Describe(window));
     }
     return windows;
   }
@@ -55,10 +58,7 @@ class XDesktop : public Desktop {
     };
     return ping_program() && ask_manager() && ping_program();
   }
-  void Activate(unsigned long window) override {
-    xdo_activate_window(xdo_, window);
-    XSync(xdo_->xdpy, False);
-  }
+  void Activate(unsigned long window) override { xdo_activate_window(xdo_, window); }
   void SetClipboard(std::string_view text) override {
     Output({"xclip", "-selection", "clipboard", "-i"}, text);
     // xclip goes to the background before it owns the selection.
