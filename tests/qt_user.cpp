@@ -84,42 +84,38 @@ class QtElement {
   QAccessibleInterface* accessible_;
 };
 
-class CountingDisplay : public QtDisplay {
- public:
-  explicit CountingDisplay(std::function<void(CountingDisplay&)> user)
-      : QtDisplay("vamo"), user_(std::move(user)) {}
+// Runs the user in the loop of the display and records what the user cannot see.
+struct RecordingDisplay : QtDisplay {
+  explicit RecordingDisplay(std::function<void(RecordingDisplay&)> its_user)
+      : QtDisplay("vamo"), user(std::move(its_user)) {}
 
   void Run() override {
     QTimer::singleShot(0, [this] {
-      user_(*this);
+      user(*this);
       Stop();
     });
     QtDisplay::Run();
   }
   void Stop() override {
-    stopped_ = true;
+    stopped = true;
     QtDisplay::Stop();
   }
   void Beep() override {
-    ++beeps_;
+    ++beeps;
     QtDisplay::Beep();
   }
   // Offscreen no assistive technology can receive the announcement.
-  void Announce(std::string_view sentence) override { announcements_.emplace_back(sentence); }
-  int beeps() const { return beeps_; }
-  std::vector<std::string> TakeAnnouncements() { return std::exchange(announcements_, {}); }
-  bool stopped() const { return stopped_; }
+  void Announce(std::string_view sentence) override { announcements.emplace_back(sentence); }
 
- private:
-  std::function<void(CountingDisplay&)> user_;
-  int beeps_ = 0;
-  std::vector<std::string> announcements_;
-  bool stopped_ = false;
+  const std::function<void(RecordingDisplay&)> user;
+  int beeps = 0;
+  std::vector<std::string> announcements;
+  bool stopped = false;
 };
 
 class QtUser final : public ScreenUser<QtElement> {
  public:
-  explicit QtUser(CountingDisplay& display) : display_(display) { Settle(); }
+  explicit QtUser(RecordingDisplay& display) : display_(display) { Settle(); }
 
   void SetClipboard(std::string_view text) override {
     QGuiApplication::clipboard()->setText(QString::fromStdString(std::string(text)));
@@ -143,8 +139,8 @@ class QtUser final : public ScreenUser<QtElement> {
     Settle();
   }
   std::string Clipboard() override { return QGuiApplication::clipboard()->text().toStdString(); }
-  int Beeps() override { return display_.beeps(); }
-  std::vector<std::string> Hears() override { return display_.TakeAnnouncements(); }
+  int Beeps() override { return display_.beeps; }
+  std::vector<std::string> Hears() override { return std::exchange(display_.announcements, {}); }
 
  private:
   void PressCombination(const std::string& keys) override {
@@ -188,7 +184,7 @@ class QtUser final : public ScreenUser<QtElement> {
   std::optional<QtElement> Application() override {
     return QtElement(QAccessible::queryAccessibleInterface(qApp));
   }
-  bool Running() override { return !display_.stopped(); }
+  bool Running() override { return !display_.stopped; }
   void Settle() override {
     QElapsedTimer patience;
     patience.start();
@@ -206,7 +202,7 @@ class QtUser final : public ScreenUser<QtElement> {
     return active != nullptr && active->isVisible();
   }
 
-  CountingDisplay& display_;
+  RecordingDisplay& display_;
   QPoint mouse_;
 };
 
@@ -214,10 +210,10 @@ class QtUser final : public ScreenUser<QtElement> {
 
 int RunProgram(const std::function<void(User&)>& journey) {
   bool running = false;
-  const int status = Main(std::make_unique<CountingDisplay>([&](CountingDisplay& display) {
+  const int status = Main(std::make_unique<RecordingDisplay>([&](RecordingDisplay& display) {
     QtUser user(display);
     journey(user);
-    running = !display.stopped();
+    running = !display.stopped;
   }));
   return running ? kStillRunning : status;
 }

@@ -63,14 +63,10 @@ json Browser::RunAsync(std::string_view body, const json& arguments) {
 
 void Browser::EnterFrame(const json& number) { Do(kFrame, {{"id", number}}); }
 
-std::string Browser::ReadElement(const Command& command, const json& element) {
+std::pair<std::string, std::string> Browser::RoleAndNameOf(const json& element) {
   const std::string id = element.at(kElement);
-  return Do(command, {{"id", id}}, id).get<std::string>();
+  return {Do(kRole, {{"id", id}}, id), Do(kName, {{"id", id}}, id)};
 }
-
-std::string Browser::RoleOf(const json& element) { return ReadElement(kRole, element); }
-
-std::string Browser::NameOf(const json& element) { return ReadElement(kName, element); }
 
 void Browser::Act(const json& source) { Do(kAct, {{"actions", json::array({source})}}); }
 

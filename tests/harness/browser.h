@@ -29,8 +29,7 @@ class Browser {
   // page.
   void EnterFrame(const nlohmann::json& number);
   // The role and the name of an element for assistive technology.
-  std::string RoleOf(const nlohmann::json& element);
-  std::string NameOf(const nlohmann::json& element);
+  std::pair<std::string, std::string> RoleAndNameOf(const nlohmann::json& element);
 
   // Presses the keys of `last` while those of `held` are down. A key is its character or, for a key
   // without one, WebDriver's private character.
@@ -66,7 +65,6 @@ class Browser {
 
   void Act(const nlohmann::json& source);
   void Drag(const char* pointer, const std::vector<std::pair<int, int>>& points);
-  std::string ReadElement(const Command& command, const nlohmann::json& element);
 };
 
 // Chromium, through its driver.

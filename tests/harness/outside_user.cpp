@@ -81,14 +81,12 @@ void OutsideUser::ClickCloseButton(std::string_view title) {
 }
 
 void OutsideUser::MoveWindow(std::string_view title, int x, int y) {
-  const unsigned long id = WindowTitled(title).id;
-  Act([&] { xdo_move_window(xdo_.get(), id, x, y); });
+  Act([&] { xdo_move_window(xdo_.get(), WindowTitled(title).id, x, y); });
 }
 
 void OutsideUser::ActivateWindow(std::string_view title) {
   if (ActiveTitle() == title) return;
-  const unsigned long id = WindowTitled(title).id;
-  Act([&] { desktop_.Activate(id); });
+  Act([&] { desktop_.Activate(WindowTitled(title).id); });
   if (!Await([&] { return IsSettled() && ActiveTitle() == title; })) {
     throw std::runtime_error("cannot be activated: " + std::string(title));
   }

@@ -98,7 +98,7 @@ void ExpectSameMiddle(const WindowOnScreen& window, const WindowOnScreen& other)
 }
 
 TEST(Desktop, WindowsOpenWhereTheUserLooks) {
-  FromTheStart([](OutsideUser& user) {
+  const auto journey = [](OutsideUser& user) {
     const WindowOnScreen splash = user.WindowTitled("");
     EXPECT_NEAR(splash.x + splash.width / 2, user.ScreenWidth() / 2, 2);
     user.PressNamed("space");
@@ -126,7 +126,8 @@ TEST(Desktop, WindowsOpenWhereTheUserLooks) {
     ExpectOnScreen(user, info);
     EXPECT_EQ(info.x + info.width + info.frame_right, user.ScreenWidth())
         << "as far to the right as the screen allows";
-  });
+  };
+  RunProgramWith(journey, {ProgramPath()});
 }
 
 TEST(Desktop, TheCloseButtonEndsTheProgram) {

@@ -78,7 +78,7 @@ TEST(Reading, AnEditIsReadAsTheTextsRemovedAndInserted) {
 }
 
 TEST(Reading, TheSplashAndTheInfoWindow) {
-  FromTheStart([](OutsideUser& user) {
+  const auto journey = [](OutsideUser& user) {
     EXPECT_EQ(ReadAll(user),
               (std::vector<std::string>{
                   "label | Vamo |  | ",
@@ -93,7 +93,8 @@ TEST(Reading, TheSplashAndTheInfoWindow) {
     EXPECT_NE(content.find("accordingly.\n\nCopyright"), std::string::npos)
         << "an empty line between paragraphs";
     EXPECT_NE(content.find("(p ≠ 0)"), std::string::npos);
-  });
+  };
+  RunProgramWith(journey, {ProgramPath()});
 }
 
 }  // namespace

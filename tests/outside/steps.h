@@ -13,11 +13,8 @@ namespace vamo {
 // The path of the program: VAMO_PROGRAM in the environment, or else the program of this build.
 std::string ProgramPath();
 
-// Runs a journey from the start. A journey that ends early has failed. This function and the next
-// return the result of RunProgramWith.
-int FromTheStart(const std::function<void(OutsideUser&)>& journey,
-                 const CommandLine& command = {ProgramPath()});
-// Runs a journey through the control window, after a key has dismissed the splash.
+// Runs a journey through the control window, after a key has dismissed the splash. Returns the
+// result of RunProgramWith.
 int InControlWindow(const std::function<void(OutsideUser&)>& journey,
                     const CommandLine& command = {ProgramPath()});
 

@@ -194,20 +194,18 @@ TEST_F(PageTest, OnlyAnnouncementsAreLiveRegions) {
   std::vector<std::string> live;
   for (const json& node : tree.at("nodes")) {
     for (const json& property : node.value("properties", json::array())) {
-      const json& value = property.at("value").value("value", json());
-      if (property.at("name") == "live" && value != "off") {
-        live.push_back(node.at("role").at("value").get<std::string>() + " " + value.dump());
-      }
+      if (property.at("name") != "live" || property.at("value").at("value") == "off") continue;
+      live.push_back(node.at("role").at("value"));
     }
   }
-  EXPECT_EQ(live, std::vector<std::string>{"status \"polite\""});
-  EXPECT_EQ(browser().Run("return [...document.querySelectorAll('section')].map(window =>"
-                          "  [window.ariaLabel, window.querySelector('h1').textContent]);"),
-            json::parse(R"([["About Vamo", "About Vamo"], ["Vamo", "Vamo"]])"));
+  EXPECT_EQ(live, std::vector<std::string>{"status"});
+  EXPECT_EQ(Page("[...document.querySelectorAll('section')].map(window =>"
+                 "  window.ariaLabel + '/' + window.querySelector('h1').textContent)"),
+            json({"About Vamo/About Vamo", "Vamo/Vamo"}));
   EXPECT_EQ(
-      browser().Run("return [...document.querySelectorAll('[data-active] .control')]"
-                    "  .map(control => control.ariaDescription || control.ariaLabel ||"
-                    "    control.textContent).filter(text => text).join(', ');"),
+      Page("[...document.querySelectorAll('[data-active] .control')]"
+           "  .map(control => control.ariaDescription || control.ariaLabel || control.textContent)"
+           "  .filter(text => text).join(', ')"),
       "Vamo, by Halden Q. Orrin, r =, r, Fisher's z =, Fisher's z, r, N =, N, range of N, N, t =, "
       "Student's t, p =, two-tailed p, 95% CI of r =, 95% confidence interval of r, Info")
       << "in the order of reading";
@@ -219,9 +217,8 @@ TEST_F(PageTest, LetsNothingInOrOut) {
                 "const done = arguments[0], refused = [];"
                 "document.addEventListener('securitypolicyviolation', event => {"
                 "  refused.push(event.effectiveDirective);"
-                "  if (refused.length === 5) done(refused.sort());"
                 "});"
-                "setTimeout(() => done(refused.sort()), 2000);"
+                "setTimeout(() => done(refused.sort()), 1000);"
                 "const add = (tag, given) => "
                 "    document.body.append(Object.assign(document.createElement(tag), given));"
                 "add('script', {textContent: '0'});"

@@ -14,16 +14,15 @@ using nlohmann::json;
 // Records beeps, flashes and announcements from the time when the page has just opened.
 constexpr std::string_view kListen = R"(
   window.heard = {beeps: 0, flashes: 0, sentences: []};
-  const make = AudioContext.prototype.createOscillator;
-  AudioContext.prototype.createOscillator = function() {
-    ++heard.beeps;
-    return make.call(this);
+  const count = (name, kind, method) => {
+    const original = kind.prototype[method];
+    kind.prototype[method] = function(...given) {
+      ++heard[name];
+      return original.apply(this, given);
+    };
   };
-  const flash = Element.prototype.animate;
-  Element.prototype.animate = function(...how) {
-    ++heard.flashes;
-    return flash.apply(this, how);
-  };
+  count('beeps', AudioContext, 'createOscillator');
+  count('flashes', Element, 'animate');
   new MutationObserver(changes => {
     for (const change of changes) {
       const spoken = change.target.closest && change.target.closest('[role=status]');
@@ -80,11 +79,13 @@ std::string KeyNamed(const std::string& name) {
 
 std::string SeenElement::RoleName() const {
   static const std::map<std::string, std::string> kNames{
-      {"textbox", "text"},       {"slider", "slider"},    {"button", "button"},
-      {"region", "frame"},       {"dialog", "dialog"},    {"menubar", "menu bar"},
-      {"menuitem", "menu item"}, {"dialog", "frame"},     {"status", "label"},
-      {"LabelText", "label"},    {"StaticText", "label"}, {"generic", "label"},
-      {"label", "label"},        {"text leaf", "label"},  {"menuitemcheckbox", "menu item"},
+      {"textbox", "text"},       {"slider", "slider"},
+      {"button", "button"},      {"region", "frame"},
+      {"dialog", "dialog"},      {"menubar", "menu bar"},
+      {"menuitem", "menu item"}, {"status", "label"},
+      {"LabelText", "label"},    {"StaticText", "label"},
+      {"generic", "label"},      {"label", "label"},
+      {"text leaf", "label"},    {"menuitemcheckbox", "menu item"},
       {"image", "chart"},        {"img", "chart"},
   };
   const auto found = kNames.find(user_->RoleAndName(*look_).first);
@@ -135,8 +136,7 @@ std::pair<std::string, std::string> PageUser::RoleAndName(const json& look) {
   if (known != read_.end()) return known->second;
   // Assistive technology does not read hidden elements.
   if (!look.at("showing").get<bool>()) return {"label", ""};
-  const json& element = look.at("element");
-  return read_[key] = {browser_.RoleOf(element), browser_.NameOf(element)};
+  return read_[key] = browser_.RoleAndNameOf(look.at("element"));
 }
 
 // Tab also visits the browser and the menus before it returns to the controls; this skips them.
