@@ -308,7 +308,7 @@ TEST_F(PageTest, SurvivesTranslatorsForeignErrorsAndSaving) {
   browser().ConsoleLines();
   // Opens a copy as Ctrl+S saves it.
   OpenHost(Page("document.documentElement.outerHTML"));
-  EXPECT_EQ(Page("document.querySelectorAll('.window').length"), 1);
+  EXPECT_TRUE(Await([&] { return Page("document.querySelectorAll('.window').length") == 1; }));
   // The page's content policy refuses the saved styles, which the console reports.
   browser().ConsoleLines();
 }
