@@ -80,6 +80,11 @@ TEST(QtDisplayTest, AssistiveTechnologyMovesASlider) {
     other->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
     user.PressKey(Arrow(KeyCode::kRight));
     EXPECT_EQ(user.Sees(Role::kText, "N").text, "31");
+    auto* field = QAccessible::queryAccessibleInterface(&Named<QLineEdit>("N"));
+    field->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    user.PressKey(Key::Command("a"));
+    user.Type("7");
+    EXPECT_EQ(user.Sees(Role::kText, "N").text, "7");
     // However a position gets into the widget, the program learns of it.
     Named<QSlider>("r").setValue(7);
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".070");

@@ -243,6 +243,10 @@ TEST(QtLooksTest, TheWindowGrowsByTheChartAndStaysOnItsScreen) {
     user.PressKey(Key::Command("0"));
     user.PressKey(f9);
     EXPECT_EQ(Drawn(control), before);
+    MoveTo(*QGuiApplication::screens()[1], control);
+    user.PressKey(f9);
+    EXPECT_EQ(control.width(), 350) << "there is no room for the chart";
+    EXPECT_EQ(user.Beeps(), 1);
     QScreen& small = *QGuiApplication::screens().back();
     MoveTo(small, control);
     user.PressKey(f9);

@@ -108,6 +108,8 @@ TEST(ControlWindowJourney, SlidersFollowTheKeysAndTheWheel) {
     user.PressKey(Arrow(KeyCode::kPageDown));
     user.PressKey(Arrow(KeyCode::kLeft));
     EXPECT_EQ(FieldText(user, "r"), ".360");
+    user.PressKey(Arrow(KeyCode::kPageUp));
+    EXPECT_EQ(FieldText(user, "r"), ".370");
     user.PressKey(Arrow(KeyCode::kEnd));
     user.PressKey(Arrow(KeyCode::kUp));
     EXPECT_EQ(FieldText(user, "r"), ".990");

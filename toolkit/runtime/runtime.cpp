@@ -29,10 +29,8 @@ Runtime::~Runtime() {
   current_ = outer_;
 }
 
-// A window may still be held elsewhere, but its view must not outlive the display.
 void Runtime::PerformFinalizers() {
   active_window_ = nullptr;
-  for (const Ref<Window>& window : live_windows_) TakeOffDisplay(*window);
   live_windows_.clear();
   module_fields_.clear();
   file_types_.clear();

@@ -141,9 +141,6 @@ class Runtime {
   std::int32_t exit_code_ = 0;
 };
 
-// Destroys a window's view. Defined with the class Window.
-void TakeOffDisplay(Window& window);
-
 // Register the one application object for the rest of the process, and return it; nil before its
 // registration.
 void _RuntimeRegisterAppObject(Ref<Application> app);

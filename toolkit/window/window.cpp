@@ -177,8 +177,6 @@ void Window::SetMenuBar(Ref<class MenuBar> menu_bar) {
   menu_bar_ = std::move(menu_bar);
 }
 
-void TakeOffDisplay(Window& window) { window.TakeOffDisplay(); }
-
 Ref<Window> _GetImplicitWindow(std::string_view class_name) {
   for (const Ref<Window>& window : Runtime::Current().LiveWindows()) {
     if (window->Class()->name == class_name) return window;

@@ -99,9 +99,6 @@ class Window : public Object {
   virtual Pane* SidePane() { return nullptr; }
 
   bool IsLive() const { return Trapped(view_ != nullptr); }
-  // Destroys the window's view without raising an event, and stops its timers. The run time calls
-  // this at the end of the program.
-  void TakeOffDisplay();
 
   // Create and find a child of the class `ChildClass`.
   template <class ChildClass>
@@ -207,6 +204,8 @@ class Window : public Object {
   void UserClicked(const Ref<RectControl>& control);
 
  private:
+  // Destroys the window's view without raising an event, and stops its timers.
+  void TakeOffDisplay();
   struct Child {
     std::string name;
     Ref<Object> object;
