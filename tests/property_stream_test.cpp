@@ -65,17 +65,11 @@ TEST(StreamReaderTest, ReadsByTheTypesOfTheClass) {
 
   const auto label = New<Label>();
   _SetProperties(*label, EncodedStream<640>()
-                             .Set(property::kIndex, INT32_MIN)
-                             .Set(property::kValue, "t =")
                              .Set(property::kFontSize, 8.0F)
                              .Set(property::kFontSize, 9.0F)
-                             .Set(property::kTextColor, Colour{0xFF, 0x80, 0})
-                             .Set(property::kVisible, false));
-  EXPECT_EQ(label->_Index(), INT32_MIN);
-  EXPECT_EQ(label->Text(), "t =");
+                             .Set(property::kTextColor, Colour{0xFF, 0x80, 0}));
   EXPECT_EQ(label->Font().size, 9.0F) << "the later one stands";
   EXPECT_EQ(label->TextColour(), (Colour{0xFF, 0x80, 0}));
-  EXPECT_FALSE(label->Visible());
   const auto tab_stop = EncodedStream<640>().Set(property::kTabStop, false);
   _SetProperties(*label, tab_stop);
   EXPECT_FALSE(label->TabStop());
