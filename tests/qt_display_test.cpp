@@ -36,12 +36,16 @@ TEST(QtDisplayTest, AnInputMethodsTextIsTakenAsKeys) {
       QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &event);
     }
     EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
+    QInputMethodEvent replaced;
+    replaced.setCommitString("8", /*replaceFrom=*/-1, /*replaceLength=*/1);
+    QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &replaced);
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".58");
     const int beeps = user.Beeps();
     QInputMethodEvent refused;
     refused.setCommitString("x", /*replaceFrom=*/-1, /*replaceLength=*/1);
     QCoreApplication::sendEvent(&Named<QLineEdit>("r"), &refused);
     EXPECT_EQ(user.Beeps(), beeps + 1);
-    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".57");
+    EXPECT_EQ(user.Sees(Role::kText, "r").text, ".58");
     EXPECT_EQ(user.Sees(Role::kText, "r").selected_text, "");
   });
 }

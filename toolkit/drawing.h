@@ -29,6 +29,7 @@ struct Drawing {
     bool operator==(const Pen&) const = default;
   };
 
+  // A horizontal or vertical line.
   struct Line {
     Point from;
     Point to;

@@ -18,7 +18,6 @@ ButtonWidget::ButtonWidget(PushButton& button, QWidget& parent) : WidgetFor(butt
 void ButtonWidget::ShowState() {
   const PushButton& button = TheControl();
   setText(ToQString(button.Caption()).replace(u'&', QStringLiteral("&&")));
-  setDefault(button.Default());
   // Only for screen readers to read: the toolkit handles the key. A new text clears it.
   const bool has_key = button.Window()->KeyThatPresses(button) == KeyCode::kHelp;
   setShortcut(has_key ? QKeySequence(Qt::Key_F1) : QKeySequence());

@@ -78,16 +78,12 @@ class MarkPainter {
   const QColor ground_;
 };
 
-// A horizontal or vertical line covers whole pixels.
+// It covers whole pixels.
 void MarkPainter::operator()(const Drawing::Line& line) const {
   const QPointF from = ToQPoint(line.from);
   const QPointF to = ToQPoint(line.to);
   const double width = std::max(1.0, std::round(line.pen.width * scale_));
   QRectF covered = QRectF(from, to).normalized();
-  if (from.x() != to.x() && from.y() != to.y()) {
-    painter_.setPen(ToQPen(line.pen));
-    return painter_.drawLine(from, to);
-  }
   const double half = width / 2;
   covered = from.x() == to.x() ? covered.adjusted(-half, 0, half, 0)
                                : covered.adjusted(0, -half, 0, half);
