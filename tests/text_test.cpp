@@ -205,6 +205,10 @@ TEST_F(TextFieldTest, ADigitAfterACommaAfterZerosTakesTheirPlace) {
                                    {"00,\b5", ".05"}}) {
     EXPECT_EQ(typed(keys), text) << keys;
   }
+  typed("0,");
+  field_->SetText(".00");
+  Press("5");
+  EXPECT_EQ(field_->Text(), ".005") << "the program has written the zeros";
   field_->KeyDown = Delegate<bool(Ref<TextField>, std::string)>(
       +[](Ref<TextField>, std::string key) { return key == ","; });
   EXPECT_EQ(typed("0,5"), ".5");
