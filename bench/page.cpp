@@ -18,14 +18,15 @@ using vamo::PrintMedian;
 // the start of the navigation.
 std::pair<double, double> FirstPaints(Chromium& browser, const std::string& address) {
   browser.Open(address);
-  const json times = browser.RunAsync(R"(
-      const done = arguments[0];
-      const look = () => {
-        const paints = ['first-paint', 'first-contentful-paint']
-          .map(name => performance.getEntriesByName(name)[0]);
-        if (paints[1]) done(paints.map(paint => paint.startTime)); else setTimeout(look, 5);
-      };
-      look();)");
+  const json times = browser.Run(R"(
+      return new Promise(done => {
+        const look = () => {
+          const paints = ['first-paint', 'first-contentful-paint']
+            .map(name => performance.getEntriesByName(name)[0]);
+          if (paints[1]) done(paints.map(paint => paint.startTime)); else setTimeout(look, 5);
+        };
+        look();
+      });)");
   return {times.at(0), times.at(1)};
 }
 
@@ -33,10 +34,10 @@ std::pair<double, double> FirstPaints(Chromium& browser, const std::string& addr
 // and its N is 30.
 void OpenControls(Chromium& browser, const std::string& address) {
   browser.Open(address);
-  browser.RunAsync("setTimeout(arguments[0], 300);");
+  browser.Wait(300);
   if (!browser.Run("return !!document.querySelector('.window');").get<bool>()) return;
   browser.PressKeys("", "x");
-  browser.RunAsync("setTimeout(arguments[0], 300);");
+  browser.Wait(300);
   browser.PressKeys("", "\uE00430");
 }
 

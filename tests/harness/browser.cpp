@@ -57,8 +57,8 @@ json Browser::Run(std::string_view body, const json& arguments) {
   return Do(kRun, {{"script", body}, {"args", arguments}});
 }
 
-json Browser::RunAsync(std::string_view body, const json& arguments) {
-  return Do(kRunAsync, {{"script", body}, {"args", arguments}});
+void Browser::Wait(int milliseconds) {
+  Run("return new Promise(done => setTimeout(done, arguments[0]));", json::array({milliseconds}));
 }
 
 void Browser::EnterFrame(const json& number) { Do(kFrame, {{"id", number}}); }
@@ -78,9 +78,7 @@ void Browser::PressKeys(const std::string& held, const std::string& last) {
     actions.push_back(Key("keyDown", key));
     actions.push_back(Key("keyUp", key));
   }
-  for (auto key = modifiers.rbegin(); key != modifiers.rend(); ++key) {
-    actions.push_back(Key("keyUp", *key));
-  }
+  for (const std::string& key : modifiers) actions.push_back(Key("keyUp", key));
   Act({{"type", "key"}, {"id", "keyboard"}, {"actions", actions}});
 }
 

@@ -18,13 +18,12 @@ class Browser {
   virtual ~Browser() = default;
 
   void Open(const std::string& address);
-  // Runs the body of a JavaScript function and returns its result. An element is a JSON object,
-  // which can be passed as an argument.
+  // Runs the body of a JavaScript function and returns its result or, if that is a promise, what it
+  // promises. An element is a JSON object, which can be passed as an argument.
   nlohmann::json Run(std::string_view body,
                      const nlohmann::json& arguments = nlohmann::json::array());
-  // The same for a function that calls its last argument when it has finished.
-  nlohmann::json RunAsync(std::string_view body,
-                          const nlohmann::json& arguments = nlohmann::json::array());
+  // Waits in the page.
+  void Wait(int milliseconds);
   // Directs the next commands to the frame of that number in the page; null directs them to the
   // page.
   void EnterFrame(const nlohmann::json& number);
@@ -57,7 +56,6 @@ class Browser {
  private:
   static constexpr Command kOpen{"POST", "/url", "WebDriver:Navigate"};
   static constexpr Command kRun{"POST", "/execute/sync", "WebDriver:ExecuteScript"};
-  static constexpr Command kRunAsync{"POST", "/execute/async", "WebDriver:ExecuteAsyncScript"};
   static constexpr Command kFrame{"POST", "/frame", "WebDriver:SwitchToFrame"};
   static constexpr Command kRole{"GET", "/computedrole", "WebDriver:GetComputedRole"};
   static constexpr Command kName{"GET", "/computedlabel", "WebDriver:GetComputedLabel"};

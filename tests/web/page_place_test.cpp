@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <filesystem>
 #include <fstream>
 #include <string>
 #include <string_view>
@@ -22,10 +21,9 @@ using nlohmann::json;
 
 // Opens a page that the test writes.
 void OpenHost(const std::string& html) {
-  const std::filesystem::path host = std::filesystem::temp_directory_path() / "vamo-host.html";
-  std::ofstream(host) << html;
-  TheChromium().Open("file://" + host.string());
-  std::filesystem::remove(host);
+  const TemporaryFolder folder;
+  std::ofstream(folder.Path() + "/host.html") << html;
+  TheChromium().Open("file://" + folder.Path() + "/host.html");
 }
 
 // The splash ends by itself meanwhile.
@@ -44,7 +42,7 @@ TEST_F(PageTest, CopiesInACoursePageLeaveItTheFocusUntilTheyAreClicked) {
   const std::string typed(30, '5');
   for (const char digit : typed) {
     browser().PressKeys("", {digit});
-    browser().RunAsync("setTimeout(arguments[0], 200);");
+    browser().Wait(200);
   }
   EXPECT_EQ(in_frame(0, "document.querySelector('[data-active] h1').textContent"), "Vamo");
   EXPECT_EQ(in_frame(0, field), "");
@@ -87,8 +85,7 @@ TEST_F(PageTest, FlowsOnNarrowScreensAndForFingers) {
         "  small: Math.min(...all('.small').map(text)),"
         "  target: Math.min(...all('input:enabled, button').flatMap(element => {"
         "    const box = element.getBoundingClientRect(); return [box.width, box.height]; })),"
-        "  width: document.documentElement.scrollWidth, height: "
-        "document.documentElement.scrollHeight,"
+        "  page: [document.documentElement.scrollWidth, document.documentElement.scrollHeight],"
         "  covered: boxes.filter(a => boxes.some(b => a !== b && a.left + 1 < b.right &&"
         "    b.left + 1 < a.right && a.top + 1 < b.bottom && b.top + 1 < a.bottom)).length,"
         "  results: Math.max(...all('output').map(output => output.getBoundingClientRect().bottom))"
@@ -96,9 +93,9 @@ TEST_F(PageTest, FlowsOnNarrowScreensAndForFingers) {
     EXPECT_GE(sizes.at("text"), 16);
     EXPECT_GE(sizes.at("small"), 13);
     EXPECT_GE(sizes.at("target"), 44);
-    EXPECT_EQ(sizes.at("width"), width);
+    EXPECT_EQ(sizes.at("page").at(0), width);
     EXPECT_EQ(sizes.at("covered"), 0);
-    EXPECT_TRUE(!fits || sizes.at("height") == height);
+    EXPECT_TRUE(!fits || sizes.at("page").at(1) == height);
     EXPECT_TRUE(width != 390 || sizes.at("results") <= height) << "above the keyboard";
   }
 }
@@ -139,11 +136,12 @@ TEST_F(PageTest, AFingerSlidesScrollsAndTypes) {
   EXPECT_EQ(Page("document.activeElement.inputMode"), "numeric");
   user.PressNamed("shift+Tab");
   EXPECT_EQ(Page("document.activeElement.inputMode"), "decimal") << "a tablet may have a keyboard";
-  Place slider = user.Find(Role::kSlider, "r").Extents();
+  const Place slider = user.Find(Role::kSlider, "r").Extents();
+  const int left = slider.x;
   const int y = slider.y + slider.height / 2;
   const int middle = slider.x + slider.width / 2;
   const auto value = [&] { return user.Sees(Role::kSlider, "r").value; };
-  browser().Swipe({{slider.x + 5, y}, {slider.x + 50, y + 3}, {middle, y + 20}});
+  browser().Swipe({{left + 5, y}, {left + 50, y + 3}, {middle, y + 20}});
   EXPECT_NEAR(value(), .5, .03);
   EXPECT_EQ(Page("scrollY"), 0);
   browser().Swipe({{middle + 100, y}, {middle + 101, y - 30}, {middle + 104, y - 60}});
@@ -151,11 +149,10 @@ TEST_F(PageTest, AFingerSlidesScrollsAndTypes) {
   EXPECT_NEAR(value(), .5, .03) << "a vertical swipe scrolls the page";
   EXPECT_GT(Page("scrollY"), 20);
   browser().Run("scrollTo(0, 0);");
-  slider = user.Find(Role::kSlider, "r").Extents();
-  browser().Swipe({{slider.x + 20, y},
-                   {slider.x + 22, y + 15},
-                   {slider.x + 24, y + 20},
-                   {slider.x + 200, y + 25},
+  browser().Swipe({{left + 20, y},
+                   {left + 22, y + 15},
+                   {left + 24, y + 20},
+                   {left + 200, y + 25},
                    {middle, y + 25}});
   EXPECT_NEAR(value(), .5, .03) << "first down and then sideways";
 }
@@ -171,10 +168,8 @@ TEST_F(PageTest, DarkensTheOrangeOfTheWarning) {
 TEST_F(PageTest, NarrowsATextAsLongAsItIsTooWide) {
   PageUser user = InControlWindow();
   const auto width_when_it_takes = [&](int pixels) {
-    browser().Run(
-        "const [width] = arguments;"
-        "CanvasRenderingContext2D.prototype.measureText = () => ({width});",
-        json::array({pixels}));
+    browser().Run("CanvasRenderingContext2D.prototype.measureText = () => ({width: " +
+                  std::to_string(pixels) + "});");
     Retype(user, "r", pixels % 2 == 0 ? ".4" : ".5");
     const double scale = browser().Run(
         "const interval = [...document.querySelectorAll('output')]"
@@ -213,20 +208,20 @@ TEST_F(PageTest, OnlyAnnouncementsAreLiveRegions) {
 
 TEST_F(PageTest, LetsNothingInOrOut) {
   InControlWindow();
-  EXPECT_EQ(browser().RunAsync(
-                "const done = arguments[0], refused = [];"
-                "document.addEventListener('securitypolicyviolation', event => {"
-                "  refused.push(event.effectiveDirective);"
-                "});"
-                "setTimeout(() => done(refused.sort()), 1000);"
-                "const add = (tag, given) => "
-                "    document.body.append(Object.assign(document.createElement(tag), given));"
-                "add('script', {textContent: '0'});"
-                "add('style', {textContent: 'p {}'});"
-                "add('iframe', {src: 'http://localhost/'});"
-                "new Image().src = 'http://localhost/';"
-                "fetch('http://localhost/').catch(() => {});"),
-            json({"connect-src", "frame-src", "img-src", "script-src-elem", "style-src-elem"}));
+  EXPECT_EQ(
+      browser().Run("const refused = [];"
+                    "document.addEventListener('securitypolicyviolation', event => {"
+                    "  refused.push(event.effectiveDirective);"
+                    "});"
+                    "const add = (tag, given) => "
+                    "    document.body.append(Object.assign(document.createElement(tag), given));"
+                    "add('script', {textContent: '0'});"
+                    "add('style', {textContent: 'p {}'});"
+                    "add('iframe', {src: 'http://localhost/'});"
+                    "new Image().src = 'http://localhost/';"
+                    "fetch('http://localhost/').catch(() => {});"
+                    "return new Promise(done => setTimeout(() => done(refused.sort()), 1000));"),
+      json({"connect-src", "frame-src", "img-src", "script-src-elem", "style-src-elem"}));
   // The browser also reports this on the console.
   browser().ConsoleLines();
 }

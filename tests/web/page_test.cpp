@@ -197,7 +197,7 @@ TEST_F(PageTest, SaysThatItHasEndedAndStartsAgain) {
   user.PressKey(Key::Command("q"));
   EXPECT_EQ(Page("document.querySelector('.end').textContent"), "VamoVamo has ended.Start again");
   browser().PressKeys("", "\uE006");
-  browser().RunAsync("setTimeout(arguments[0], 100);");
+  browser().Wait(100);
   EXPECT_EQ(user.Windows(), std::vector<std::string>{""}) << "the splash";
   user.PressKey(Key::Character("x"));
   EXPECT_EQ(FieldText(user, "r"), "");

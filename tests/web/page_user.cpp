@@ -1,6 +1,7 @@
 #include "web/page_user.h"
 
 #include <cstdlib>
+#include <sstream>
 #include <stdexcept>
 #include <thread>
 
@@ -147,13 +148,11 @@ void PageUser::PressKey(const Key& key) {
 }
 
 void PageUser::PressCombination(const std::string& keys) {
+  std::istringstream names(keys);
   std::string held;
-  std::string rest = keys;
-  for (std::size_t at = rest.find('+'); at != std::string::npos; at = rest.find('+')) {
-    held += KeyNamed(rest.substr(0, at));
-    rest.erase(0, at + 1);
-  }
-  browser_.PressKeys(held, KeyNamed(rest));
+  std::string last;
+  for (std::string name; std::getline(names, name, '+'); last = KeyNamed(name)) held += last;
+  browser_.PressKeys(held, last);
 }
 
 void PageUser::TypePrintable(std::string_view text) { browser_.PressKeys("", std::string(text)); }
@@ -167,10 +166,9 @@ void PageUser::MoveTo(int x, int y) {
 void PageUser::ReleaseMouse() { browser_.DragMouse(std::exchange(pressed_at_, {})); }
 
 void PageUser::Scroll(int notches) {
-  constexpr int kPixelsPerNotch = 40;
+  // One event per notch, of any number of pixels.
   for (int i = 0; i < std::abs(notches); ++i) {
-    browser_.TurnWheel(pointer_.first, pointer_.second,
-                       notches > 0 ? -kPixelsPerNotch : kPixelsPerNotch);
+    browser_.TurnWheel(pointer_.first, pointer_.second, notches > 0 ? -40 : 40);
   }
 }
 
@@ -180,18 +178,10 @@ void PageUser::TurnWheel(std::string_view slider, std::int64_t notches) {
 }
 
 void PageUser::SetClipboard(std::string_view text) {
-  const json failed = browser_.RunAsync(
-      "navigator.clipboard.writeText(arguments[0])"
-      ".then(() => arguments[1](null), error => arguments[1](String(error)));",
-      json::array({text}));
-  if (!failed.is_null()) throw std::runtime_error(failed.get<std::string>());
+  browser_.Run("return navigator.clipboard.writeText(arguments[0]);", json::array({text}));
 }
 
-std::string PageUser::Clipboard() {
-  return browser_.RunAsync(
-      "navigator.clipboard.readText()"
-      ".then(text => arguments[0](text), error => arguments[0](String(error)));");
-}
+std::string PageUser::Clipboard() { return browser_.Run("return navigator.clipboard.readText();"); }
 
 void PageUser::ClickOnTitle(std::string_view title, std::string_view part) {
   const json middle = browser_.Run(
@@ -238,8 +228,8 @@ std::optional<SeenElement> PageUser::Application() {
 
 // Lets posted events run, and the events that these post.
 void PageUser::Settle() {
-  browser_.RunAsync(
-      "const done = arguments[0]; setTimeout(() => setTimeout(() => setTimeout(done, 0), 0), 0);");
+  browser_.Run(
+      "return new Promise(done => setTimeout(() => setTimeout(() => setTimeout(done, 0), 0), 0));");
 }
 
 std::string PageAddress() {
