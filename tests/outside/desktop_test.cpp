@@ -27,8 +27,11 @@ void WorkTheWindow(OutsideUser& user) {
 }
 
 TEST(Desktop, ChangesNothingButTheSizeOfTheWindows) {
+  const char* const german = "LC_ALL=de_DE.UTF-8";
+  const char* const locales = "LOCPATH=" VAMO_LOCALES;
+  EXPECT_EQ(Output({"env", german, locales, "locale", "decimal_point"}), ",\n");
   const std::pair<CommandLine, int> kCases[] = {
-      {{"env", "LC_ALL=de_DE.UTF-8", "LOCPATH=" VAMO_LOCALES, ProgramPath()}, 500},
+      {{"env", german, locales, ProgramPath()}, 500},
       {{"env", "QT_SCALE_FACTOR=2", ProgramPath()}, 1000},
       {{ProgramPath(), "-platform", "nonsense", "-reverse"}, 500},
   };
