@@ -250,7 +250,7 @@ std::vector<WindowWidget*> AllWindows() {
 }
 
 QtWindowView::QtWindowView(Window& window, Activation& activation, Zoom& zoom)
-    : activation_(activation), widget_(new WindowWidget(window, activation, zoom)) {}
+    : widget_(new WindowWidget(window, activation, zoom)) {}
 
 QtWindowView::~QtWindowView() {
   if (widget_ == nullptr) return;

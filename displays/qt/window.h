@@ -104,7 +104,6 @@ class QtWindowView : public WindowView {
   template <class WidgetClass, class ControlClass>
   std::unique_ptr<ControlView> Create(ControlClass& control);
 
-  Activation& activation_;
   QPointer<WindowWidget> widget_;
 };
 
