@@ -101,9 +101,9 @@ int main(int argc, char** argv) {
   PrintMedian("slider_plain_page", plain_events);
   OpenControls(browser, page);
   browser.PressKeys("", "\uE039");
-  MoveSlider(browser, 10'000);
-  PrintMemory(browser, "ten_thousand");
+  MoveSlider(browser, 5'000);
+  PrintMemory(browser, "five_thousand");
   // In a single script, because each script that the driver runs leaves something in the browser.
-  MoveSlider(browser, 90'000);
-  PrintMemory(browser, "hundred_thousand");
+  MoveSlider(browser, 20'000);
+  PrintMemory(browser, "twenty_five_thousand");
 }

@@ -1,5 +1,6 @@
 #include "displays/web/pane.h"
 
+#include <chrono>
 #include <cmath>
 #include <cstddef>
 #include <string>
@@ -7,9 +8,14 @@
 #include <variant>
 
 #include "displays/web/control.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {
+
+// The table is laid out once the numbers stop changing: it would take as long as all the rest of a
+// step of a drag, during which nobody reads it. Until then a screen reader knows that it is busy.
+constexpr std::chrono::milliseconds kTableFollows{200};
 
 // Adds a number with two decimals. This runs many times at each step of a drag.
 void AddNumber(std::string& text, double number) {
@@ -123,10 +129,15 @@ WebPane::WebPane(const PageElement& parent, const Pane& pane, double height)
 
 void WebPane::Update() {
   box_.SetFlag("hidden", !pane_.IsOpen());
+  table_timer_ = nullptr;
   if (!pane_.IsOpen()) return;
   ShowDrawing(pane_.Draw(Pane::kWidth, height_));
   picture_.SetAttribute("aria-description", pane_.Description());
-  ShowTable();
+  table_.SetAttribute("aria-busy", "true");
+  table_timer_ = Runtime::Current().Display().StartTimer(kTableFollows, [this] {
+    table_timer_ = nullptr;
+    ShowTable();
+  });
 }
 
 // Most marks do not change. A mark of the same kind keeps its element; from the first mark of
@@ -148,6 +159,7 @@ void WebPane::ShowDrawing(Drawing drawing) {
 void WebPane::ShowTable() {
   const std::vector<std::vector<std::string>> rows = pane_.Table();
   table_.SetFlag("hidden", rows.empty());
+  table_.RemoveAttribute("aria-busy");
   std::size_t cell = 0;
   for (std::size_t row = 0; row < rows.size(); ++row) {
     if (row == rows_.size()) rows_.push_back(std::make_unique<PageElement>(table_, "tr"));

@@ -8,12 +8,14 @@
 
 #include "displays/web/page.h"
 #include "toolkit/drawing.h"
+#include "toolkit/runtime/display.h"
 #include "toolkit/window/pane.h"
 
 namespace vamo {
 
 // The pane of a window: its picture as SVG, which is sharp at every size, and its numbers as a
-// table for screen readers only. In both, only what has changed is written.
+// table for screen readers only, which follows when the numbers stop changing. In both, only what
+// has changed is written.
 class WebPane {
  public:
   // Creates the elements at the end of `parent`. `height` is that of the window's content.
@@ -34,6 +36,7 @@ class WebPane {
   // The elements of its marks.
   std::vector<std::unique_ptr<PageElement>> marks_;
   PageElement table_;
+  std::unique_ptr<RunningTimer> table_timer_;
   std::vector<std::unique_ptr<PageElement>> rows_;
   std::vector<std::unique_ptr<PageElement>> cells_;
 };

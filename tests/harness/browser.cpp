@@ -123,6 +123,8 @@ struct Chromium::Parts {
 };
 
 Chromium::Chromium() : parts_(std::make_unique<Parts>()) {
+  // A script may run for as long as WebDriver lets it.
+  parts_->connection.set_read_timeout(std::chrono::minutes(1));
   const auto listens = [this] {
     try {
       return parts_->Ask("GET", "/status", {}).at("ready").get<bool>();

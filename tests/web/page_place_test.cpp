@@ -118,8 +118,10 @@ TEST_F(PageTest, TheChartIsBesideOrBelowTheControlsAndPrintsOnTheSamePage) {
         "  chart.right + scrollX <= page.scrollWidth, chart.bottom + scrollY <= page.scrollHeight,"
         "  chart.width >= 260];");
     EXPECT_EQ(places, json::array({width > 700, width < 700, true, true, true}));
-    EXPECT_EQ(Page("document.querySelector('.pane table').rows[2].innerText"),
-              "30\t+.011 to +.644\t.04416");
+    EXPECT_TRUE(Await([&] {
+      return Page("document.querySelector('.pane table:not([aria-busy])')?.rows[2].innerText") ==
+             "30\t+.011 to +.644\t.04416";
+    }));
     const json sheets = browser().DoOwn("Page.printToPDF", json::object()).at("data");
     EXPECT_EQ(browser().Run("return atob(arguments[0]).match(/\\/Count (\\d+)/)[1];",
                             json::array({sheets})),
