@@ -45,7 +45,7 @@ std::string Output(const CommandLine& command, std::string_view input) {
   CommandLine redirected{"sh", "-c", R"(exec "$@" <"$0/in" >"$0/out" 2>"$0/err")", folder.Path()};
   redirected.insert(redirected.end(), command.begin(), command.end());
   Child child(redirected);
-  Await([&] { return !child.Running(); }, std::chrono::minutes(1));
+  Await([&] { return !child.Running(); }, std::chrono::minutes(2));
   const auto printed = [&](const char* name) {
     std::ifstream file(folder.Path() + name);
     return std::string(std::istreambuf_iterator<char>(file), {});

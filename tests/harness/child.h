@@ -35,7 +35,7 @@ class Child {
 };
 
 // Runs a program with `input` as its standard input and returns its standard output. Throws if the
-// program fails or takes more than a minute.
+// program fails or takes more than two minutes.
 std::string Output(const CommandLine& command, std::string_view input = {});
 
 // A temporary folder. The destructor deletes it.
