@@ -74,19 +74,20 @@ void PrintMemory(Chromium& browser, const std::string& moves) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::fprintf(stderr, "usage: page PAGE PLAIN_PAGE\n");
+  if (argc != 4) {
+    std::fprintf(stderr, "usage: page PAGE PLAIN_PAGE EMPTY_PAGE\n");
     return 2;
   }
   const std::string page = std::string("file://") + argv[1];
   const std::string plain = std::string("file://") + argv[2];
+  const std::string empty = std::string("file://") + argv[3];
   Chromium browser;
   std::vector<double> paints, splashes, empty_paints, events, chart_events, plain_events;
   for (int i = 0; i < 31; ++i) {
     const auto [ground, splash] = FirstPaints(browser, page);
     paints.push_back(ground);
     splashes.push_back(splash);
-    empty_paints.push_back(FirstPaints(browser, "data:text/html,<p>empty").first);
+    empty_paints.push_back(FirstPaints(browser, empty).first);
   }
   for (int i = 0; i < 5; ++i) {
     events.push_back(TimeOfAMove(browser, page));

@@ -108,7 +108,6 @@ class PlainWindow : public QWidget {
     edit->addAction("Paste")->setShortcut(QKeySequence::Paste);
     QMenu* view = bar->addMenu("&View");
     view->addAction("Chart")->setShortcut(Qt::Key_F9);
-    view->addSeparator();
     for (const char* item : {"Larger", "Smaller", "Original Size"}) view->addAction(item);
     QMenu* window = bar->addMenu("&Window");
     window->addAction("Control")->setEnabled(false);

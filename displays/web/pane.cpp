@@ -13,8 +13,8 @@
 namespace vamo {
 namespace {
 
-// The table is laid out once the numbers stop changing: it would take as long as all the rest of a
-// step of a drag, during which nobody reads it. Until then a screen reader knows that it is busy.
+// To lay the table out at each step of a drag would take as long as all the rest of the step. So it
+// follows a little later, and until then a screen reader knows that it is busy.
 constexpr std::chrono::milliseconds kTableFollows{200};
 
 // Adds a number with two decimals. This runs many times at each step of a drag.
@@ -129,11 +129,11 @@ WebPane::WebPane(const PageElement& parent, const Pane& pane, double height)
 
 void WebPane::Update() {
   box_.SetFlag("hidden", !pane_.IsOpen());
-  table_timer_ = nullptr;
   if (!pane_.IsOpen()) return;
   ShowDrawing(pane_.Draw(Pane::kWidth, height_));
   picture_.SetAttribute("aria-description", pane_.Description());
   table_.SetAttribute("aria-busy", "true");
+  if (table_timer_ != nullptr) return;
   table_timer_ = Runtime::Current().Display().StartTimer(kTableFollows, [this] {
     table_timer_ = nullptr;
     ShowTable();

@@ -14,8 +14,8 @@
 namespace vamo {
 
 // The pane of a window: its picture as SVG, which is sharp at every size, and its numbers as a
-// table for screen readers only, which follows when the numbers stop changing. In both, only what
-// has changed is written.
+// table for screen readers only, which follows a little later. In both, only what has changed is
+// written.
 class WebPane {
  public:
   // Creates the elements at the end of `parent`. `height` is that of the window's content.

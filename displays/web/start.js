@@ -5,7 +5,7 @@ requestAnimationFrame(function () {
     var text = document.getElementById('bytes').textContent;
     var bytes = new Uint8Array(text.length);
     var script = document.createElement('script');
-    if (!document.getElementById('notice').hidden) return;
+    if (!canRun()) return;
     // Stored in a byte, a character that was moved up by 256 is itself again.
     for (var i = 0; i < bytes.length; ++i) bytes[i] = text.charCodeAt(i);
     window.Module = {wasmBinary: bytes};
