@@ -43,7 +43,7 @@ TEST(PageKeysTest, AKeyIsReadAsItsPlatformMeansIt) {
       {"F5", "", false, "", KeyCode::kOther, "", ""},
   };
   for (const auto& [name, held, on_mac, place, code, text, means] : kCases) {
-    const auto holds = [&, held = held](char key) { return held.find(key) != held.npos; };
+    const auto holds = [&, keys = held](char key) { return keys.find(key) != keys.npos; };
     PageReport report{.shift = holds('s'), .control = holds('c'), .alt = holds('a')};
     report.meta = holds('m');
     report.text = name;

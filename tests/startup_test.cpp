@@ -116,10 +116,10 @@ TEST(StartupTest, AHandlerThatFailsInTheMiddleOfADragEndsTheProgramInOrder) {
   for (const auto& [handler, said, end] : kCases) {
     positions.clear();
     std::vector<WeakRef<Window>> windows;
-    const Outcome outcome = RunFailingAt("", [&, handler = handler](HeadlessUser& user) {
+    const Outcome outcome = RunFailingAt("", [&, failing = handler](HeadlessUser& user) {
       user.PressKey(Key::Character("x"));
       for (const auto& window : Runtime::Current().LiveWindows()) windows.emplace_back(window);
-      ControlWnd()->rSlider()->ValueChanged = Delegate<void(Ref<Slider>)>(handler);
+      ControlWnd()->rSlider()->ValueChanged = Delegate<void(Ref<Slider>)>(failing);
       user.DragSlider("r", {12, 50, 37});
       EXPECT_FALSE(user.Display().Running());
       Quit(0);

@@ -37,8 +37,8 @@ TEST(Desktop, ChangesNothingButTheSizeOfTheWindows) {
   };
   for (const auto& [command, width] : kCases) {
     SCOPED_TRACE(command[1]);
-    const auto journey = [width = width](OutsideUser& user) {
-      EXPECT_EQ(user.WindowTitled("Vamo").width, width);
+    const auto journey = [expected = width](OutsideUser& user) {
+      EXPECT_EQ(user.WindowTitled("Vamo").width, expected);
       WorkTheWindow(user);
     };
     InControlWindow(journey, command);

@@ -37,10 +37,10 @@ TEST(Faults, ABrokenPictureLeavesItsPlaceEmpty) {
     const std::string program = folder.Path() + "/vamo";
     Output({"cp", ProgramPath(), program});
     Output({"sh", "-c", make_picture, VAMO_CHART, folder.Path() + "/ChartSmall.jpg"});
-    const auto journey = [shown = shown](OutsideUser& user) {
+    const auto journey = [expected = shown](OutsideUser& user) {
       // The content is 425 high, below the menu bar.
       const WindowOnScreen window = user.WindowTitled("Vamo");
-      EXPECT_EQ(ShowsPicture(window, 9, window.height - 425 + 9), shown);
+      EXPECT_EQ(ShowsPicture(window, 9, window.height - 425 + 9), expected);
       ExpectResultsAfterTyping(user);
       user.Close("Vamo");
     };
@@ -73,9 +73,9 @@ TEST(Faults, WithoutASuitableDisplayOneLineSaysWhatToDo) {
 TEST(Faults, ItEndsWithItsDisplayAndWhenTheSystemAsksForIt) {
   for (const auto& [fault, status] :
        {std::pair{"xdotool windowkill $0", 1}, {"kill $1", 256 + SIGTERM}}) {
-    const auto journey = [fault = fault](OutsideUser& user) {
+    const auto journey = [command = fault](OutsideUser& user) {
       const std::string window = std::to_string(user.WindowTitled("Vamo").id);
-      Output({"sh", "-c", fault, window, std::to_string(user.Process())});
+      Output({"sh", "-c", command, window, std::to_string(user.Process())});
       Await([&] { return !user.Running(); });
     };
     EXPECT_EQ(InControlWindow(journey), status) << fault;
