@@ -9,7 +9,7 @@ namespace vamo {
 struct Drawing;
 
 // Paints a drawing over the whole device, enlarged by `factor` and sharp at every scale: straight
-// lines fall on whole pixels of the device, everything else has smooth edges.
+// lines fall on whole pixels of the device; curves, dots and texts have smooth edges.
 void Paint(const Drawing& drawing, double factor, QPaintDevice& device);
 
 }  // namespace vamo

@@ -73,7 +73,6 @@ class WindowWidget : public QWidget {
   Window* window_;
   Activation& activation_;
   Zoom& zoom_;
-  // The factor for which the sizes are set.
   ContentWidget* content_;
   // Null while the pane is closed.
   std::unique_ptr<PaneWidget> pane_;
