@@ -12,8 +12,6 @@ namespace {
 
 constexpr double kLowestR = 0.0;
 constexpr double kHighestR = 0.99999;
-constexpr std::int64_t kLowestN = 4;
-constexpr std::int64_t kHighestN = 1000;
 
 bool IsDigit(std::int64_t code) { return code >= '0' && code <= '9'; }
 

@@ -5,16 +5,15 @@
 #include <string_view>
 
 #include "controlwnd/chart_small.h"
+#include "controlwnd/colours.h"
 #include "controlwnd/control_wnd.h"
 #include "controlwnd/streams.h"
 
 namespace vamo {
 namespace {
 
-constexpr Colour kDarkRed{0x80, 0, 0};
 constexpr Colour kLightRed{0xFF, 0x66, 0x66};
 constexpr Colour kOrange{0xFF, 0x80, 0};
-constexpr Colour kDarkGrey{0x66, 0x66, 0x66};
 constexpr Colour kGrey{0x80, 0x80, 0x80};
 constexpr Colour kLightGrey{0xE6, 0xE6, 0xE6};
 
@@ -51,8 +50,10 @@ constexpr auto kRectangle1 = RectangleStream({.place = {"Rectangle1", 113, 82, 3
                                               .bottom_right = kDarkRed});
 constexpr auto kRSlider = SliderStream(
     {.place = {"rSlider", 25, 220, 450, 15, 7}, .value = 0, .minimum = 0, .maximum = 99});
-constexpr auto kNSlider = SliderStream(
-    {.place = {"nSlider", 25, 285, 450, 15, 8}, .value = 4, .minimum = 4, .maximum = 1000});
+constexpr auto kNSlider = SliderStream({.place = {"nSlider", 25, 285, 450, 15, 8},
+                                        .value = kLowestN,
+                                        .minimum = kLowestN,
+                                        .maximum = kHighestN});
 constexpr auto kStaticText2 =
     LabelStream({.place = {"StaticText2", 25, 192, 20, 20, 9}, .value = "r =", .bold = true});
 constexpr auto kStaticText3 =

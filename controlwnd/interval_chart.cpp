@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "controlwnd/colours.h"
 #include "stats/interval.h"
 #include "stats/significance.h"
 #include "toolkit/conversions.h"
@@ -19,21 +20,17 @@ using Point = Drawing::Point;
 using Pen = Drawing::Pen;
 
 constexpr double kSmallestBox = 260;
-constexpr std::int64_t kLowestN = 4;
-constexpr std::int64_t kHighestN = 1000;
 constexpr double kSignificantP = .05;
 
 constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
 constexpr Colour kBlack{0, 0, 0};
-constexpr Colour kDarkRed{0x80, 0, 0};
 constexpr Colour kPaleRed{0xF0, 0xDE, 0xDE};
 constexpr Colour kBlue{0x1F, 0x5F, 0x8F};
-constexpr Colour kDarkGrey{0x66, 0x66, 0x66};
-constexpr Colour kLightGrey{0xC4, 0xC4, 0xC4};
+constexpr Colour kFrameGrey{0xC4, 0xC4, 0xC4};
 constexpr Colour kEdgeGrey{0xA0, 0xA0, 0xA0};
 
 constexpr Pen kAxisPen{kDarkGrey};
-constexpr Pen kFramePen{kLightGrey};
+constexpr Pen kFramePen{kFrameGrey};
 constexpr Pen kZeroPen{kBlack};
 constexpr Pen kBarPen{kDarkRed, 3};
 constexpr Pen kBandPen{kDarkRed, 1.5};

@@ -17,11 +17,16 @@ struct Calculation {
   std::int64_t N = 0;
 };
 
+// The sample sizes for which the program shows an interval.
+inline constexpr std::int64_t kLowestN = 4;
+inline constexpr std::int64_t kHighestN = 1000;
+
 // All functions here are pure. `last` is empty before the first calculation. An r that is not a
-// correlation counts as none, and an N outside 4 to 1000 as no sample size.
+// correlation counts as none, and an N outside that range as no sample
+// size.
 
 // Draws the last calculation at a size in logical pixels. The upper part shows the interval on an
-// axis of r. The lower part shows, for every N from 4 to 1000 on a logarithmic axis, the interval
+// axis of r. The lower part shows, for every N of the range on a logarithmic axis, the interval
 // that the same r would have, and the r whose p is .05. Without N there are no bars; without r
 // there is no band either.
 //

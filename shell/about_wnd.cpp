@@ -3,6 +3,7 @@
 #include <array>
 
 #include "controlwnd/chart_small.h"
+#include "controlwnd/colours.h"
 #include "controlwnd/control_wnd.h"
 #include "controlwnd/streams.h"
 #include "shell/rights.h"
@@ -10,8 +11,6 @@
 
 namespace vamo {
 namespace {
-
-constexpr Colour kDarkRed{0x80, 0, 0};
 
 constexpr auto kWindow = WindowStream({.width = 300,
                                        .height = 200,

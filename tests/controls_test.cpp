@@ -19,8 +19,8 @@ using std::chrono_literals::operator""ms;
 TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
   TestProgram program;
   const auto slider = New<Slider>();
-  const auto log = New<Log>();
-  slider->ValueChanged = Delegate<void(Ref<Slider>)>(log, &Log::Note, ReceiverFlag::kStrong);
+  const auto log = New<CallLog>();
+  slider->ValueChanged = Delegate<void(Ref<Slider>)>(log, &CallLog::Note, ReceiverFlag::kStrong);
   for (const std::int64_t position : {3, 3, 200, 100, -5, 0}) slider->UserMovedTo(position);
   slider->SetEnabled(false);
   slider->UserMovedTo(3);
@@ -63,10 +63,10 @@ TEST(PushButtonTest, OnlyAnEnabledButtonAsksItsHandler) {
 
 TEST(TimerTest, FiresOnceOrAgainAndNotInAClosedWindow) {
   TestProgram program;
-  const auto log = New<Log>();
+  const auto log = New<CallLog>();
   const auto window = ImplicitInstance<TestWindow>();
   const auto timer = window->timer();
-  timer->Action = Delegate<void(Ref<Timer>)>(log, &Log::NoteTimer, ReceiverFlag::kStrong);
+  timer->Action = Delegate<void(Ref<Timer>)>(log, &CallLog::NoteTimer, ReceiverFlag::kStrong);
   const auto fired_after = [&](std::chrono::milliseconds time) {
     program.user().LetTimePass(time);
     return std::exchange(log->entries, {}).size();

@@ -8,17 +8,14 @@
 #include <random>
 #include <string>
 
+#include "number_limits.h"
 #include "toolkit/object/property_stream.h"
 
 namespace vamo {
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kLargest = std::numeric_limits<double>::max();
 constexpr double kTiniest = std::numeric_limits<double>::denorm_min();
-constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
-constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
 
 // `head`, then `digit` `count` times, then `tail`.
 std::string Long(std::string_view head, std::size_t count, char digit, std::string_view tail = "") {

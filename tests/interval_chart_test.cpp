@@ -5,10 +5,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <string>
 #include <vector>
 
+#include "number_limits.h"
 #include "stats/interval.h"
 #include "stats/significance.h"
 
@@ -106,7 +106,6 @@ TEST(IntervalChartTest, NothingLiesOutsideTheBox) {
 }
 
 TEST(IntervalChartTest, LeavesOutWhatIsNotThere) {
-  constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
   for (const auto& [last, bars, bands] : {std::tuple{std::optional<Calculation>(), 0U, 0U},
                                           {Calculation{.37, 3}, 0U, 1U},
                                           {Calculation{.37, 1001}, 0U, 1U},
@@ -117,7 +116,7 @@ TEST(IntervalChartTest, LeavesOutWhatIsNotThere) {
     EXPECT_EQ(All<Drawing::Polygon>(drawing).size(), bands);
     EXPECT_EQ(DescribeIntervalChart(last) == "No result yet.", bars == 0);
   }
-  for (const double size : {0.0, -1.0, 259.0, kNaN, std::numeric_limits<double>::infinity()}) {
+  for (const double size : {0.0, -1.0, 259.0, kNaN, kInfinity}) {
     EXPECT_TRUE(DrawIntervalChart(Calculation{.37, 30}, size, kHeight).marks.empty());
     EXPECT_TRUE(DrawIntervalChart(Calculation{.37, 30}, kWidth, size).marks.empty());
   }

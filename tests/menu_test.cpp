@@ -31,12 +31,12 @@ class MenuTest : public testing::Test {
     program_.user().PressKey(Key::Character("x"));
   }
 
-  MenuHandler Handler(bool (Log::*method)()) { return {log_, method, ReceiverFlag::kStrong}; }
+  MenuHandler Handler(bool (CallLog::*method)()) { return {log_, method, ReceiverFlag::kStrong}; }
 
   TestProgram program_;
   Ref<TestApplication> app_ = New<TestApplication>();
   Ref<MenuBar> bar_ = New<MenuBar>();
-  Ref<Log> log_ = New<Log>();
+  Ref<CallLog> log_ = New<CallLog>();
   Ref<TestWindow> window_;
 };
 
@@ -49,20 +49,20 @@ TEST_F(MenuTest, AnItemIsInOneMenu) {
 TEST_F(MenuTest, TheWindowsHandlerComesFirstAndCanTakeTheItem) {
   bar_->_Lookup("Own")->SetAutoEnabled(true);
   EnableMenuItems();
-  app_->_AddMenuHandler("Own", Handler(&Log::Take));
-  window_->_AddMenuHandler("Own", Handler(&Log::Pass));
+  app_->_AddMenuHandler("Own", Handler(&CallLog::Take));
+  window_->_AddMenuHandler("Own", Handler(&CallLog::Pass));
   UserChose(bar_->_Lookup("Own"));
   EXPECT_EQ(log_->entries, (std::vector<std::string>{"pass", "take"}));
   window_->Close();
   window_ = ImplicitInstance<TestWindow>();
   program_.user().PressKey(Key::Character("x"));
-  window_->_AddMenuHandler("Own", Handler(&Log::Take));
+  window_->_AddMenuHandler("Own", Handler(&CallLog::Take));
   UserChose(bar_->_Lookup("Own"));
   EXPECT_EQ(log_->entries, (std::vector<std::string>{"pass", "take", "take"}));
 }
 
 TEST_F(MenuTest, ADisabledItemsShortcutDoesNothing) {
-  window_->_AddMenuHandler("Own", Handler(&Log::Take));
+  window_->_AddMenuHandler("Own", Handler(&CallLog::Take));
   const int enablings = window_->enablings;
   program_.user().PressKey(Key::Command("o"));
   EXPECT_EQ(window_->enablings, enablings + 1);
@@ -87,7 +87,7 @@ TEST_F(MenuTest, TheEditItemsServeTheFocusedTextUnlessAHandlerTakesThem) {
   EXPECT_EQ(program_.display().ClipboardReads(), 0) << "enabling the items reads no clipboard";
   window_->field()->Paste();
   EXPECT_EQ(program_.display().ClipboardReads(), 1);
-  app_->_AddMenuHandler("EditCopy", Handler(&Log::Take));
+  app_->_AddMenuHandler("EditCopy", Handler(&CallLog::Take));
   program_.user().Select("field", 0, 3);
   program_.user().PressKey(Key::Command("c"));
   EXPECT_EQ(program_.display().Clipboard(), "te");

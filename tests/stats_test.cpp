@@ -3,20 +3,15 @@
 
 #include <cmath>
 #include <initializer_list>
-#include <limits>
 #include <string>
 
+#include "number_limits.h"
 #include "stats/interval.h"
 #include "stats/significance.h"
 #include "toolkit/conversions.h"
 
 namespace vamo {
 namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
-constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
 
 testing::Message Row(double r, std::int64_t N) {
   return testing::Message() << "r = " << r << ", N = " << N;

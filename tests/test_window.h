@@ -18,7 +18,7 @@
 namespace vamo {
 
 // Handlers, and a list of their calls.
-struct Log : Object {
+struct CallLog : Object {
   bool Pass() {
     entries.push_back("pass");
     return false;

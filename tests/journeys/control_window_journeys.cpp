@@ -10,8 +10,6 @@
 namespace vamo {
 namespace {
 
-const Key kTabKey = Key::Character(std::string(1, kTab));
-const Key kBackTabKey{KeyCode::kCharacter, std::string(1, kTab), true, false};
 constexpr char kNoResults[] = " |  | ";
 
 TEST(ControlWindowJourney, OpensEmptyWithTheFocusInR) {

@@ -11,8 +11,6 @@
 namespace vamo {
 namespace {
 
-const Key kBackTabKey{KeyCode::kCharacter, std::string(1, kTab), true, false};
-const Key kBackspaceKey = Key::Character(std::string(1, kBackspace));
 const Key kDeleteKey{KeyCode::kDelete};
 
 TEST(EditingJourney, KeyFiltersBeepAndSwallow) {

@@ -14,6 +14,9 @@ namespace vamo {
 // running after the journey, kStillRunning. Each test program defines it for its display.
 int RunProgram(const std::function<void(User&)>& journey);
 
+const Key kTabKey = Key::Character(std::string(1, kTab));
+const Key kBackTabKey{KeyCode::kCharacter, std::string(1, kTab), true, false};
+const Key kBackspaceKey = Key::Character(std::string(1, kBackspace));
 Key Arrow(KeyCode code, bool shift = false);
 
 // The results in the window, as one line.

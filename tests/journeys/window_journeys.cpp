@@ -11,8 +11,6 @@ namespace {
 
 using std::chrono_literals::operator""ms;
 
-const Key kBackspaceKey = Key::Character(std::string(1, kBackspace));
-
 TEST(WindowJourney, TheControlWindowReplacesTheSplashAfterFourSeconds) {
   FromTheStart([](User& user) {
     user.LetTimePass(3000ms);
