@@ -32,74 +32,74 @@ TEST(ThreadTrapTest, AnotherThreadCannotTouchTheUserInterface) {
   const auto rectangle = New<Rectangle>();
   const auto area = New<TextArea>();
   const auto picture = New<Picture>(nullptr);
-  std::vector<std::function<void()>> operations{
-      [&] { label->_SetWindow(window); },
-      [&] { label->SetLabelledBy(label); },
-      [&] { field->UserSelected(0, 0); },
-      [&] { _SetProperties(*label, EncodedStream<8>()); },
-      [&] { AddHandler(slider->ValueChanged, &*window, &TestWindow::Hear); },
-      [&] { window->__New<Label>(); },
-      [&] { window->_AddControl("x", label); },
-      [&] { window->ParentOf(*label); },
-      [&] { window->KeyThatPresses(*label); },
-      [&] { window->_AddMenuHandler("x", MenuHandler()); },
-      [&] { app->_AddMenuHandler("x", MenuHandler()); },
-      [&] { item->AddMenu(child); },
-      [&] { Picture::_OpenFromApp("ChartSmall.jpg"); },
+  std::thread([&] { label->SetText("kept"); }).join();
+  EXPECT_EQ(label->Text(), "kept") << "there is no application object yet";
+
+  program.runtime().RegisterApp(app);
+  int operations = 0;
+  const auto expect_trapped = [&](const std::string& message) {
+    EXPECT_EQ(message,
+              "A thread has attempted to manipulate a user interface element. This can only be "
+              "done from the application's main thread.")
+        << operations;
+    ++operations;
+  };
+  const auto trap = [&](const auto& operation) {
+    try {
+      operation();
+      expect_trapped("");
+    } catch (const ThreadAccessingUIException& exception) {
+      expect_trapped(exception.Message());
+    }
   };
   const auto with = [&](const auto& value, const auto& object, auto... setters) {
-    (operations.push_back([=] { ((*object).*setters)(value); }), ...);
+    (trap([&] { ((*object).*setters)(value); }), ...);
   };
-  with("x", label, &Label::SetText, &Label::SetAccessibleName, &Label::SetAccessibleDescription);
-  with("x", item, &MenuItem::SetName, &MenuItem::SetValue, &MenuItem::SetShortcut, &MenuItem::Child,
-       &MenuItem::_Lookup);
-  with("x", field, &TextField::SetText);
-  with("x", window, &Window::_ControlByName);
-  with(false, label, &Label::SetVisible, &Label::SetEnabled, &Label::SetTabStop);
-  with(false, item, &MenuItem::SetAutoEnabled, &MenuItem::SetEnabled, &MenuItem::SetVisible,
-       &MenuItem::SetChecked);
-  with(1, slider, &Slider::SetPositionsPerUnit, &Slider::InUnits, &Slider::UserMovedTo);
-  with(1, label, &Label::_SetIndex);
-  with(label, window, &Window::SetFocus, &Window::UserFocused, &Window::UserClicked);
-  with(nullptr, window, &Window::SetMenuBar);
-  with(nullptr, app, &Application::SetMenuBar);
-  with(nullptr, canvas, &Canvas::SetBackdrop);
-  const auto add = [&](const auto& object, auto... getters) {
-    (operations.push_back([=] { ((*object).*getters)(); }), ...);
+  const auto call = [&](const auto& object, auto... getters) {
+    (trap([&] { ((*object).*getters)(); }), ...);
   };
-  add(label, &Label::Name, &Label::Visible, &Label::Bounds, &Label::TabStop, &Label::Text);
-  add(field, &TextField::Selection, &TextField::CanPaste, &TextField::Undo, &TextField::Cut,
-      &TextField::Copy, &TextField::Paste, &TextField::Delete, &TextField::Rule);
-  add(area, &TextArea::TextInLines);
-  add(slider, &Slider::Value, &Slider::MaximumValue, &Slider::PageStep);
-  add(button, &PushButton::Caption, &PushButton::UserPressedByAssistiveTechnology);
-  add(rectangle, &Rectangle::FillColour);
-  add(canvas, &Canvas::Backdrop);
-  add(picture, &Picture::Image);
-  add(window, &Window::Close, &Window::Constructor, &Window::Controls, &Window::Hide, &Window::Show,
-      &Window::MenuHandlers, &Window::InitialState, &Window::Visible, &Window::WhereToShow,
-      &Window::Focus, &Window::UserActivated, &Window::UserDeactivated);
-  add(item, &MenuItem::Value, &MenuItem::Enabled, &MenuItem::Checked, &MenuItem::Children);
-  const auto trapped = [](const std::function<void()>& operation) {
-    std::string message;
-    std::thread([&] {
-      try {
-        operation();
-      } catch (const ThreadAccessingUIException& exception) {
-        message = exception.Message();
-      }
-    }).join();
-    return message;
-  };
-  EXPECT_EQ(trapped([&] { label->SetText("kept"); }), "") << "there is no application object yet";
-  program.runtime().RegisterApp(app);
-  for (std::size_t i = 0; i < operations.size(); ++i) {
-    EXPECT_EQ(
-        trapped(operations[i]),
-        "A thread has attempted to manipulate a user interface element. This can only be done "
-        "from the application's main thread.")
-        << i;
-  }
+  std::thread([&] {
+    trap([&] { label->_SetWindow(window); });
+    trap([&] { label->SetLabelledBy(label); });
+    trap([&] { field->UserSelected(0, 0); });
+    trap([&] { _SetProperties(*label, EncodedStream<8>()); });
+    trap([&] { AddHandler(slider->ValueChanged, &*window, &TestWindow::Hear); });
+    trap([&] { window->__New<Label>(); });
+    trap([&] { window->_AddControl("x", label); });
+    trap([&] { window->ParentOf(*label); });
+    trap([&] { window->KeyThatPresses(*label); });
+    trap([&] { window->_AddMenuHandler("x", MenuHandler()); });
+    trap([&] { app->_AddMenuHandler("x", MenuHandler()); });
+    trap([&] { item->AddMenu(child); });
+    trap([&] { Picture::_OpenFromApp("ChartSmall.jpg"); });
+    with("x", label, &Label::SetText, &Label::SetAccessibleName, &Label::SetAccessibleDescription);
+    with("x", item, &MenuItem::SetName, &MenuItem::SetValue, &MenuItem::SetShortcut,
+         &MenuItem::Child, &MenuItem::_Lookup);
+    with("x", field, &TextField::SetText);
+    with("x", window, &Window::_ControlByName);
+    with(false, label, &Label::SetVisible, &Label::SetEnabled, &Label::SetTabStop);
+    with(false, item, &MenuItem::SetAutoEnabled, &MenuItem::SetEnabled, &MenuItem::SetVisible,
+         &MenuItem::SetChecked);
+    with(1, slider, &Slider::SetPositionsPerUnit, &Slider::InUnits, &Slider::UserMovedTo);
+    with(1, label, &Label::_SetIndex);
+    with(label, window, &Window::SetFocus, &Window::UserFocused, &Window::UserClicked);
+    with(nullptr, window, &Window::SetMenuBar);
+    with(nullptr, app, &Application::SetMenuBar);
+    with(nullptr, canvas, &Canvas::SetBackdrop);
+    call(label, &Label::Name, &Label::Visible, &Label::Bounds, &Label::TabStop, &Label::Text);
+    call(field, &TextField::Selection, &TextField::CanPaste, &TextField::Undo, &TextField::Cut,
+         &TextField::Copy, &TextField::Paste, &TextField::Delete, &TextField::Rule);
+    call(area, &TextArea::TextInLines);
+    call(slider, &Slider::Value, &Slider::MaximumValue, &Slider::PageStep);
+    call(button, &PushButton::Caption, &PushButton::UserPressedByAssistiveTechnology);
+    call(rectangle, &Rectangle::FillColour);
+    call(canvas, &Canvas::Backdrop);
+    call(picture, &Picture::Image);
+    call(window, &Window::Close, &Window::Constructor, &Window::Controls, &Window::Hide,
+         &Window::Show, &Window::MenuHandlers, &Window::InitialState, &Window::Visible,
+         &Window::WhereToShow, &Window::Focus, &Window::UserActivated, &Window::UserDeactivated);
+    call(item, &MenuItem::Value, &MenuItem::Enabled, &MenuItem::Checked, &MenuItem::Children);
+  }).join();
   EXPECT_EQ(label->Text(), "kept");
   EXPECT_TRUE(label->Visible() && item->Visible() && window->IsLive());
   EXPECT_EQ(program.runtime().LiveWindows().size(), 1U);
