@@ -30,15 +30,6 @@ if(VAMO_WARNINGS_AS_ERRORS)
 endif()
 include(Hardening)
 
-# vamo_precompile(target header...): precompiles headers that most sources of the target include, if VAMO_PRECOMPILED
-# is on. Builds without it make sure that each source includes what it needs.
-option(VAMO_PRECOMPILED "Compile faster with precompiled headers" OFF)
-function(vamo_precompile target)
-  if(VAMO_PRECOMPILED)
-    target_precompile_headers(${target} PRIVATE ${ARGN})
-  endif()
-endfunction()
-
 # vamo_library(name SOURCES cpp... [LINKS library...])
 #
 # A static library of the current folder. Headers are included by their path from the project's root
