@@ -34,12 +34,15 @@ apt_get() {
   fi
 }
 
-# Commands that run in the background, each with its output in a file of the folder `outputs`.
+# Commands that run in the background, each in a process group of its own and with its output in a file of the folder
+# `outputs`.
 jobs=()
 outputs=''
 start() {
   [[ -n $outputs ]] || outputs=$(mktemp -d)
+  set -m
   "$@" >"$outputs/${#jobs[@]}" 2>&1 &
+  set +m
   jobs+=("$!")
 }
 
@@ -58,7 +61,7 @@ wait_for_jobs() {
 end_jobs() {
   local job
   for job in "${jobs[@]}"; do
-    kill "$job" 2>/dev/null || continue
+    kill -- "-$job" 2>/dev/null || continue
     wait "$job" || true
   done
   [[ -z $outputs ]] || rm -rf -- "$outputs"
