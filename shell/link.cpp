@@ -56,7 +56,7 @@ void TypeOver(const Ref<TextField>& field, std::string_view text) {
   field->EnteredByTab();
   for (std::size_t at = 0; at < text.size();) {
     const std::size_t next = NextCharacter(text, at);
-    field->TakeKey(Key::Character(std::string(text.substr(at, next - at))));
+    field->HandleKey(Key::Character(std::string(text.substr(at, next - at))));
     at = next;
   }
 }

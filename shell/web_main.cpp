@@ -14,7 +14,7 @@ namespace {
 std::unique_ptr<vamo::Process> process;
 
 // Typing must wait for the window behind the splash.
-void Follow(std::string_view link) {
+void OpenLink(std::string_view link) {
   std::vector<vamo::LinkedValue> values = vamo::ParseLink(link);
   const bool with_chart = vamo::LinksToChart(link);
   if (values.empty() && !with_chart) return;
@@ -33,7 +33,7 @@ void Start() {
     process = nullptr;
     vamo::ShowEnd(status, Start);
   };
-  process = std::make_unique<vamo::Process>(vamo::MakeWebDisplay(ended, Follow));
+  process = std::make_unique<vamo::Process>(vamo::MakeWebDisplay(ended, OpenLink));
 }
 
 void StartWithLink() {

@@ -24,7 +24,7 @@ TEST(SliderTest, RaisesEachNewPositionAndNeverTheSame) {
   for (const std::int64_t position : {3, 3, 200, 100, -5, 0}) slider->UserMovedTo(position);
   slider->SetEnabled(false);
   slider->UserMovedTo(3);
-  slider->UserSetByAssistiveTechnology(3);
+  slider->UserSetValue(3);
   EXPECT_EQ(log->entries, (std::vector<std::string>{"3", "100", "0"}));
 }
 
@@ -36,7 +36,7 @@ TEST(SliderTest, StepsOfAnySizeEndAtTheEnds) {
       EncodedStream<640>().Set(property::kLineStep, INT64_MIN).Set(property::kPageStep, INT64_MAX));
   const auto reached = [&](KeyCode key) {
     slider->UserMovedTo(50);
-    EXPECT_TRUE(slider->TakeKey({key, "", false, false}));
+    EXPECT_TRUE(slider->HandleKey({key, "", false, false}));
     return slider->Value();
   };
   EXPECT_EQ(reached(KeyCode::kLeft), 100);

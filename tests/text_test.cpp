@@ -105,7 +105,7 @@ class TextFieldTest : public testing::Test {
         Delegate<void(Ref<TextField>)>(recorder_, &Recorder::TakeChange, ReceiverFlag::kStrong);
   }
 
-  void Press(std::string text) { field_->TakeKey(Key::Character(std::move(text))); }
+  void Press(std::string text) { field_->HandleKey(Key::Character(std::move(text))); }
 
   // Records the text of each change; corrects one text and throws at another.
   struct Recorder : Object {
@@ -133,7 +133,7 @@ TEST_F(TextFieldTest, AWriteRaisesTheChangeInsideTheWriteAndOnlyForAnotherText) 
 
 TEST_F(TextFieldTest, AUsersEditRaisesTheChangeForTheSameTextToo) {
   field_->SetText("7");
-  for (const auto& edit : {+[](TextField& field) { field.TakeKey(Key::Character("7")); },
+  for (const auto& edit : {+[](TextField& field) { field.HandleKey(Key::Character("7")); },
                            +[](TextField& field) { field.UserPasted("7"); }}) {
     field_->UserSelected(0, 1);
     const std::size_t changes = recorder_->changes.size();
@@ -186,7 +186,7 @@ TEST_F(TextFieldTest, ADigitAfterACommaAfterZerosTakesTheirPlace) {
   const auto typed = [&](std::string_view keys) {
     field_->SetText("");
     for (const char key : keys) {
-      field_->TakeKey(key == '<' ? Key{KeyCode::kLeft} : Key::Character(std::string(1, key)));
+      field_->HandleKey(key == '<' ? Key{KeyCode::kLeft} : Key::Character(std::string(1, key)));
       if (key == '<') field_->UserSelected(field_->Text().size(), field_->Text().size());
     }
     return field_->Text();
@@ -225,13 +225,13 @@ TEST_F(TextFieldTest, DeletingRemovesWholeCharactersOrTheSelection) {
   EXPECT_EQ(field_->Text(), "aé");
   field_->UserSelected(0, 2);  // inside the second character: moved to its start
   EXPECT_EQ(field_->SelectedText(), "a");
-  field_->TakeKey({KeyCode::kDelete});
+  field_->HandleKey({KeyCode::kDelete});
   EXPECT_EQ(field_->Text(), "é");
-  field_->TakeKey({KeyCode::kDelete});
+  field_->HandleKey({KeyCode::kDelete});
   EXPECT_EQ(field_->Text(), "");
   const std::size_t changes = recorder_->changes.size();
   Press("\b");
-  field_->TakeKey({KeyCode::kDelete});
+  field_->HandleKey({KeyCode::kDelete});
   field_->Delete();
   EXPECT_EQ(recorder_->changes.size(), changes) << "nothing was deleted";
   field_->UserPasted("");
@@ -245,7 +245,7 @@ TEST_F(TextFieldTest, DeletingAWordDeletesTheSpacesInBetween) {
     field_->SetText("one  two ");
     field_->UserSelected(caret, caret);
     key.word = true;
-    field_->TakeKey(key);
+    field_->HandleKey(key);
     return field_->Text();
   };
   EXPECT_EQ(after(kBackwards, 9), "one  ");

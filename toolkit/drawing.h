@@ -78,7 +78,7 @@ struct Drawing {
 
   double width = 0;
   double height = 0;
-  Colour ground;
+  Colour background;
   std::vector<Mark> marks;
 };
 

@@ -13,26 +13,26 @@ HeadlessDisplay::HeadlessDisplay(std::function<void(HeadlessUser&)> act) : act_(
 HeadlessDisplay::~HeadlessDisplay() = default;
 
 void HeadlessDisplay::Run() {
-  RunEvents();
+  ActivateNext();
   if (act_ == nullptr || stopped_) return;
   HeadlessUser user(*this);
   act_(user);
 }
 
-void HeadlessDisplay::RunEvents() {
+void HeadlessDisplay::ActivateNext() {
   while (HeadlessWindow* next = stopped_ ? nullptr : order_.TakeNext()) order_.Activate(*next);
 }
 
 void HeadlessDisplay::Do(const std::function<void()>& act) {
-  RunEvents();
+  ActivateNext();
   if (stopped_) return;
   act();
-  RunEvents();
+  ActivateNext();
 }
 
 void HeadlessDisplay::LetTimePass(std::chrono::milliseconds time) {
   const std::chrono::milliseconds end = now_ + time;
-  for (RunEvents(); !stopped_; RunEvents()) {
+  for (ActivateNext(); !stopped_; ActivateNext()) {
     const auto next =
         std::min_element(timers_.begin(), timers_.end(),
                          [](const auto* a, const auto* b) { return a->Due() < b->Due(); });

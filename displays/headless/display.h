@@ -70,7 +70,7 @@ class HeadlessDisplay : public Display {
   friend class HeadlessWindow;
 
   // Activates the window that the last act has shown or brought to the front.
-  void RunEvents();
+  void ActivateNext();
 
   std::function<void(HeadlessUser&)> act_;
   WindowOrder<HeadlessWindow> order_;

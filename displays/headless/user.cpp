@@ -31,7 +31,7 @@ std::size_t MovedCaret(std::string_view text, std::size_t caret, KeyCode code) {
   }
 }
 
-void MoveCaret(TextEdit& text, const Key& key) {
+void HandleKey(TextEdit& text, const Key& key) {
   if (key.command && key.text == "a") return text.UserSelected(0, text.Text().size());
   if (key.code == KeyCode::kDelete && key.shift) return text.Cut();
   if (key.code == KeyCode::kCharacter) return;
@@ -57,7 +57,7 @@ void HeadlessUser::PressKey(const Key& key) {
     // Held here, because the key may close it.
     const Ref<vamo::Window> window = Self(&display_.ActiveWindow().Shown());
     if (window->UserPressedKey(key) || !window->Focus()) return;
-    if (auto* text = dynamic_cast<TextEdit*>(&*window->Focus())) MoveCaret(*text, key);
+    if (auto* text = dynamic_cast<TextEdit*>(&*window->Focus())) HandleKey(*text, key);
   });
 }
 

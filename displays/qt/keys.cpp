@@ -146,15 +146,15 @@ bool KeyRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
     event->accept();
     return true;
   }
-  if (event->type() == QEvent::KeyPress) return TakeKey(static_cast<QKeyEvent&>(*event));
+  if (event->type() == QEvent::KeyPress) return HandleKey(static_cast<QKeyEvent&>(*event));
   if (event->type() != QEvent::KeyRelease) return false;
   const auto& release = static_cast<QKeyEvent&>(*event);
   NoteRelease(release);
   // An input method keeps the press of a dead key to itself and lets only the release through.
-  return IsDead(release.key()) && TakeKey(release);
+  return IsDead(release.key()) && HandleKey(release);
 }
 
-bool KeyRouter::TakeKey(const QKeyEvent& event) {
+bool KeyRouter::HandleKey(const QKeyEvent& event) {
   Window* window = window_.ShownWindow();
   if (window == nullptr) return true;
   std::optional<Key> key = ToKey(event);
@@ -164,9 +164,9 @@ bool KeyRouter::TakeKey(const QKeyEvent& event) {
     window->UserTyped(key->text);
     return true;
   }
-  const bool dealt_with = window->UserPressedKey(*key);
-  if (!dealt_with && window_.TakeOwnKey(event)) return true;
-  return dealt_with || (key->code == KeyCode::kCharacter && !key->command);
+  const bool handled = window->UserPressedKey(*key);
+  if (!handled && window_.HandleOwnKey(event)) return true;
+  return handled || (key->code == KeyCode::kCharacter && !key->command);
 }
 
 }  // namespace vamo

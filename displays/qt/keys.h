@@ -32,7 +32,7 @@ class KeyRouter : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool TakeKey(const QKeyEvent& event);
+  bool HandleKey(const QKeyEvent& event);
   // Whether the press is an automatic repeat. Qt does not always know if the focus has moved to
   // another window meanwhile.
   static bool Repeats(const QKeyEvent& press);

@@ -30,8 +30,8 @@ QPixmap Kept(const QString& key, const Make& make) {
 // Paints one mark after the other, in pixels of the device.
 class MarkPainter {
  public:
-  MarkPainter(QPainter& painter, double scale, QColor ground)
-      : painter_(painter), scale_(scale), ground_(ground) {}
+  MarkPainter(QPainter& painter, double scale, QColor background)
+      : painter_(painter), scale_(scale), background_(background) {}
 
   void operator()(const Drawing::Line& line) const;
   void operator()(const Drawing::Polyline& line) const;
@@ -45,7 +45,7 @@ class MarkPainter {
     painter_.setRenderHint(QPainter::Antialiasing);
   }
   void operator()(const Drawing::Dot& dot) const {
-    painter_.setPen(QPen(ground_, dot.rim * scale_));
+    painter_.setPen(QPen(background_, dot.rim * scale_));
     painter_.setBrush(ToQColor(dot.fill));
     painter_.drawEllipse(ToQPoint(dot.middle), dot.radius * scale_, dot.radius * scale_);
   }
@@ -75,7 +75,7 @@ class MarkPainter {
 
   QPainter& painter_;
   const double scale_;
-  const QColor ground_;
+  const QColor background_;
 };
 
 // It covers whole pixels.
@@ -158,7 +158,7 @@ void MarkPainter::operator()(const Drawing::Text& text) const {
                           .arg(text.size * scale_)
                           .arg(text.bold)
                           .arg(ToQColor(text.colour).rgb())
-                          .arg(ground_.rgb());
+                          .arg(background_.rgb());
   const QPixmap picture = Kept(key, [&] { return PictureOf(text, margin); });
   double left = text.base.x * scale_ - margin;
   const double width = picture.width() - 2 * margin;
@@ -180,7 +180,7 @@ QPixmap MarkPainter::PictureOf(const Drawing::Text& text, int margin) const {
   painter.setRenderHint(QPainter::Antialiasing);
   QPainterPath outline;
   outline.addText(base, font, shown);
-  painter.strokePath(outline, QPen(ground_, Drawing::Text::kHalo * scale_, Qt::SolidLine,
+  painter.strokePath(outline, QPen(background_, Drawing::Text::kHalo * scale_, Qt::SolidLine,
                                    Qt::RoundCap, Qt::RoundJoin));
   painter.setFont(font);
   painter.setPen(ToQColor(text.colour));
@@ -195,9 +195,9 @@ void Paint(const Drawing& drawing, double factor, QPaintDevice& device) {
   QPainter painter(&device);
   painter.scale(1 / pixels, 1 / pixels);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor ground = ToQColor(drawing.ground);
-  painter.fillRect(QRectF(0, 0, device.width() * pixels, device.height() * pixels), ground);
-  const MarkPainter paint(painter, factor * pixels, ground);
+  const QColor background = ToQColor(drawing.background);
+  painter.fillRect(QRectF(0, 0, device.width() * pixels, device.height() * pixels), background);
+  const MarkPainter paint(painter, factor * pixels, background);
   for (const Drawing::Mark& mark : drawing.marks) std::visit(paint, mark);
 }
 

@@ -36,7 +36,7 @@ bool PressRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       // An open menu handles it.
       if (QApplication::activePopupWidget() != nullptr) return false;
-      ignoring_ = !TakePress(static_cast<QMouseEvent&>(*event));
+      ignoring_ = !HandlePress(static_cast<QMouseEvent&>(*event));
       return ignoring_;
     case QEvent::MouseMove:
       return ignoring_;
@@ -47,7 +47,7 @@ bool PressRouter::eventFilter(QObject* /*watched*/, QEvent* event) {
   }
 }
 
-bool PressRouter::TakePress(const QMouseEvent& event) {
+bool PressRouter::HandlePress(const QMouseEvent& event) {
   if (window_.ShownWindow() == nullptr) return false;
   const Ref<Window> window = Self(window_.ShownWindow());
   const bool repeat = event.type() == QEvent::MouseButtonDblClick;

@@ -22,7 +22,7 @@ class PressRouter : public QObject {
 
  private:
   // Returns whether the press may go on to the widgets.
-  bool TakePress(const QMouseEvent& event);
+  bool HandlePress(const QMouseEvent& event);
 
   WindowWidget& window_;
   Activation& activation_;

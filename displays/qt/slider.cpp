@@ -39,7 +39,7 @@ void SliderWidget::Report(int position) {
 
 void SliderWidget::ReportValue(double value) {
   if (!IsUsersDoing()) return;
-  TheControl().UserSetByAssistiveTechnology(value);
+  TheControl().UserSetValue(value);
   Refresh();
 }
 

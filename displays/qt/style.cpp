@@ -78,8 +78,8 @@ int OutlinedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
   if (element == PE_FrameLineEdit) {
-    const bool has_keys = option->state.testFlag(State_HasFocus);
-    DrawBox(*painter, option->rect, OutlineOf(*option, has_keys), Qt::NoBrush, factor_);
+    const bool has_focus = option->state.testFlag(State_HasFocus);
+    DrawBox(*painter, option->rect, OutlineOf(*option, has_focus), Qt::NoBrush, factor_);
   } else if (element == PE_PanelButtonCommand) {
     DrawBox(*painter, option->rect, OutlineOf(*option, false), Face(*option, option->rect),
             factor_);

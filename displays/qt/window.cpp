@@ -60,7 +60,7 @@ WindowWidget::WindowWidget(Window& window, Activation& activation, Zoom& zoom)
   connect(&settle_, &QTimer::timeout, this, [this] { Settle(); });
 }
 
-bool WindowWidget::IsToBeSeen() const { return window_ != nullptr && window_->Visible(); }
+bool WindowWidget::ShouldBeVisible() const { return window_ != nullptr && window_->Visible(); }
 
 void WindowWidget::AddMenuBar() {
   if (!window_->MenuBar()) return;
@@ -133,7 +133,7 @@ void WindowWidget::PutOnScreen(bool activate) {
   QMetaObject::invokeMethod(
       this,
       [this, activate] {
-        if (IsToBeSeen()) Map(activate);
+        if (ShouldBeVisible()) Map(activate);
       },
       Qt::QueuedConnection);
 }
@@ -152,8 +152,8 @@ void WindowWidget::Map(bool activate) {
   raise();
   activateWindow();
   // Qt can consider a window active throughout a quick Hide and Show, and then reports no change.
-  const bool has_keys = windowHandle() == QGuiApplication::focusWindow();
-  if (has_keys && !isActiveWindow()) QApplication::setActiveWindow(this);
+  const bool has_focus = windowHandle() == QGuiApplication::focusWindow();
+  if (has_focus && !isActiveWindow()) QApplication::setActiveWindow(this);
   activation_.Await(*this);
 }
 
@@ -170,9 +170,9 @@ QWindow* WindowWidget::NextToBeActive() const {
   return nullptr;
 }
 
-bool WindowWidget::TakeOwnKey(const QKeyEvent& event) {
+bool WindowWidget::HandleOwnKey(const QKeyEvent& event) {
   const bool opens_menus = event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier;
-  if (!opens_menus || menu_bar_ == nullptr) return zoom_.TakeKey(event);
+  if (!opens_menus || menu_bar_ == nullptr) return zoom_.HandleKey(event);
   menu_bar_->setActiveAction(menu_bar_->actions().front());
   return true;
 }
@@ -185,7 +185,7 @@ void WindowWidget::MapAgain() {
   RestoreFocus();
 }
 
-void WindowWidget::TakeAway() {
+void WindowWidget::TakeOffScreen() {
   // Before the window is hidden: a window manager that loses the active window may choose any other
   // one, and without a window manager nothing is chosen.
   QWindow* next = isActiveWindow() ? NextToBeActive() : nullptr;
@@ -255,7 +255,7 @@ QtWindowView::QtWindowView(Window& window, Activation& activation, Zoom& zoom)
 QtWindowView::~QtWindowView() {
   if (widget_ == nullptr) return;
   widget_->Detach();
-  widget_->TakeAway();
+  widget_->TakeOffScreen();
   // The view may be destroyed while one of its widgets is still handling an event.
   widget_->deleteLater();
 }

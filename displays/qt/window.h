@@ -30,7 +30,7 @@ class WindowWidget : public QWidget {
   Window* ShownWindow() const { return window_; }
   void Detach() { window_ = nullptr; }
   // Whether the toolkit wants the window on the screen.
-  bool IsToBeSeen() const;
+  bool ShouldBeVisible() const;
 
   // The scale factor of the window.
   double Factor() const { return zoom_.Factor(); }
@@ -40,7 +40,7 @@ class WindowWidget : public QWidget {
   QSize SizeAt(double factor) const;
   // Handles the keys that make windows larger and smaller and the one that opens the menus. Returns
   // false for any other key.
-  bool TakeOwnKey(const QKeyEvent& event);
+  bool HandleOwnKey(const QKeyEvent& event);
 
   ContentWidget& Content() { return *content_; }
   // Adds a control's new widget, whose parent is the content.
@@ -49,7 +49,7 @@ class WindowWidget : public QWidget {
   bool ShowPane();
   // Shows the window when the event ends; with `activate`, in front and with the focus.
   void PutOnScreen(bool activate);
-  void TakeAway();
+  void TakeOffScreen();
   // Hides the window and shows it again, which is not an activation.
   void MapAgain();
   // Moves the keyboard focus to where the toolkit has it.
@@ -95,7 +95,7 @@ class QtWindowView : public WindowView {
 
   std::unique_ptr<ControlView> CreateControl(AnyControl control) override;
   void Show(bool activate) override;
-  void Hide() override { widget_->TakeAway(); }
+  void Hide() override { widget_->TakeOffScreen(); }
   bool ShowPane() override { return widget_->ShowPane(); }
   void UpdateFocus() override { widget_->ShowFocus(); }
 

@@ -19,7 +19,7 @@ constexpr std::array kFactors{0.5, 0.6, 0.7, 0.8, 0.9, 1.0, 1.25, 1.5, 1.75,
 bool FitsTheScreen(double factor) {
   const std::vector<WindowWidget*> windows = AllWindows();
   return std::all_of(windows.begin(), windows.end(), [&](WindowWidget* window) {
-    return !window->IsToBeSeen() || RoomFor(*window, window->SizeAt(factor));
+    return !window->ShouldBeVisible() || RoomFor(*window, window->SizeAt(factor));
   });
 }
 
@@ -83,7 +83,7 @@ void Zoom::FitScreen() {
   while (LargestFitting(factor_) < factor_) Set(LargestFitting(factor_));
 }
 
-bool Zoom::TakeKey(const QKeyEvent& event) {
+bool Zoom::HandleKey(const QKeyEvent& event) {
   const auto held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
   if (held != Qt::ControlModifier) return false;
   switch (event.key()) {
@@ -132,7 +132,7 @@ void Zoom::Set(double factor) {
   for (WindowWidget* window : AllWindows()) {
     const QPoint middle = window->geometry().center();
     window->Rescale();
-    if (window->IsToBeSeen()) MoveMiddle(*window, middle);
+    if (window->ShouldBeVisible()) MoveMiddle(*window, middle);
   }
   if (PlatformPlacesWindows()) MapAgain();
 }

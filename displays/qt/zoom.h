@@ -26,7 +26,7 @@ class Zoom {
   bool CanReduce() const;
   bool CanRestore() const;
   // Handles their keys, the command key with plus, minus or 0. Returns false for any other key.
-  bool TakeKey(const QKeyEvent& event);
+  bool HandleKey(const QKeyEvent& event);
 
   // Makes all windows smaller until each fits its screen. The screens report when they become
   // smaller.

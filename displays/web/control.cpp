@@ -103,14 +103,14 @@ void WebControl::Update() {
 
 // A press on a control brings its window to the front, and so does focus that the browser moves
 // into it.
-PageAnswer WebControl::Take(const PageReport& report) {
+PageAnswer WebControl::Handle(const PageReport& report) {
   if (report.event != PageEvent::kPress && report.event != PageEvent::kFocus) {
     return PageAnswer::kPassed;
   }
   window_.BringToFront();
   if (report.event == PageEvent::kPress) return PageAnswer::kPassed;
   if (!window_.IsShowingFocus()) window_.Shown().UserFocused(Self(&control_));
-  return PageAnswer::kTaken;
+  return PageAnswer::kHandled;
 }
 
 }  // namespace vamo

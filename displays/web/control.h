@@ -33,7 +33,7 @@ class WebControl : public ControlView, public PageListener {
   ~WebControl() override;
 
   void Update() override;
-  PageAnswer Take(const PageReport& report) override;
+  PageAnswer Handle(const PageReport& report) override;
 
   PageElement& Element() { return element_; }
   RectControl& Control() const { return control_; }

@@ -100,14 +100,14 @@ void WebButton::ShowState() {
   Element().SetFlag("disabled", !button_.Enabled());
 }
 
-PageAnswer WebButton::Take(const PageReport& report) {
-  const PageAnswer answer = WebControl::Take(report);
+PageAnswer WebButton::Handle(const PageReport& report) {
+  const PageAnswer answer = WebControl::Handle(report);
   const Bounds& box = button_.Bounds();
   if (report.event == PageEvent::kPress && button_.Enabled()) {
     button_.UserPressed(std::llround(report.x * static_cast<double>(box.width)),
                         std::llround(report.y * static_cast<double>(box.height)));
     // The button never gets the focus.
-    return PageAnswer::kTakenWhole;
+    return PageAnswer::kPrevented;
   }
   // A mouse click ends a press that was handled; any other click comes from assistive technology.
   if (report.event == PageEvent::kClick && report.x == 0) {
@@ -136,33 +136,32 @@ void WebSlider::ShowState() {
   shown_ = value;
 }
 
-PageAnswer WebSlider::Take(const PageReport& report) {
-  const PageAnswer answer = WebControl::Take(report);
+PageAnswer WebSlider::Handle(const PageReport& report) {
+  const PageAnswer answer = WebControl::Handle(report);
   switch (report.event) {
     case PageEvent::kPress:
-      return slider_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
+      return slider_.Enabled() ? PageAnswer::kHandled : PageAnswer::kPassed;
     case PageEvent::kInput:
       // The page already shows this value, but it may not be accepted.
       shown_ = report.x;
-      if (drag_ == Drag::kNone || drag_ == Drag::kSideways)
-        slider_.UserSetByAssistiveTechnology(report.x);
+      if (drag_ == Drag::kNone || drag_ == Drag::kSideways) slider_.UserSetValue(report.x);
       Update();
-      return PageAnswer::kTaken;
+      return PageAnswer::kHandled;
     case PageEvent::kTouch:
       touched_ = {report.x, report.y};
       drag_ = Drag::kUndecided;
-      return PageAnswer::kTaken;
+      return PageAnswer::kHandled;
     case PageEvent::kTouchMoves:
-      TakeTouchMove(report);
-      return PageAnswer::kTaken;
+      HandleTouchMove(report);
+      return PageAnswer::kHandled;
     case PageEvent::kTouchEnds:
       drag_ = Drag::kNone;
-      return PageAnswer::kTaken;
+      return PageAnswer::kHandled;
     case PageEvent::kWheel:
       // With Ctrl the browser zooms, and over a slider without the focus the page scrolls.
-      if (report.control || !Element().HasFocus()) return PageAnswer::kTaken;
-      TakeWheel(report.y != 0 ? report.y : report.x);
-      return PageAnswer::kTakenWhole;
+      if (report.control || !Element().HasFocus()) return PageAnswer::kHandled;
+      HandleWheel(report.y != 0 ? report.y : report.x);
+      return PageAnswer::kPrevented;
     default:
       return answer;
   }
@@ -171,7 +170,7 @@ PageAnswer WebSlider::Take(const PageReport& report) {
 // If a finger first moves sideways, the browser moves the knob. If it first moves up or down, the
 // page scrolls, and browsers no longer move the knob; when the finger then goes on sideways, this
 // function does.
-void WebSlider::TakeTouchMove(const PageReport& report) {
+void WebSlider::HandleTouchMove(const PageReport& report) {
   constexpr double kSlop = 8;
   constexpr double kKnob = 28;  // As the style sheet has it.
   const double width = Element().Width();
@@ -188,7 +187,7 @@ void WebSlider::TakeTouchMove(const PageReport& report) {
 }
 
 // Turning a wheel to the right moves the knob to the right.
-void WebSlider::TakeWheel(double turned) {
+void WebSlider::HandleWheel(double turned) {
   turned_ += turned;
   const double notches = std::trunc(turned_);
   turned_ -= notches;

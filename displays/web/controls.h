@@ -55,7 +55,7 @@ class WebLabel : public WebControl {
 class WebButton : public WebControl {
  public:
   WebButton(WebWindow& window, PushButton& button);
-  PageAnswer Take(const PageReport& report) override;
+  PageAnswer Handle(const PageReport& report) override;
 
  private:
   void ShowState() override;
@@ -67,12 +67,12 @@ class WebButton : public WebControl {
 class WebSlider : public WebControl {
  public:
   WebSlider(WebWindow& window, Slider& slider);
-  PageAnswer Take(const PageReport& report) override;
+  PageAnswer Handle(const PageReport& report) override;
 
  private:
   void ShowState() override;
-  void TakeWheel(double turned);
-  void TakeTouchMove(const PageReport& report);
+  void HandleWheel(double turned);
+  void HandleTouchMove(const PageReport& report);
 
   Slider& slider_;
   // The value in the element.

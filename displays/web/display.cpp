@@ -84,20 +84,19 @@ void WebDisplay::ShowRoom() {
   constexpr double kNarrow = 500;
   constexpr double kEnlarged = 1.1;
   const double enlargement = page::TextEnlargement();
-  const bool flows =
-      kNarrow > page::Width() || enlargement > kEnlarged || page::IsWorkedByFingers();
+  const bool flows = kNarrow > page::Width() || enlargement > kEnlarged || page::HasCoarsePointer();
   page_.SetAttribute("class", flows ? "flow" : "designed");
   page_.SetStyle("--enlarged", ShortText(std::max(1.0, enlargement)));
 }
 
-PageAnswer WebDisplay::Take(const PageReport& report) {
+PageAnswer WebDisplay::Handle(const PageReport& report) {
   if (report.event == PageEvent::kRoom) {
     ShowRoom();
-    return PageAnswer::kTaken;
+    return PageAnswer::kHandled;
   }
   if (report.event == PageEvent::kLink) {
     linked_(report.text);
-    return PageAnswer::kTaken;
+    return PageAnswer::kHandled;
   }
   // Input is meant for the window that is about to come to the front.
   ActivateNext();
@@ -105,25 +104,25 @@ PageAnswer WebDisplay::Take(const PageReport& report) {
   if (front == nullptr) return PageAnswer::kPassed;
   switch (report.event) {
     case PageEvent::kKey:
-      return front->TakeKey(report);
+      return front->HandleKey(report);
     case PageEvent::kSelected:
       front->ReportSelection();
-      return PageAnswer::kTaken;
+      return PageAnswer::kHandled;
     case PageEvent::kPressBegins:
       return front->BeginPress(report);
     case PageEvent::kPress:
       front->BringToFront();
-      return PageAnswer::kTaken;
+      return PageAnswer::kHandled;
     // page.js prevents the browser's own copy if the program has copied something.
     case PageEvent::kCopy:
-      front->TakeCommand("c");
-      return PageAnswer::kTaken;
+      front->HandleCommand("c");
+      return PageAnswer::kHandled;
     case PageEvent::kCut:
-      front->TakeCommand("x");
-      return PageAnswer::kTaken;
+      front->HandleCommand("x");
+      return PageAnswer::kHandled;
     case PageEvent::kPaste:
-      WithPasted(report.text, [front] { front->TakeCommand("v"); });
-      return PageAnswer::kTakenWhole;
+      WithPasted(report.text, [front] { front->HandleCommand("v"); });
+      return PageAnswer::kPrevented;
     default:
       return PageAnswer::kPassed;
   }
@@ -140,7 +139,7 @@ WebWindow* WebDisplay::Front() const { return order_.Active(); }
 void WebDisplay::Activate(WebWindow& window) {
   if (!order_.Activate(window)) return;
   int depth = 0;
-  for (WebWindow* view : order_.Views()) view->ShowPlace(depth++);
+  for (WebWindow* view : order_.Views()) view->UpdateOrder(depth++);
   if (WebWindow* front = Front()) front->ShowFocus();
 }
 

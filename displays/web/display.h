@@ -40,7 +40,7 @@ class WebDisplay : public Display, public PageOwner {
   bool TabLeavesWindows() const override { return true; }
 
   // Handles keys, and what happens outside all windows.
-  PageAnswer Take(const PageReport& report) override;
+  PageAnswer Handle(const PageReport& report) override;
   void RunEvent(const std::function<void()>& event) override;
 
   // For the windows.

@@ -31,7 +31,7 @@ class End : public PageOwner {
   End(const End&) = delete;
   End& operator=(const End&) = delete;
 
-  PageAnswer Take(const PageReport& /*report*/) override { return PageAnswer::kPassed; }
+  PageAnswer Handle(const PageReport& /*report*/) override { return PageAnswer::kPassed; }
   void RunEvent(const std::function<void()>& event) override { event(); }
 
  private:

@@ -92,23 +92,23 @@ WebMenuBar::WebMenuBar(WebWindow& window, const PageElement& parent, const MenuB
     const std::size_t number = menus_.size();
     menus_.push_back(std::make_unique<Menu>(
         bar_, drawn.text,
-        [this, number](const PageReport& report) { return TakeTitle(number, report); }));
+        [this, number](const PageReport& report) { return HandleTitle(number, report); }));
     Menu& menu = *menus_.back();
     for (const Ref<MenuItem>& item : drawn.items) {
       const std::size_t entry = menu.entries.size();
       menu.entries.push_back(
           std::make_unique<Entry>(menu.list, item, [this, number, entry](const PageReport& report) {
-            return TakeEntry(number, entry, report);
+            return HandleEntry(number, entry, report);
           }));
     }
   }
   Close();
-  ShowPlace(/*in_front=*/false);
+  UpdateOrder(/*in_front=*/false);
 }
 
 WebMenuBar::~WebMenuBar() = default;
 
-void WebMenuBar::ShowPlace(bool in_front) {
+void WebMenuBar::UpdateOrder(bool in_front) {
   for (std::size_t i = 0; i < menus_.size(); ++i) {
     menus_[i]->title.SetAttribute("tabindex", in_front && i == 0 ? "0" : "-1");
   }
@@ -142,8 +142,8 @@ void WebMenuBar::Close() {
   }
 }
 
-PageAnswer WebMenuBar::TakeTitle(std::size_t menu, const PageReport& report) {
-  if (report.event == PageEvent::kKey) return TakeKey(menu, report);
+PageAnswer WebMenuBar::HandleTitle(std::size_t menu, const PageReport& report) {
+  if (report.event == PageEvent::kKey) return HandleKey(menu, report);
   const bool pressed = report.event == PageEvent::kPress;
   // A mouse click ends a press that was handled; any other click comes from assistive technology.
   if (!pressed && (report.event != PageEvent::kClick || report.x != 0)) return PageAnswer::kPassed;
@@ -154,28 +154,28 @@ PageAnswer WebMenuBar::TakeTitle(std::size_t menu, const PageReport& report) {
     Open(menu);
     FocusTitle(menu);
   }
-  return PageAnswer::kTakenWhole;
+  return PageAnswer::kPrevented;
 }
 
-PageAnswer WebMenuBar::TakeEntry(std::size_t menu, std::size_t entry, const PageReport& report) {
-  if (report.event == PageEvent::kPress) return PageAnswer::kTakenWhole;
+PageAnswer WebMenuBar::HandleEntry(std::size_t menu, std::size_t entry, const PageReport& report) {
+  if (report.event == PageEvent::kPress) return PageAnswer::kPrevented;
   const Entry& taken = *menus_[menu]->entries[entry];
   const bool chosen =
       report.event == PageEvent::kClick ||
       (report.event == PageEvent::kKey && (report.text == "Enter" || report.text == " "));
   if (chosen) {
     Choose(taken.item);
-    return PageAnswer::kTakenWhole;
+    return PageAnswer::kPrevented;
   }
   if (report.event != PageEvent::kKey) return PageAnswer::kPassed;
   if (report.text == "ArrowDown" || report.text == "ArrowUp") {
     FocusEntry(menu, Next(menu, entry, report.text == "ArrowDown" ? 1 : -1));
-    return PageAnswer::kTakenWhole;
+    return PageAnswer::kPrevented;
   }
-  return TakeKey(menu, report);
+  return HandleKey(menu, report);
 }
 
-PageAnswer WebMenuBar::TakeKey(std::size_t menu, const PageReport& report) {
+PageAnswer WebMenuBar::HandleKey(std::size_t menu, const PageReport& report) {
   const std::string& key = report.text;
   if (key == "ArrowLeft" || key == "ArrowRight") {
     const std::size_t step = key == "ArrowLeft" ? menus_.size() - 1 : 1;
@@ -183,20 +183,20 @@ PageAnswer WebMenuBar::TakeKey(std::size_t menu, const PageReport& report) {
     const bool was_open = open_ != kNone;
     if (was_open) Open(next);
     FocusTitle(next);
-    return PageAnswer::kTakenWhole;
+    return PageAnswer::kPrevented;
   }
   if (key == "ArrowDown" || key == "ArrowUp" || key == "Enter" || key == " ") {
     window_.ReportSelection();
     Open(menu);
     FocusEntry(menu, Next(menu, kNone, key == "ArrowUp" ? -1 : 1));
-    return PageAnswer::kTakenWhole;
+    return PageAnswer::kPrevented;
   }
   if (key == "Escape" || key == "F10" || (key == "Tab" && open_ != kNone)) {
     Close();
     window_.ShowFocus();
-    return PageAnswer::kTakenWhole;
+    return PageAnswer::kPrevented;
   }
-  if (key == "Tab") return PageAnswer::kTaken;
+  if (key == "Tab") return PageAnswer::kHandled;
   if (key == "Home" || key == "End") {
     const int step = key == "Home" ? 1 : -1;
     if (open_ == menu) {
@@ -204,12 +204,12 @@ PageAnswer WebMenuBar::TakeKey(std::size_t menu, const PageReport& report) {
     } else {
       FocusTitle(step > 0 ? 0 : menus_.size() - 1);
     }
-    return PageAnswer::kTakenWhole;
+    return PageAnswer::kPrevented;
   }
   if (report.control || report.meta || report.alt || key == "F1" || key == "F9")
     return PageAnswer::kPassed;
   // The control that had the focus before the menu must get no other key either.
-  if (key.size() != 1) return PageAnswer::kTaken;
+  if (key.size() != 1) return PageAnswer::kHandled;
   if (open_ == menu) {
     for (std::size_t i = 0; i < menus_[menu]->entries.size(); ++i) {
       const Entry& entry = *menus_[menu]->entries[i];
@@ -222,7 +222,7 @@ PageAnswer WebMenuBar::TakeKey(std::size_t menu, const PageReport& report) {
       if (menus_[i]->letter == LowerCase(key[0])) FocusTitle(i);
     }
   }
-  return PageAnswer::kTakenWhole;
+  return PageAnswer::kPrevented;
 }
 
 std::size_t WebMenuBar::Next(std::size_t menu, std::size_t entry, int step) const {

@@ -25,15 +25,15 @@ class WebMenuBar {
   // Closes an open menu and returns the focus to the control that had it.
   void Leave();
   // Makes the bar a tab stop if its window is in front.
-  void ShowPlace(bool in_front);
+  void UpdateOrder(bool in_front);
 
  private:
   struct Entry;
   struct Menu;
 
-  PageAnswer TakeTitle(std::size_t menu, const PageReport& report);
-  PageAnswer TakeEntry(std::size_t menu, std::size_t entry, const PageReport& report);
-  PageAnswer TakeKey(std::size_t menu, const PageReport& report);
+  PageAnswer HandleTitle(std::size_t menu, const PageReport& report);
+  PageAnswer HandleEntry(std::size_t menu, std::size_t entry, const PageReport& report);
+  PageAnswer HandleKey(std::size_t menu, const PageReport& report);
   void FocusTitle(std::size_t menu);
   void Open(std::size_t menu);
   void Close();

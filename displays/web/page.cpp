@@ -43,7 +43,7 @@ void page_read_clipboard();
 void page_sound();
 int page_has_picture(const char* name, std::size_t length);
 void page_show_picture(int element, const char* name, std::size_t length);
-int page_is_worked_by_fingers();
+int page_has_coarse_pointer();
 int page_is_mac();
 }
 
@@ -224,7 +224,7 @@ void Sound() { page_sound(); }
 
 bool HasPicture(std::string_view name) { return page_has_picture(name.data(), name.size()) != 0; }
 
-bool IsWorkedByFingers() { return page_is_worked_by_fingers() != 0; }
+bool HasCoarsePointer() { return page_has_coarse_pointer() != 0; }
 
 bool IsMac() { return page_is_mac() != 0; }
 
@@ -238,7 +238,7 @@ extern "C" {
 int page_report(int element, int event, double x, double y, unsigned held, char* text,
                 std::size_t text_length, char* data, std::size_t data_length) {
   // The answer of an event that ends with an exception.
-  vamo::PageAnswer answer = vamo::PageAnswer::kTakenWhole;
+  vamo::PageAnswer answer = vamo::PageAnswer::kPrevented;
   // Done even if nobody receives the report, because it takes ownership of the texts.
   const vamo::PageReport report{.event = static_cast<vamo::PageEvent>(event),
                                 .x = x,
@@ -253,9 +253,9 @@ int page_report(int element, int event, double x, double y, unsigned held, char*
   vamo::RunEvent([&] {
     const auto found = vamo::Page().listeners.find(element);
     if (element < 0) {
-      answer = vamo::Page().owner->Take(report);
+      answer = vamo::Page().owner->Handle(report);
     } else if (found != vamo::Page().listeners.end()) {
-      answer = found->second->Take(report);
+      answer = found->second->Handle(report);
     } else {
       answer = vamo::PageAnswer::kPassed;
     }

@@ -66,15 +66,15 @@ struct PageReport {
 };
 
 // What happens after a report: it goes on to the enclosing element (kPassed); or it is handled,
-// with the browser's default action (kTaken) or without it (kTakenWhole). The numbers are those of
+// with the browser's default action (kHandled) or without it (kPrevented). The numbers are those of
 // page.js.
-enum class PageAnswer { kPassed = 0, kTaken = 1, kTakenWhole = 2 };
+enum class PageAnswer { kPassed = 0, kHandled = 1, kPrevented = 2 };
 
 // Receives what the user does to an element and its contents.
 class PageListener {
  public:
   virtual ~PageListener() = default;
-  virtual PageAnswer Take(const PageReport& report) = 0;
+  virtual PageAnswer Handle(const PageReport& report) = 0;
 };
 
 // Receives the reports that no element's listener has handled, and runs all events.
@@ -89,7 +89,7 @@ class PageHandler : public PageListener {
  public:
   using Handler = std::function<PageAnswer(const PageReport&)>;
   explicit PageHandler(Handler handler) : handler_(std::move(handler)) {}
-  PageAnswer Take(const PageReport& report) override {
+  PageAnswer Handle(const PageReport& report) override {
     // Runs a copy, which lives until it has returned.
     const Handler handler = handler_;
     return handler(report);
@@ -201,7 +201,7 @@ void ReadClipboard(std::function<void(std::optional<std::string>)> take);
 void Sound();
 bool HasPicture(std::string_view name);
 // Whether the user's main pointer is a finger.
-bool IsWorkedByFingers();
+bool HasCoarsePointer();
 bool IsMac();
 
 }  // namespace page

@@ -388,6 +388,6 @@ mergeInto(LibraryManager.library, {
   page_show_picture: function (number, name, length) {
     Page.elements[number].src = document.getElementById(Page.read(name, length)).src;
   },
-  page_is_worked_by_fingers: function () { return matchMedia('(pointer: coarse)').matches; },
+  page_has_coarse_pointer: function () { return matchMedia('(pointer: coarse)').matches; },
   page_is_mac: function () { return navigator.platform.indexOf('Mac') === 0; }
 });

@@ -52,7 +52,8 @@ std::string PathText(const std::vector<Drawing::Point>& points) {
 // Shows a mark in its element.
 class MarkShower {
  public:
-  MarkShower(PageElement& element, Colour ground) : element_(element), ground_(ground) {}
+  MarkShower(PageElement& element, Colour background)
+      : element_(element), background_(background) {}
 
   void operator()(const Drawing::Line& line) const {
     ShowPath(PathText({line.from, line.to}), line.pen);
@@ -71,7 +72,7 @@ class MarkShower {
     element_.SetAttribute("cy", NumberText(dot.middle.y));
     element_.SetAttribute("r", NumberText(dot.radius));
     element_.SetAttribute("fill", ToCss(dot.fill));
-    element_.SetAttribute("stroke", ToCss(ground_));
+    element_.SetAttribute("stroke", ToCss(background_));
     element_.SetAttribute("stroke-width", NumberText(dot.rim));
   }
   void operator()(const Drawing::Text& text) const {
@@ -83,7 +84,7 @@ class MarkShower {
     element_.SetAttribute("font-size", NumberText(text.size));
     element_.SetAttribute("font-weight", text.bold ? "bold" : "normal");
     element_.SetAttribute("fill", ToCss(text.colour));
-    element_.SetAttribute("stroke", ToCss(ground_));
+    element_.SetAttribute("stroke", ToCss(background_));
     element_.SetAttribute("stroke-width", NumberText(Drawing::Text::kHalo));
     element_.SetText(text.text);
   }
@@ -102,7 +103,7 @@ class MarkShower {
   }
 
   PageElement& element_;
-  const Colour ground_;
+  const Colour background_;
 };
 
 std::string_view TagOf(const Drawing::Mark& mark) {
@@ -143,14 +144,14 @@ void WebPane::Update() {
 // Most marks do not change. A mark of the same kind keeps its element; from the first mark of
 // another kind on, all elements are created again.
 void WebPane::ShowDrawing(Drawing drawing) {
-  picture_.SetStyle("background-color", ToCss(drawing.ground));
+  picture_.SetStyle("background-color", ToCss(drawing.background));
   for (std::size_t i = 0; i < drawing.marks.size(); ++i) {
     const Drawing::Mark& mark = drawing.marks[i];
     if (i < marks_.size() && drawing_.marks[i].index() != mark.index()) marks_.resize(i);
     const bool is_new = i == marks_.size();
     if (is_new) marks_.push_back(std::make_unique<PageElement>(picture_, TagOf(mark)));
     if (is_new || drawing_.marks[i] != mark)
-      std::visit(MarkShower(*marks_[i], drawing.ground), mark);
+      std::visit(MarkShower(*marks_[i], drawing.background), mark);
   }
   marks_.resize(drawing.marks.size());
   drawing_ = std::move(drawing);

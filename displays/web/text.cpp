@@ -87,55 +87,56 @@ void WebText::ReportSelection() {
                      ByteOffset(text_.Text(), selection.caret));
 }
 
-PageAnswer WebText::Take(const PageReport& report) {
-  const PageAnswer answer = WebControl::Take(report);
+PageAnswer WebText::Handle(const PageReport& report) {
+  const PageAnswer answer = WebControl::Handle(report);
   switch (report.event) {
     case PageEvent::kFocus:
       if (Window().IsShowingFocus()) ShowSelection();
       return answer;
     case PageEvent::kEdit:
-      return TakeEdit(report);
+      return HandleEdit(report);
     case PageEvent::kInput:
-      TakeWhole(report.text);
-      return PageAnswer::kTaken;
+      ReplaceAll(report.text);
+      return PageAnswer::kHandled;
     case PageEvent::kComposing:
       ReportSelection();
-      return PageAnswer::kTaken;
+      return PageAnswer::kHandled;
     case PageEvent::kComposed:
       // The element contains the browser's edit; the control's text does not.
       Element().SetValue(shown_);
       ShowSelection();
-      TakeTyped(report.text);
-      return PageAnswer::kTakenWhole;
+      Type(report.text);
+      return PageAnswer::kPrevented;
     case PageEvent::kKey:
       // An on-screen keyboard's character also comes as an edit, with its text.
-      return report.data.empty() && CharacterCount(report.text) == 1 ? PageAnswer::kTaken : answer;
+      return report.data.empty() && CharacterCount(report.text) == 1 ? PageAnswer::kHandled
+                                                                     : answer;
     case PageEvent::kClick:
       if (report.x == 0) return answer;
       ReportSelection();
       Window().Shown().UserClicked(Self(&text_));
-      return PageAnswer::kTaken;
+      return PageAnswer::kHandled;
     case PageEvent::kPress:
       // The press places the caret.
-      return text_.Enabled() ? PageAnswer::kTaken : PageAnswer::kPassed;
+      return text_.Enabled() ? PageAnswer::kHandled : PageAnswer::kPassed;
     default:
       return answer;
   }
 }
 
 // Speech control and password managers set a value without announcing an edit.
-void WebText::TakeWhole(const std::string& text) {
+void WebText::ReplaceAll(const std::string& text) {
   if (text == shown_) return;
   Element().SetValue(shown_);
   text_.UserSelected(0, text_.Text().size());
   text_.UserPasted(text);
 }
 
-PageAnswer WebText::TakeEdit(const PageReport& report) {
-  if (Contains(kComposing, report.text)) return PageAnswer::kTaken;
+PageAnswer WebText::HandleEdit(const PageReport& report) {
+  if (Contains(kComposing, report.text)) return PageAnswer::kHandled;
   ReportSelection();
-  if (Contains(kCorrecting, report.text)) return TakeCorrection(report);
-  if (report.text == "insertText") TakeTyped(report.data);
+  if (Contains(kCorrecting, report.text)) return HandleCorrection(report);
+  if (report.text == "insertText") Type(report.data);
   if (Contains(kBrought, report.text)) text_.UserPasted(report.data);
   if (report.text == "historyUndo") {
     Runtime::Current().Dispatch([this, self = Self(&text_)] { text_.Undo(); });
@@ -147,21 +148,21 @@ PageAnswer WebText::TakeEdit(const PageReport& report) {
     key.word = edit.word;
     Window().Shown().UserPressedKey(key);
   }
-  return PageAnswer::kTakenWhole;
+  return PageAnswer::kPrevented;
 }
 
 // Without a range, exchanging two characters would double them.
-PageAnswer WebText::TakeCorrection(const PageReport& report) {
+PageAnswer WebText::HandleCorrection(const PageReport& report) {
   const bool has_place = report.x >= 0 && report.y >= report.x;
   if (has_place) {
     text_.UserSelected(ByteOffset(text_.Text(), static_cast<std::size_t>(report.x)),
                        ByteOffset(text_.Text(), static_cast<std::size_t>(report.y)));
   }
-  if (has_place || report.text != "insertTranspose") TakeTyped(report.data);
-  return PageAnswer::kTakenWhole;
+  if (has_place || report.text != "insertTranspose") Type(report.data);
+  return PageAnswer::kPrevented;
 }
 
-void WebText::TakeTyped(const std::string& typed) { Window().Shown().UserTyped(typed); }
+void WebText::Type(const std::string& typed) { Window().Shown().UserTyped(typed); }
 
 WebField::WebField(WebWindow& window, TextField& field) : WebText(window, field, "input") {
   Element().SetAttribute("type", field.Password() ? "password" : "text");

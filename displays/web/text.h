@@ -17,7 +17,7 @@ class WebText : public WebControl {
   WebText(WebWindow& window, TextEdit& text, std::string_view tag);
 
   void ReportSelection() override;
-  PageAnswer Take(const PageReport& report) override;
+  PageAnswer Handle(const PageReport& report) override;
 
  protected:
   void ShowState() override;
@@ -26,12 +26,12 @@ class WebText : public WebControl {
 
  private:
   void ShowSelection();
-  PageAnswer TakeEdit(const PageReport& report);
+  PageAnswer HandleEdit(const PageReport& report);
   // An edit of a part of the text that need not be selected.
-  PageAnswer TakeCorrection(const PageReport& report);
+  PageAnswer HandleCorrection(const PageReport& report);
   // The element contains another text.
-  void TakeWhole(const std::string& text);
-  void TakeTyped(const std::string& typed);
+  void ReplaceAll(const std::string& text);
+  void Type(const std::string& typed);
 
   TextEdit& text_;
   std::string shown_;
@@ -40,7 +40,7 @@ class WebText : public WebControl {
 class WebField : public WebText {
  public:
   WebField(WebWindow& window, TextField& field);
-  bool OpensKeyboard() const override { return page::IsWorkedByFingers(); }
+  bool OpensKeyboard() const override { return page::HasCoarsePointer(); }
 };
 
 class WebArea : public WebText {

@@ -30,13 +30,13 @@ WebWindow::WebWindow(WebDisplay& display, Window& window)
         if (report.event != PageEvent::kPress) return PageAnswer::kPassed;
         BringToFront();
         // The focus stays where it is.
-        return PageAnswer::kTakenWhole;
+        return PageAnswer::kPrevented;
       }),
-      pressed_([this](const PageReport& report) { return TakePress(report); }),
+      pressed_([this](const PageReport& report) { return HandlePress(report); }),
       closed_([this](const PageReport& report) {
         if (report.event != PageEvent::kClick) return PageAnswer::kPassed;
         window_.UserAskedToClose();
-        return PageAnswer::kTaken;
+        return PageAnswer::kHandled;
       }),
       frame_(display.Page(), "section", &touched_),
       content_(frame_, "div", &pressed_) {
@@ -147,11 +147,11 @@ void WebWindow::BringToFront() {
   display_.Activate(*this);
 }
 
-void WebWindow::ShowPlace(int depth) {
+void WebWindow::UpdateOrder(int depth) {
   frame_.SetStyle("z-index", std::to_string(depth));
   frame_.SetFlag("data-active", IsInFront());
   if (close_button_ != nullptr) close_button_->SetAttribute("tabindex", IsInFront() ? "0" : "-1");
-  if (menu_bar_ != nullptr) menu_bar_->ShowPlace(IsInFront());
+  if (menu_bar_ != nullptr) menu_bar_->UpdateOrder(IsInFront());
   for (WebControl* control : controls_) control->Update();
 }
 
@@ -214,7 +214,7 @@ void WebWindow::Flash() {
   (control != nullptr ? control->Element() : content_).Flash();
 }
 
-PageAnswer WebWindow::TakeKey(const PageReport& report) {
+PageAnswer WebWindow::HandleKey(const PageReport& report) {
   const std::optional<Key> key = ToKey(report, page::IsMac());
   if (!key.has_value()) return PageAnswer::kPassed;
   const bool with_command = key->command && key->code == KeyCode::kCharacter && !key->shift;
@@ -224,30 +224,30 @@ PageAnswer WebWindow::TakeKey(const PageReport& report) {
   }
   ReportSelection();
   const Ref<Window> window = Self(&window_);
-  if (window->UserPressedKey(*key) || !window->IsLive()) return PageAnswer::kTakenWhole;
+  if (window->UserPressedKey(*key) || !window->IsLive()) return PageAnswer::kPrevented;
   if (report.text == "F10" && !report.shift && menu_bar_ != nullptr) {
     menu_bar_->Focus();
-    return PageAnswer::kTakenWhole;
+    return PageAnswer::kPrevented;
   }
   // Nothing else on the page can be selected.
   const bool selects_all = with_command && key->text == "a" && !IsText(FocusedControl());
   const bool types = key->code == KeyCode::kCharacter && !key->command && key->text[0] != kTab;
-  return types || selects_all ? PageAnswer::kTakenWhole : PageAnswer::kPassed;
+  return types || selects_all ? PageAnswer::kPrevented : PageAnswer::kPassed;
 }
 
-void WebWindow::TakeCommand(std::string_view letter) {
+void WebWindow::HandleCommand(std::string_view letter) {
   ReportSelection();
   window_.UserPressedKey(Key::Command(std::string(letter)));
 }
 
 PageAnswer WebWindow::BeginPress(const PageReport& report) {
   const Ref<Window> window = Self(&window_);
-  if (!window->UserBeginsPress(report.x != 0)) return PageAnswer::kTakenWhole;
+  if (!window->UserBeginsPress(report.x != 0)) return PageAnswer::kPrevented;
   if (window->Visible()) display_.Activate(*this);
-  return PageAnswer::kTaken;
+  return PageAnswer::kHandled;
 }
 
-PageAnswer WebWindow::TakePress(const PageReport& report) {
+PageAnswer WebWindow::HandlePress(const PageReport& report) {
   const bool by_other_button = report.event == PageEvent::kOtherPress;
   if (report.event != PageEvent::kPress && !by_other_button) return PageAnswer::kPassed;
   BringToFront();
@@ -256,7 +256,7 @@ PageAnswer WebWindow::TakePress(const PageReport& report) {
                            std::llround(report.y * static_cast<double>(state.height)));
   // The other buttons are left to the browser too; a press of the main button does not move the
   // focus.
-  return by_other_button ? PageAnswer::kTaken : PageAnswer::kTakenWhole;
+  return by_other_button ? PageAnswer::kHandled : PageAnswer::kPrevented;
 }
 
 }  // namespace vamo

@@ -35,16 +35,16 @@ class WebWindow : public WindowView {
   // The user has pressed or focused something in this window.
   void BringToFront();
   // Shows whether the window is in front, and its depth among the others.
-  void ShowPlace(int depth);
+  void UpdateOrder(int depth);
   // Moves the browser's focus to the focused control, but does not open an on-screen keyboard: the
   // user does that by a touch. During the call no change of focus counts as the user's.
   void ShowFocus();
   bool IsShowingFocus() const { return showing_focus_; }
-  PageAnswer TakeKey(const PageReport& report);
-  // Returns kTakenWhole for a press that does not count.
+  PageAnswer HandleKey(const PageReport& report);
+  // Returns kPrevented for a press that does not count.
   PageAnswer BeginPress(const PageReport& report);
   // Handles the command key with that letter.
-  void TakeCommand(std::string_view letter);
+  void HandleCommand(std::string_view letter);
   void ReportSelection();
   // Flashes the focused control.
   void Flash();
@@ -60,7 +60,7 @@ class WebWindow : public WindowView {
  private:
   WebControl* FocusedControl() const;
   void GiveFocus();
-  PageAnswer TakePress(const PageReport& report);
+  PageAnswer HandlePress(const PageReport& report);
   void MakeHiddenHeading();
   void MakeTitleBar();
   void LinkCaptions();

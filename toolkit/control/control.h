@@ -78,7 +78,7 @@ class RectControl : public Control {
   bool TabStop() const { return Trapped(tab_stop_); }
   void SetTabStop(bool tab_stop);
   // Whether the control can have the focus now.
-  bool CanTakeFocus() const { return Trapped(TakesKeys() && enabled_ && visible_); }
+  bool CanTakeFocus() const { return Trapped(HandlesKeys() && enabled_ && visible_); }
 
   // What a screen reader reads for the control. For a label without a name it reads the text.
   const std::string& AccessibleName() const { return Trapped(accessible_name_); }
@@ -91,7 +91,7 @@ class RectControl : public Control {
 
   // Called by the window for a key while this control has the focus. True: the key is handled.
   // False: it is left to the window, and then to the display.
-  virtual bool TakeKey(const Key& /*key*/) { return false; }
+  virtual bool HandleKey(const Key& /*key*/) { return false; }
   // Called by the window when Tab, or a click that was not a drag, has entered the control.
   virtual void EnteredByTab() {}
   virtual void EnteredByClick() {}
@@ -110,7 +110,7 @@ class RectControl : public Control {
  protected:
   virtual AnyControl AsAny() = 0;
   // Whether controls of this class handle keys.
-  virtual bool TakesKeys() const { return false; }
+  virtual bool HandlesKeys() const { return false; }
   // Shows the current state. Call this after each change of something that is shown.
   void Changed();
 

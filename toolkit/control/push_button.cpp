@@ -22,11 +22,11 @@ constinit const ClassInfo PushButton::kClass{
     "PushButton", &RectControl::kClass, Properties::kRows, {}, Allocate<PushButton>};
 
 bool PushButton::UserPressed(std::int64_t x, std::int64_t y) {
-  bool dealt_with = false;
+  bool handled = false;
   Runtime::Current().Dispatch([&, self = Self(this)] {
-    if (Enabled() && MouseDown) dealt_with = MouseDown.Invoke(self, x, y);
+    if (Enabled() && MouseDown) handled = MouseDown.Invoke(self, x, y);
   });
-  return dealt_with;
+  return handled;
 }
 
 bool PushButton::UserPressedByAssistiveTechnology() {

@@ -43,13 +43,13 @@ void Slider::UserMovedTo(std::int64_t position) {
   });
 }
 
-void Slider::UserSetByAssistiveTechnology(double value) {
+void Slider::UserSetValue(double value) {
   UserMovedTo(Truncate(std::round(value * static_cast<double>(positions_per_unit_))));
 }
 
 void Slider::UserTurnedWheel(std::int64_t notches) { MoveBy(notches, line_step_); }
 
-bool Slider::TakeKey(const Key& key) {
+bool Slider::HandleKey(const Key& key) {
   switch (key.code) {
     case KeyCode::kLeft:
     case KeyCode::kDown:

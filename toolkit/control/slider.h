@@ -33,16 +33,16 @@ class Slider : public RectControl {
   // The user has moved the knob to a position; outside the range, it moves to the nearer end.
   void UserMovedTo(std::int64_t position);
   // Assistive technology has set a value in its own unit; the knob moves to the nearest position.
-  void UserSetByAssistiveTechnology(double value);
+  void UserSetValue(double value);
   // The user has turned the wheel by `notches`, positive away from the user.
   void UserTurnedWheel(std::int64_t notches);
 
   // Arrow keys move by LineStep, Page keys by PageStep, Home and End to the ends.
-  bool TakeKey(const Key& key) override;
+  bool HandleKey(const Key& key) override;
 
  protected:
   AnyControl AsAny() override { return this; }
-  bool TakesKeys() const override { return true; }
+  bool HandlesKeys() const override { return true; }
 
  private:
   struct Properties;

@@ -61,7 +61,7 @@ void Runtime::Dispatch(const std::function<void()>& event, Cause cause) {
   const bool outer_had = std::exchange(had_active_window_, static_cast<bool>(active_window_));
   ++events_running_;
   try {
-    if (const std::exception_ptr exception = exception_helper_(event)) TakeException(exception);
+    if (const std::exception_ptr exception = exception_helper_(event)) HandleException(exception);
   } catch (...) {
     // A display's event loop may not let an exception through, so it is kept until after the loop.
     // There is room for one: that of a nested event is reported now.
@@ -80,7 +80,7 @@ void Runtime::AtEndOfEvent(std::function<void()> function) {
   at_end_of_event_.push_back(std::move(function));
 }
 
-void Runtime::TakeException(const std::exception_ptr& exception) {
+void Runtime::HandleException(const std::exception_ptr& exception) {
   try {
     std::rethrow_exception(exception);
   } catch (const EndException&) {

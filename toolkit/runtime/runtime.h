@@ -117,7 +117,7 @@ class Runtime {
   std::int32_t ExitCode() const { return exit_code_; }
 
  private:
-  void TakeException(const std::exception_ptr& exception);
+  void HandleException(const std::exception_ptr& exception);
 
   static Runtime* current_;
 

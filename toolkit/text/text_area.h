@@ -24,7 +24,7 @@ class TextArea : public TextEdit {
 
  protected:
   AnyControl AsAny() override { return this; }
-  bool TakesKeys() const override { return true; }
+  bool HandlesKeys() const override { return true; }
   std::string_view TextToCopy() const override;
   std::size_t CaretAfterWrite() const override { return 0; }
 

@@ -42,7 +42,7 @@ std::size_t WordAfter(std::string_view text, std::size_t at) {
 
 }  // namespace
 
-bool TextField::TakeKey(const Key& key) {
+bool TextField::HandleKey(const Key& key) {
   if (Revision() != last_revision_) typist_.Forget();
   bool taken = false;
   if (key.code == KeyCode::kCharacter && !key.text.empty()) {

@@ -27,7 +27,7 @@ class TextField : public TextEdit {
   const std::string& Hint() const { return Trapped(hint_); }
   bool Password() const { return Trapped(password_); }
 
-  bool TakeKey(const Key& key) override;
+  bool HandleKey(const Key& key) override;
   // Selects all, so that the next key begins a new number. A click keeps what a double click has
   // selected.
   void EnteredByTab() override { UserSelected(0, Text().size()); }
@@ -36,7 +36,7 @@ class TextField : public TextEdit {
 
  protected:
   AnyControl AsAny() override { return this; }
-  bool TakesKeys() const override { return true; }
+  bool HandlesKeys() const override { return true; }
   void RaiseTextChange() override;
   // If the mask has digits, the digits of all scripts count; if it has a point, so does a decimal
   // comma.

@@ -46,8 +46,7 @@ std::string Literals(std::string_view before, std::string_view digit, std::strin
 
 // Whether the user has typed only zeros so far, after the mask's `literals` that were inserted in
 // front of them, and now types the last literal, as the point of "0." under ".###".
-bool TakesPlaceOfZeros(std::string_view before, std::string_view character,
-                       std::string_view literals) {
+bool ReplacesZeros(std::string_view before, std::string_view character, std::string_view literals) {
   return !literals.empty() && !IsDigit(character) && literals.ends_with(character) &&
          before.starts_with(literals) && before.size() > literals.size() &&
          before.find_first_not_of('0', literals.size()) == std::string_view::npos;
@@ -60,7 +59,7 @@ std::optional<std::string> Typed(std::string_view before, std::string_view after
   std::string typed(before);
   const std::string_view literals =
       std::string_view(rule.mask).substr(0, rule.mask.find(kDigitPlace));
-  if (TakesPlaceOfZeros(before, character, literals)) {
+  if (ReplacesZeros(before, character, literals)) {
     typed = literals;
   } else {
     if (IsDigit(character)) typed += Literals(before, character, rule.mask);

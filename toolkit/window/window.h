@@ -214,7 +214,7 @@ class Window : public Object {
   struct Properties;
   void ApplyAccessibleTexts();
   void MakeView();
-  bool TakeKey(const Key& key);
+  bool HandleKey(const Key& key);
   // Presses the button whose key it is. Returns whether there is one.
   bool PressButton(const Key& key);
   // Moves the focus to the next control. Returns false if Tab leaves the window instead.

@@ -62,11 +62,11 @@ void Window::UserAskedToClose() {
 
 bool Window::UserPressedKey(const Key& key) {
   if (!Continues(Gestures().typed, Self(this), key.repeat)) return true;
-  bool dealt_with = false;
+  bool handled = false;
   Key received = key;
   received.text = WithAsciiDigits(key.text);
-  Runtime::Current().Dispatch([&, self = Self(this)] { dealt_with = TakeKey(received); });
-  return dealt_with;
+  Runtime::Current().Dispatch([&, self = Self(this)] { handled = HandleKey(received); });
+  return handled;
 }
 
 void Window::UserTyped(std::string_view text) {
@@ -81,7 +81,7 @@ void Window::UserTyped(std::string_view text) {
   }
 }
 
-bool Window::TakeKey(const Key& key) {
+bool Window::HandleKey(const Key& key) {
   if (ChooseByShortcut(key)) return true;
   // With the command key held, a letter is not a character.
   const bool carries_character = key.code == KeyCode::kCharacter && !key.command;
@@ -92,7 +92,7 @@ bool Window::TakeKey(const Key& key) {
     return true;
   }
   if (key.command && key.code == KeyCode::kCharacter) return false;
-  if (focus_ && focus_->CanTakeFocus() && focus_->TakeKey(key)) return true;
+  if (focus_ && focus_->CanTakeFocus() && focus_->HandleKey(key)) return true;
   if (key.text != std::string_view(&kTab, 1)) return false;
   return MoveFocus(key.shift);
 }
