@@ -8,7 +8,7 @@
 #include <random>
 #include <string>
 
-#include "number_limits.h"
+#include "numbers.h"
 #include "toolkit/object/property_stream.h"
 
 namespace vamo {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "number_limits.h"
+#include "numbers.h"
 #include "stats/interval.h"
 #include "stats/significance.h"
 
@@ -81,25 +81,26 @@ TEST(IntervalChartTest, NothingLiesOutsideTheBox) {
     for (const double r : {0.0, .06, .3, .37, .9, .98, .99999}) {
       for (const std::int64_t N : {4, 5, 30, 400, 1000}) {
         const Drawing drawing = DrawIntervalChart(Calculation{r, N}, width, kHeight);
-        double left = width;
-        double right = 0;
-        const auto take = [&](double x, double reach) {
-          left = std::min(left, x - reach);
-          right = std::max(right, x + reach);
+        double to_edge = kInfinity;
+        const auto take = [&](const Drawing::Point& at, double left, double right) {
+          to_edge = std::min({to_edge, at.x - left, width - at.x - right, at.y, kHeight - at.y});
         };
-        for (const auto& line : All<Drawing::Line>(drawing)) {
-          take(line.from.x, line.pen.width / 2);
-          take(line.to.x, line.pen.width / 2);
+        // The band has the points of its edges.
+        for (const auto& line : All<Drawing::Polyline>(drawing))
+          for (const auto& point : line.points) take(point, 1, 1);
+        for (const auto& [from, to, pen] : All<Drawing::Line>(drawing))
+          for (const auto& end : {from, to}) take(end, pen.width / 2, pen.width / 2);
+        for (const auto& dot : All<Drawing::Dot>(drawing)) {
+          take(dot.middle, dot.radius + dot.rim, dot.radius + dot.rim);
         }
-        for (const auto& dot : All<Drawing::Dot>(drawing)) take(dot.middle.x, dot.radius + dot.rim);
         for (const auto& text : All<Drawing::Text>(drawing)) {
           const double length = .72 * text.size * static_cast<double>(text.text.size());
-          if (text.alignment == TextAlignment::kCentre) take(text.base.x, length / 2);
-          if (text.alignment == TextAlignment::kLeft) take(text.base.x + length, 0);
-          if (text.alignment == TextAlignment::kRight) take(text.base.x - length, 0);
+          const double before = text.alignment == TextAlignment::kLeft     ? 0
+                                : text.alignment == TextAlignment::kCentre ? length / 2
+                                                                           : length;
+          take(text.base, before, length - before);
         }
-        EXPECT_GE(left, 0) << r << ' ' << N;
-        EXPECT_LE(right, width) << r << ' ' << N;
+        EXPECT_TRUE(to_edge >= 0 && to_edge < width) << to_edge << ' ' << r << ' ' << N;
       }
     }
   }

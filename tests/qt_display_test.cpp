@@ -149,6 +149,19 @@ TEST(QtDisplayTest, AWindowThatIsHiddenWithinTheEventIsNeverShown) {
   });
 }
 
+TEST(QtDisplayTest, WhileAWindowWaitsForTheFocusNoOtherIsActivated) {
+  InControlWindow([](User& user) {
+    QWidget& control = *QApplication::activeWindow();
+    user.Click(Role::kButton, "Info");
+    AboutWnd()->Show();
+    // The splash is on the screen, but nothing has reported yet that it has the focus.
+    QCoreApplication::sendPostedEvents();
+    QEvent activation(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&control, &activation);
+    EXPECT_TRUE(AboutWnd()->Visible()) << "the control window hides it when it is activated";
+  });
+}
+
 TEST(QtDisplayTest, AWindowThatIsActivatedAgainHasTheFocusAndNotItsMenuBar) {
   InControlWindow([](User& user) {
     QWidget& control = *QApplication::activeWindow();

@@ -202,7 +202,7 @@ void MoveTo(QScreen& screen, QWidget& window) {
 }
 
 TEST(QtLooksTest, NoWindowIsLargerThanItsScreen) {
-  RunProgram([](User& user) {
+  FromTheStart([](User& user) {
     QScreen& large = *QGuiApplication::screens().front();
     QScreen& small = *QGuiApplication::screens().back();
     MoveTo(small, *QApplication::activeWindow());

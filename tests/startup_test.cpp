@@ -336,7 +336,7 @@ TEST(LinkTest, TakesWhatANumberMayBeAndNothingElse) {
 }
 
 TEST(LinkTest, DoesWhatAUserWouldDo) {
-  RunFailingAt("", [](HeadlessUser& user) {
+  InProgram([](HeadlessUser& user) {
     EndSplash();
     user.LetTimePass(0ms);
     ASSERT_EQ(user.ActiveTitle(), "Vamo");

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "controlwnd/accessors.h"
+#include "numbers.h"
 #include "test_program.h"
 #include "toolkit/object/property_stream.h"
 
@@ -13,20 +14,12 @@ namespace {
 
 std::vector<std::uint64_t> taken_digests;
 
-// The 64-bit FNV-1a digest of all bytes from the length byte to the closing zero.
-std::uint64_t Digest(PropertyStream stream) {
-  std::uint64_t digest = 0xCBF29CE484222325;
-  for (const char byte : std::string_view(stream.bytes, stream.length + 2)) {
-    digest = (digest ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
-  }
-  return digest;
-}
-
 }  // namespace
 
 // Replaces the toolkit's reader at link time and sets nothing.
 void _SetProperties(Object& /*object*/, PropertyStream stream) {
-  taken_digests.push_back(Digest(stream));
+  // From the length byte to the closing zero.
+  taken_digests.push_back(Digest(std::string_view(stream.bytes, stream.length + 2)));
 }
 
 namespace {

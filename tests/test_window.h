@@ -32,7 +32,7 @@ struct CallLog : Object {
   std::vector<std::string> entries;
 };
 
-// A window with one control of each kind that takes input, each named after its class.
+// A window with a slider, a field, a label and a timer, each named after its class.
 class TestWindow : public Window {
  public:
   static inline const ClassInfo kClass{"TestWindow.TestWindow", &Window::kClass, {}};

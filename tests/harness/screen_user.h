@@ -37,7 +37,7 @@ struct Scale {
 std::string NameOf(const Key& key);
 // The distance from the left of a slider's box to the middle of its knob at a position.
 int KnobAt(std::int64_t position, const Scale& scale, int width);
-// The role with that name; nothing if it is not that of a text, slider, button or label.
+// The role with that name; nothing if there is none.
 std::optional<Role> RoleNamed(std::string_view role_name);
 [[noreturn]] void FailToFind(std::string_view what);
 

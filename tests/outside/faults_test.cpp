@@ -83,7 +83,8 @@ TEST(Faults, ItEndsWithItsDisplayAndWhenTheSystemAsksForIt) {
 }
 
 TEST(Faults, AClipboardWhoseOwnerHangsDoesNotDelayTheProgram) {
-  Child owner({"xclip", "-quiet", "-selection", "clipboard", "-i", VAMO_CHART});
+  // The owner ends after it has answered twice.
+  Child owner({"xclip", "-quiet", "-loops", "2", "-selection", "clipboard", "-i", VAMO_CHART});
   Output({"sh", "-c", "until xclip -selection clipboard -o; do sleep .1; done"});
   kill(owner.id(), SIGSTOP);
   InControlWindow([](OutsideUser& user) {
@@ -91,6 +92,9 @@ TEST(Faults, AClipboardWhoseOwnerHangsDoesNotDelayTheProgram) {
     user.Click(Role::kButton, "Info");
     EXPECT_EQ(user.ActiveTitle(), "Info");
   });
+  kill(owner.id(), SIGCONT);
+  EXPECT_NE(Output({"sh", "-c", "xclip -selection clipboard -o || true"}), "")
+      << "the program has asked for the second answer";
 }
 
 TEST(Faults, ClosedStandardStreamsAreNotReused) {

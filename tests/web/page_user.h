@@ -65,7 +65,7 @@ class PageUser : public ScreenUser<SeenElement> {
   int Beeps() override;
   std::vector<std::string> Hears() override;
   bool Running() override;
-  // The exit status that the page shows at its end.
+  // 0 or 1, from the sentence that the page shows at its end; kStillRunning before.
   int ExitStatus();
   Browser& TheBrowser() { return browser_; }
 
