@@ -22,8 +22,6 @@ using Pen = Drawing::Pen;
 constexpr double kSmallestBox = 260;
 constexpr double kSignificantP = .05;
 
-constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
-constexpr Colour kBlack{0, 0, 0};
 constexpr Colour kPaleRed{0xF0, 0xDE, 0xDE};
 constexpr Colour kBlue{0x1F, 0x5F, 0x8F};
 constexpr Colour kFrameGrey{0xC4, 0xC4, 0xC4};

@@ -6,14 +6,12 @@
 #include <cstdint>
 #include <string_view>
 
+#include "controlwnd/colours.h"
 #include "toolkit/style.h"
 #include "toolkit/window/timer.h"
 #include "toolkit/window/window.h"
 
 namespace vamo {
-
-inline constexpr Colour kBlack{0, 0, 0};
-inline constexpr Colour kWhite{0xFF, 0xFF, 0xFF};
 
 struct WindowRow {
   std::int64_t width, height;

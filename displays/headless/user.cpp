@@ -45,6 +45,34 @@ void HandleKey(TextEdit& text, const Key& key) {
                                  std::string(name) + "\".");
 }
 
+void ClickOn(const HeadlessControl& control) {
+  RectControl& target = control.Control();
+  vamo::Window& window = control.Window().Shown();
+  if (!window.UserBeginsPress(/*repeat=*/false)) return;
+  if (auto* button = dynamic_cast<PushButton*>(&target)) {
+    button->UserPressed(1, 1);
+  } else if (target.CanTakeFocus()) {
+    window.UserFocused(Self(&target));
+    // There are no positions here, so the caret goes to the end.
+    auto* text = dynamic_cast<TextEdit*>(&target);
+    if (text != nullptr) text->UserSelected(text->Text().size(), text->Text().size());
+    window.UserClicked(Self(&target));
+  } else {
+    window.UserPressedMouse(target.Bounds().left, target.Bounds().top);
+  }
+}
+
+Ref<MenuItem> FindItem(std::string_view path) {
+  const std::size_t slash = path.find('/');
+  for (const DrawnMenu& menu : DrawnMenus(*ActiveMenuBar())) {
+    if (menu.text != path.substr(0, slash)) continue;
+    for (const Ref<MenuItem>& item : menu.items) {
+      if (item->Value() == path.substr(slash + 1)) return item;
+    }
+  }
+  FailToFind("menu item", path);
+}
+
 }  // namespace
 
 template <class ControlClass>
@@ -89,23 +117,6 @@ void HeadlessUser::ClickDescribed(std::string_view description) {
   display_.Do([&] { ClickOn(FindDescribed(description)); });
 }
 
-void HeadlessUser::ClickOn(const HeadlessControl& control) {
-  RectControl& target = control.Control();
-  vamo::Window& window = control.Window().Shown();
-  if (!window.UserBeginsPress(/*repeat=*/false)) return;
-  if (auto* button = dynamic_cast<PushButton*>(&target)) {
-    button->UserPressed(1, 1);
-  } else if (target.CanTakeFocus()) {
-    window.UserFocused(Self(&target));
-    // There are no positions here, so the caret goes to the end.
-    auto* text = dynamic_cast<TextEdit*>(&target);
-    if (text != nullptr) text->UserSelected(text->Text().size(), text->Text().size());
-    window.UserClicked(Self(&target));
-  } else {
-    window.UserPressedMouse(target.Bounds().left, target.Bounds().top);
-  }
-}
-
 void HeadlessUser::DragSlider(std::string_view name, const std::vector<std::int64_t>& positions) {
   Click(Role::kSlider, name);
   for (const std::int64_t position : positions) {
@@ -134,17 +145,6 @@ bool HeadlessUser::Choose(std::string_view path) {
 bool HeadlessUser::CanChoose(std::string_view path) {
   display_.Do(UserOpensMenu);
   return FindItem(path)->Enabled();
-}
-
-Ref<MenuItem> HeadlessUser::FindItem(std::string_view path) const {
-  const std::size_t slash = path.find('/');
-  for (const DrawnMenu& menu : DrawnMenus(*ActiveMenuBar())) {
-    if (menu.text != path.substr(0, slash)) continue;
-    for (const Ref<MenuItem>& item : menu.items) {
-      if (item->Value() == path.substr(slash + 1)) return item;
-    }
-  }
-  FailToFind("menu item", path);
 }
 
 void HeadlessUser::Close(std::string_view title) {

@@ -15,10 +15,9 @@
 namespace vamo {
 
 class HeadlessControl;
-class MenuItem;
 
-// The user of the headless display. A key that the program does not handle moves the caret of a
-// text control or, if it is A with the command key, selects all.
+// The user of the headless display. In a text control, a key that the program does not handle moves
+// the caret, selects all (A with the command key) or cuts (Delete with Shift).
 class HeadlessUser : public User {
  public:
   explicit HeadlessUser(HeadlessDisplay& display) : display_(display) {}
@@ -61,8 +60,6 @@ class HeadlessUser : public User {
   template <class ControlClass>
   ControlClass& Find(Role role, std::string_view name) const;
   HeadlessControl& FindDescribed(std::string_view description) const;
-  void ClickOn(const HeadlessControl& control);
-  Ref<MenuItem> FindItem(std::string_view path) const;
 
   HeadlessDisplay& display_;
 };

@@ -21,11 +21,6 @@ const RectControl* ControlOf(const QWidget* widget) {
   return shows == nullptr ? nullptr : shows->Control();
 }
 
-bool IsCaptionOf(const RectControl& caption, const RectControl& control) {
-  const Ref<Label> its_caption = control.LabelledBy();
-  return its_caption && &*its_caption == &caption;
-}
-
 // A control with its captions, or with the controls that it is the caption of: Qt knows only one
 // widget for each caption.
 class AccessibleControl : public QAccessibleWidget {
@@ -40,10 +35,10 @@ class AccessibleControl : public QAccessibleWidget {
          widget()->parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       const RectControl* other = ControlOf(sibling);
       if (other == nullptr) continue;
-      if (match.testFlag(QAccessible::Label) && IsCaptionOf(*other, *control)) {
+      if (match.testFlag(QAccessible::Label) && control->IsLabelledBy(*other)) {
         related.append({QAccessible::queryAccessibleInterface(sibling), QAccessible::Label});
       }
-      if (match.testFlag(QAccessible::Labelled) && IsCaptionOf(*control, *other)) {
+      if (match.testFlag(QAccessible::Labelled) && other->IsLabelledBy(*control)) {
         related.append({QAccessible::queryAccessibleInterface(sibling), QAccessible::Labelled});
       }
     }

@@ -80,7 +80,7 @@ class Menu : public QMenu {
     QString letters_in_use;
     for (const auto& [action, item] : entries_) {
       action->setSeparator(IsSeparator(*item));
-      action->setVisible(item->Visible() && !item->Value().empty());
+      action->setVisible(IsDrawn(*item));
       action->setEnabled(item->Enabled());
       action->setCheckable(item->Checked().has_value());
       action->setChecked(item->Checked().value_or(false));

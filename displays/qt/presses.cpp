@@ -16,7 +16,7 @@ RectControl* ControlAt(const QWidget& window, const QPoint& at) {
   QWidget* widget = window.childAt(at);
   // A control's widget may contain others.
   for (; widget != nullptr; widget = widget->parentWidget()) {
-    if (auto* found = dynamic_cast<ControlWidget*>(widget)) return found->Control();
+    if (const auto* found = dynamic_cast<ControlWidget*>(widget)) return found->Control();
   }
   return nullptr;
 }

@@ -16,11 +16,6 @@ bool LiesIn(const WebControl& control, const WebControl* parent) {
          (parent == nullptr ? std::string() : parent->Control().Name());
 }
 
-bool IsCaptionOf(const WebControl& caption, const WebControl& control) {
-  const Ref<Label> label = control.Control().LabelledBy();
-  return label && &*label == &caption.Control();
-}
-
 }  // namespace
 
 Arrangement::Arrangement(PageElement& content, const std::vector<WebControl*>& controls)
@@ -65,7 +60,8 @@ void Arrangement::PlaceBeside(const Block& block, const std::vector<WebControl*>
     };
     const WebControl* caption = control_at(i);
     const WebControl* next = control_at(i + 1);
-    const bool begins_pair = caption != nullptr && next != nullptr && IsCaptionOf(*caption, *next);
+    const bool begins_pair =
+        caption != nullptr && next != nullptr && next->Control().IsLabelledBy(caption->Control());
     PageElement* const place = begins_pair ? &MakeBox(row, "pair") : pair;
     Place(block.parts[i], controls, place != nullptr ? *place : row);
     pair = begins_pair ? place : nullptr;

@@ -14,8 +14,7 @@ namespace {
 // A caption is a label, a result is an output, and any other text is a span.
 std::string_view TagOf(const Label& label) {
   for (const Ref<RectControl>& control : label.Window()->Controls()) {
-    const Ref<Label> caption = control->LabelledBy();
-    if (caption && &*caption == &label) return "label";
+    if (control->IsLabelledBy(label)) return "label";
   }
   return label.AccessibleDescription().empty() ? "span" : "output";
 }

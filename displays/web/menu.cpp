@@ -30,7 +30,7 @@ struct WebMenuBar::Entry {
 
   void Show() {
     const bool separates = IsSeparator(*item);
-    shows = item->Visible() && !item->Value().empty();
+    shows = IsDrawn(*item);
     element.SetFlag("hidden", !shows);
     const std::optional<bool> checked = item->Checked();
     element.SetAttribute("role", separates ? "separator"

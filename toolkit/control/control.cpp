@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "toolkit/control/label.h"
 #include "toolkit/control/properties.h"
 #include "toolkit/object/ui_trap.h"
 
@@ -66,6 +67,11 @@ void RectControl::SetAccessibleDescription(std::string_view description) {
   _UITrap();
   accessible_description_ = description;
   Changed();
+}
+
+bool RectControl::IsLabelledBy(const RectControl& control) const {
+  const Ref<Label> caption = LabelledBy();
+  return caption && &*caption == &control;
 }
 
 void RectControl::SetLabelledBy(const Ref<Label>& label) {

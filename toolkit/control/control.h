@@ -88,11 +88,13 @@ class RectControl : public Control {
   // The label that is the caption of this control, or nil.
   Ref<Label> LabelledBy() const { return Trapped(labelled_by_.Value()); }
   void SetLabelledBy(const Ref<Label>& label);
+  // Whether `control` is this control's caption.
+  bool IsLabelledBy(const RectControl& control) const;
 
   // Called by the window for a key while this control has the focus. True: the key is handled.
   // False: it is left to the window, and then to the display.
   virtual bool HandleKey(const Key& /*key*/) { return false; }
-  // Called by the window when Tab, or a click that was not a drag, has entered the control.
+  // Called by the window when Tab, or a press that has ended there, has entered the control.
   virtual void EnteredByTab() {}
   virtual void EnteredByClick() {}
   // Called by the window with text that an input method has entered as a whole, in valid UTF-8.

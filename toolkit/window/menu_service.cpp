@@ -46,7 +46,7 @@ Ref<MenuItem> FindByShortcut(const std::vector<Ref<MenuItem>>& items, std::strin
   return nullptr;
 }
 
-// The text of the shortcut that the key may be; empty if it cannot be one.
+// The shortcut that the key would match; empty if it can match none.
 std::string ShortcutText(const Key& key) {
   if (key.code == KeyCode::kF9 && !key.shift && !key.command) return "F9";
   if (!key.command || key.shift || key.text.size() != 1) return "";
@@ -68,11 +68,9 @@ Ref<MenuBar> ActiveMenuBar() {
 }
 
 bool IsSeparator(const MenuItem& item) { return item.Value() == "-"; }
+bool IsDrawn(const MenuItem& item) { return item.Visible() && !item.Value().empty(); }
 
 std::vector<DrawnMenu> DrawnMenus(const MenuBar& bar) {
-  const auto is_drawn = [](const MenuItem& item) {
-    return item.Visible() && !item.Value().empty();
-  };
   std::vector<DrawnMenu> menus;
   DrawnMenu help{"Help", {}};
   bool has_view = false;
@@ -80,12 +78,12 @@ std::vector<DrawnMenu> DrawnMenus(const MenuBar& bar) {
     if (!std::exchange(has_view, true)) menus.push_back({std::string(kViewMenu), ViewItems()});
   };
   for (const Ref<MenuItem>& menu : bar.Children()) {
-    if (!is_drawn(*menu)) continue;
+    if (!IsDrawn(*menu)) continue;
     if (menu->Value() == "Window") add_view();
     menus.push_back({menu->Value(), {}});
     for (const Ref<MenuItem>& item : menu->Children()) {
       const bool is_apple = dynamic_cast<AppleMenuItem*>(&*item) != nullptr;
-      if (is_drawn(*item)) (is_apple ? help : menus.back()).items.push_back(item);
+      if (IsDrawn(*item)) (is_apple ? help : menus.back()).items.push_back(item);
     }
   }
   add_view();

@@ -22,6 +22,8 @@ struct DrawnMenu {
 
 // Whether an item is drawn as a separator line.
 bool IsSeparator(const MenuItem& item);
+// Whether a display draws the item: it is visible and has a text.
+bool IsDrawn(const MenuItem& item);
 
 // The menus of a bar as every display draws them. Menus and items that are invisible or have no
 // text are left out. The View menu comes before "Window", or else at the end. AppleMenuItems go to
