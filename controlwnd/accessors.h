@@ -1,8 +1,7 @@
-// Accessors by which the windows find each other and the menu bar, without their classes.
+// Accessors through which windows find each other and the menu bar without knowing their classes.
 //
-// The control window and the About window use each other. For that, the control window includes
-// only this header: the classes of the other windows and of the menu bar are known only where their
-// accessors are defined, above this layer.
+// The control window and the About window use each other. So the control window includes only this
+// header, and the layer above defines the accessors of its own windows and of the menu bar.
 #ifndef VAMO_CONTROLWND_ACCESSORS_H_
 #define VAMO_CONTROLWND_ACCESSORS_H_
 

@@ -22,8 +22,7 @@ inline constexpr std::int64_t kLowestN = 4;
 inline constexpr std::int64_t kHighestN = 1000;
 
 // All functions here are pure. `last` is empty before the first calculation. An r that is not a
-// correlation counts as none, and an N outside that range as no sample
-// size.
+// correlation counts as none, and so does an N outside that range.
 
 // Draws the last calculation at a size in logical pixels. The upper part shows the interval on an
 // axis of r. The lower part shows, for every N of the range on a logarithmic axis, the interval

@@ -15,7 +15,7 @@ struct LinkedValue {
 };
 
 // Returns the values in the fragment of a link, such as "#r=.5&N=30", in their order; %2E is a
-// point. Ignores a part without a name or a value, a part longer than a number can be, and a
+// point. Ignores a part without a name or a value, a name or value longer than 16 bytes, and a
 // fragment too long to be meant for the program.
 std::vector<LinkedValue> ParseLink(std::string_view fragment);
 

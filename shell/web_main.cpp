@@ -13,7 +13,7 @@ namespace {
 
 std::unique_ptr<vamo::Process> process;
 
-// Typing must wait for the window behind the splash.
+// Typing must wait until the control window is active.
 void OpenLink(std::string_view link) {
   std::vector<vamo::LinkedValue> values = vamo::ParseLink(link);
   const bool with_chart = vamo::LinksToChart(link);

@@ -34,8 +34,8 @@ struct Bounds {
   std::int64_t height = 0;
 };
 
-// Which sides of a control keep their distance from that side of a window that is resized. No
-// window can be.
+// Which sides of a control keep their distance from the same side of a resized window. No window of
+// the program can be resized.
 struct Locks {
   bool left = false;
   bool top = false;

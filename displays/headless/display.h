@@ -69,7 +69,7 @@ class HeadlessDisplay : public Display {
   friend class HeadlessTimer;
   friend class HeadlessWindow;
 
-  // Activates the window that the last act has shown or brought to the front.
+  // Activates the window that is next in order, until there is none.
   void ActivateNext();
 
   std::function<void(HeadlessUser&)> act_;

@@ -82,7 +82,7 @@ class HeadlessTimer : public RunningTimer {
   ~HeadlessTimer() override;
 
   std::chrono::milliseconds Due() const { return due_; }
-  // Fires, and is due again after a period. What fires may destroy the timer.
+  // Calls the function, which may destroy the timer, and is due again after a period.
   void Fire();
 
  private:

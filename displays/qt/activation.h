@@ -18,8 +18,8 @@ class Activation {
  public:
   Activation();
 
-  // A press has begun in the window, which the toolkit now treats as active. Where no window
-  // manager activates it, this must.
+  // A press has begun in the window, which the toolkit now treats as active. Activates it if the
+  // window manager has not.
   void Pressed(WindowWidget& window);
   // The window has been shown and is waiting for the focus.
   void Await(WindowWidget& window);

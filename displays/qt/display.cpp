@@ -102,13 +102,13 @@ std::unique_ptr<RunningTimer> QtDisplay::StartTimer(std::chrono::milliseconds pe
 
 std::string QtDisplay::ClipboardText() {
   const QClipboard* clipboard = QGuiApplication::clipboard();
-  // Each request waits for an owner that hangs. This one tells whether the next would be in vain.
+  // Each request blocks if the clipboard's owner hangs. This one spares the second wait.
   const QMimeData* held = clipboard->mimeData();
   if (held == nullptr || held->formats().isEmpty()) return "";
   return ToUtf8(clipboard->text());
 }
 
-// Another program would have to be asked what it holds, and Qt waits for the answer.
+// Asking another program what it holds would block until it answers.
 bool QtDisplay::ClipboardMayHoldText() const {
   const QClipboard* clipboard = QGuiApplication::clipboard();
   return !clipboard->ownsClipboard() || clipboard->mimeData()->hasText();

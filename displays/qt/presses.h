@@ -9,9 +9,8 @@ namespace vamo {
 class Activation;
 class WindowWidget;
 
-// Reports where presses of the mouse and of fingers begin in a window, before a widget gets them,
-// because Qt moves the focus before it asks the widget. A press that the toolkit refuses reaches no
-// widget.
+// Reports presses of the mouse and of fingers before the widgets get them, because Qt moves the
+// focus first. A press that the toolkit refuses reaches no widget.
 class PressRouter : public QObject {
  public:
   PressRouter(WindowWidget& window, Activation& activation);

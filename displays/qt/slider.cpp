@@ -17,8 +17,7 @@ constexpr int kAnglePerNotch = 120;
 
 SliderWidget::SliderWidget(Slider& slider, QWidget& parent) : WidgetFor(slider, parent) {
   setOrientation(Qt::Horizontal);
-  // The handlers below report the mouse and the wheel, and the toolkit handles the keys, so this is
-  // something else, such as assistive technology.
+  // Reports a value that something other than the handlers below has set.
   connect(this, &QSlider::valueChanged, this, [this](int position) {
     if (IsUsersDoing()) Report(position);
   });

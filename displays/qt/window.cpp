@@ -186,8 +186,8 @@ void WindowWidget::MapAgain() {
 }
 
 void WindowWidget::TakeOffScreen() {
-  // Before the window is hidden: a window manager that loses the active window may choose any other
-  // one, and without a window manager nothing is chosen.
+  // Before hiding: a window manager might activate any other window, and without one none would be
+  // activated.
   QWindow* next = isActiveWindow() ? NextToBeActive() : nullptr;
   if (next != nullptr) next->requestActivate();
   const QRect at = geometry();

@@ -87,7 +87,7 @@ class WindowWidget : public QWidget {
 // event.
 std::vector<WindowWidget*> AllWindows();
 
-// The view through which a window reaches its widget, which it owns.
+// The view through which a window reaches its widget. The view owns the widget.
 class QtWindowView : public WindowView {
  public:
   QtWindowView(Window& window, Activation& activation, Zoom& zoom);

@@ -28,8 +28,7 @@ class Zoom {
   // Handles their keys, the command key with plus, minus or 0. Returns false for any other key.
   bool HandleKey(const QKeyEvent& event);
 
-  // Makes all windows smaller until each fits its screen. The screens report when they become
-  // smaller.
+  // Makes all windows smaller until each fits its screen. Also called when a screen changes.
   void FitScreen();
 
  private:

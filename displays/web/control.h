@@ -41,7 +41,7 @@ class WebControl : public ControlView, public PageListener {
   virtual void ReportSelection() {}
   // Moves the browser's focus here.
   void ShowFocus();
-  // Whether the focus opens an on-screen keyboard here.
+  // Whether focusing this control opens an on-screen keyboard.
   virtual bool OpensKeyboard() const { return false; }
 
  protected:

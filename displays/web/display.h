@@ -49,13 +49,13 @@ class WebDisplay : public Display, public PageOwner {
   // The active window, or null.
   WebWindow* Front() const;
   void Activate(WebWindow& window);
-  // Activates the window whose turn it is, in a separate event.
+  // Activates the next window in order, in a separate event.
   void ActivateLater();
-  // Calls `act`, which may ask for the clipboard's text; that is then `text`.
+  // Calls `act`; until it returns, ClipboardText returns `text`.
   void WithPasted(std::string text, const std::function<void()>& act);
 
  private:
-  // Calls `act` as a separate event, unless the program ends before.
+  // Calls `act` as a separate event, unless the program ends first.
   void Post(std::function<void()> act);
   void ActivateNext();
   // Tells the style sheet which of the two layouts the page has room for.

@@ -237,7 +237,7 @@ extern "C" {
 // For an element, or with -1 for the owner of the page.
 int page_report(int element, int event, double x, double y, unsigned held, char* text,
                 std::size_t text_length, char* data, std::size_t data_length) {
-  // The answer of an event that ends with an exception.
+  // The answer if an exception ends the event.
   vamo::PageAnswer answer = vamo::PageAnswer::kPrevented;
   // Done even if nobody receives the report, because it takes ownership of the texts.
   const vamo::PageReport report{.event = static_cast<vamo::PageEvent>(event),

@@ -192,8 +192,8 @@ double Width();
 // Reports the fragment of the page's address.
 void TellLink();
 
-// Puts a text on the clipboard. Returns false if the browser refuses. Call this only during an act
-// of the user.
+// Puts a text on the clipboard. Returns false if the browser refuses. Call this only while
+// handling what the user does.
 bool Copy(std::string_view text);
 // Asks for the clipboard's text. Calls `take` with nothing if the browser or the user refuses.
 void ReadClipboard(std::function<void(std::optional<std::string>)> take);

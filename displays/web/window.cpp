@@ -173,7 +173,7 @@ bool WebWindow::ShowPane() {
   return true;
 }
 
-// The user has moved the focus by a key.
+// Scrolls the focused control into view.
 void WebWindow::UpdateFocus() {
   GiveFocus();
   WebControl* control = FocusedControl();

@@ -21,7 +21,7 @@ class Slider : public RectControl {
   std::int64_t MaximumValue() const { return Trapped(maximum_); }
   std::int64_t LineStep() const { return Trapped(line_step_); }
   std::int64_t PageStep() const { return Trapped(page_step_); }
-  // Assistive technology reads a position as position / positions.
+  // Assistive technology reads each position divided by `positions`.
   void SetPositionsPerUnit(std::int64_t positions) { positions_per_unit_ = Trapped(positions); }
   double InUnits(std::int64_t position) const {
     return static_cast<double>(Trapped(position)) / static_cast<double>(positions_per_unit_);
@@ -32,7 +32,8 @@ class Slider : public RectControl {
 
   // The user has moved the knob to a position; outside the range, it moves to the nearer end.
   void UserMovedTo(std::int64_t position);
-  // Assistive technology has set a value in its own unit; the knob moves to the nearest position.
+  // The user has set a value in units, with assistive technology or with the slider of a browser;
+  // the knob moves to the nearest position.
   void UserSetValue(double value);
   // The user has turned the wheel by `notches`, positive away from the user.
   void UserTurnedWheel(std::int64_t notches);

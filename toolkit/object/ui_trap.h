@@ -5,7 +5,7 @@
 namespace vamo {
 
 // Raises ThreadAccessingUIException if an application object exists and the caller is not on the
-// main thread. Every operation on a window, a control, a menu item or a picture begins with it.
+// main thread. Operations on windows, controls, menu items and pictures begin with it.
 void _UITrap();
 
 // Returns `value` after the guard, for operations of one line.

@@ -13,8 +13,8 @@
 // If Window::UserPressedKey returns false, the display handles the key: if the platform moves the
 // caret or selects at this key, so does the display, and then reports TextEdit::UserSelected.
 //
-// When the active window is hidden or closed, the front one of the others is activated. A window
-// manager does that; a display without one uses WindowOrder.
+// When the active window is hidden or closed, another visible window must be activated. A display
+// without a window manager uses WindowOrder, which takes the front one.
 #ifndef VAMO_TOOLKIT_RUNTIME_DISPLAY_H_
 #define VAMO_TOOLKIT_RUNTIME_DISPLAY_H_
 
@@ -111,7 +111,7 @@ class Display {
   virtual void Run() = 0;
 
   // Called when the program is to end: must handle no more events after the current one, and then
-  // make Run return or, if it has returned already, have the program finished.
+  // make Run return or, if it has returned already, make the program finish.
   virtual void Stop() = 0;
 
   // Called while a window is constructed, after it has its state and its controls. The window

@@ -7,7 +7,7 @@
 
 namespace vamo {
 
-// What a key without a character does.
+// Which key was pressed; kCharacter for every key that has a character.
 enum class KeyCode {
   kCharacter,
   kLeft,

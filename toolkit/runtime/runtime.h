@@ -24,8 +24,7 @@
 namespace vamo {
 
 class FileType;
-// The run time keeps the windows and takes them off the display at the end; it calls nothing else
-// of them.
+// The run time holds the windows and calls nothing of them.
 class Window;
 
 // Calls a function and returns the RuntimeException that it raised, or null. Any other exception
@@ -78,8 +77,8 @@ class Runtime {
     if (!fields.has_value()) fields.emplace<Fields>();
     return *std::any_cast<Fields>(&fields);
   }
-  // Takes the windows off the display and releases them, the module-level fields and the
-  // application object, in this order.
+  // Releases the windows, the module-level fields, the file types and the application object, in
+  // this order.
   void PerformFinalizers();
 
   // The program's file types, in the order of their registration.
@@ -156,8 +155,8 @@ void Quit(std::int32_t exit_code);
 // line on standard error and ends the event loop with exit code 1.
 void _UnhandledException(const std::exception_ptr& exception);
 
-// Whether the class of that name, which is the object's class or one of its bases, implements the
-// event. With `user` the class itself must implement it; without, one of its bases may.
+// Whether the named class, the object's own or one of its bases, implements the event. With `user`,
+// an implementation in a base of the named class does not count.
 bool _RuntimeIsEventHandled(const Object& object, std::string_view class_name,
                             std::string_view event, bool user);
 

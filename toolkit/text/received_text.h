@@ -1,4 +1,4 @@
-// How text is changed that reaches a field as a whole or with digits of another script.
+// Converts text that reaches a field as a whole or with digits of another script.
 #ifndef VAMO_TOOLKIT_TEXT_RECEIVED_TEXT_H_
 #define VAMO_TOOLKIT_TEXT_RECEIVED_TEXT_H_
 

@@ -28,8 +28,8 @@ class TextField : public TextEdit {
   bool Password() const { return Trapped(password_); }
 
   bool HandleKey(const Key& key) override;
-  // Selects all, so that the next key begins a new number. A click keeps what a double click has
-  // selected.
+  // Selects all, so that the next key begins a new number. A click keeps what a drag or a double
+  // click has selected.
   void EnteredByTab() override { UserSelected(0, Text().size()); }
   void EnteredByClick() override;
   std::string Typed(std::string_view text) const override;

@@ -44,8 +44,8 @@ std::string Literals(std::string_view before, std::string_view digit, std::strin
   return literals;
 }
 
-// Whether the user has typed only zeros so far, after the mask's `literals` that were inserted in
-// front of them, and now types the last literal, as the point of "0." under ".###".
+// Whether `before` is the mask's `literals` and then only zeros, and the character is the last
+// literal, as the point of "0." under ".###".
 bool ReplacesZeros(std::string_view before, std::string_view character, std::string_view literals) {
   return !literals.empty() && !IsDigit(character) && literals.ends_with(character) &&
          before.starts_with(literals) && before.size() > literals.size() &&

@@ -20,16 +20,15 @@ struct TypingRule {
 
 // Returns the text in front of the caret after the user has typed `character` between `before` and
 // `after`: `before`, then the literals that the mask has in front of a typed digit, then
-// `character`. So "5" in the empty field under ".###" gives ".5". "0.5" gives ".5" too: by the time
-// the point is typed, the zero has become ".0", and a literal that is typed after itself and
-// nothing but zeros replaces them. Returns nothing if the whole text would not fit the rule. All
-// texts are valid UTF-8.
+// `character`. So "5" in the empty field under ".###" gives ".5". "0.5" gives ".5" too: the zero
+// has become ".0", and a literal typed after itself and only zeros replaces them. Returns nothing
+// if the whole text would not fit the rule. All texts are valid UTF-8.
 std::optional<std::string> Typed(std::string_view before, std::string_view after,
                                  std::string_view character, const TypingRule& rule);
 
 // Types one character after the other and remembers the last ones. In a field with a point, "0,5"
-// means ".5", although the comma is refused: if only zeros, typed as whole digits, are before the
-// caret, a digit after the comma is inserted as if the comma had been a point.
+// means ".5": the comma is refused, but after zeros typed as whole digits the next digit is
+// inserted as if the comma were a point.
 class Typist {
  public:
   // Does what the function `Typed` above does.

@@ -59,7 +59,7 @@ class MenuItem : public Object {
   std::vector<Ref<MenuItem>> children_;
 };
 
-// The root of a menu tree. It is not an item itself.
+// The root of a menu tree. It is never shown as an item.
 class MenuBar : public MenuItem {
  public:
   static const ClassInfo kClass;

@@ -40,8 +40,8 @@ class Pane {
   void Toggle();
 
  protected:
-  // Call this when there is something else to show. An open pane is shown again at the end of the
-  // event, only once, however often it has changed.
+  // Call this when the content has changed. An open pane is shown again once, at the end of the
+  // event.
   void Changed();
 
  private:

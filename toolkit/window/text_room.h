@@ -12,8 +12,8 @@ struct TextRoom {
   double right = 0;
 };
 
-// The room of a label in a live window: up to a gap from its neighbours and from the edges of what
-// contains it.
+// How far a label's text may extend in a live window: it keeps a gap to the neighbours and to the
+// edges of what contains it.
 TextRoom RoomOfText(const RectControl& label);
 
 // Where a line of text is drawn.

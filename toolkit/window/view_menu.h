@@ -1,5 +1,5 @@
-// The View menu. It is in every menu bar but in no tree of items, because it is about how windows
-// are shown, not about what the program does.
+// The View menu. It is in every menu bar but in no tree of items: it controls how windows are
+// shown, not what the program does.
 #ifndef VAMO_TOOLKIT_WINDOW_VIEW_MENU_H_
 #define VAMO_TOOLKIT_WINDOW_VIEW_MENU_H_
 
@@ -16,8 +16,8 @@ inline constexpr std::string_view kViewMenu = "View";
 // Its items. A display that scales its windows adds its own items below them.
 std::vector<Ref<MenuItem>> ViewItems();
 
-// Updates the items: whether a window has a pane, unless a splash is active, and whether that pane
-// is open.
+// Enables the items if a visible window has a pane and no splash is active, and checks them if that
+// pane is open.
 void EnableViewItems();
 
 // Performs the item's command. Returns false if it is not an item of this menu.

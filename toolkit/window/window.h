@@ -188,19 +188,17 @@ class Window : public Object {
   // Text from an input method, from dictation or from an on-screen keyboard. It is handled as keys,
   // one by one.
   void UserTyped(std::string_view text);
-  // A press of any mouse button or of a finger begins somewhere in the window. A display must
-  // report this before anything that follows from the press. `repeat`: the press follows another
-  // one as in a double click. The window is activated first, so that a press always acts on an
-  // active window, whichever the platform reports first. False: the press before has dismissed
-  // another window, and the display must ignore this one.
+  // A press of a mouse button or finger begins in the window. A display must report it before
+  // anything that follows from it. Activates the window first, in whatever order the platform
+  // reports the two. `repeat`: a further press, as in a double click. False: the previous press
+  // dismissed another window, and the display must ignore this one.
   bool UserBeginsPress(bool repeat);
-  // The mouse has been pressed, but not on an enabled control that handles it. In window
-  // coordinates.
+  // The mouse was pressed at (x, y) in the window, where no enabled control handles it.
   void UserPressedMouse(std::int64_t x, std::int64_t y);
   // The user has moved the focus to a control, for example with the mouse.
   void UserFocused(const Ref<RectControl>& control);
-  // A press on a control has ended there. If the press activated the window or moved the focus to
-  // the control, the control is entered as by Tab.
+  // A press on a control has ended there. If the press activated the window or focused the control,
+  // the control is entered by the click.
   void UserClicked(const Ref<RectControl>& control);
 
  private:

@@ -37,7 +37,7 @@ class WindowOrder {
   void Show(View& view) { next_ = &view; }
 
   // The window to activate now: the one that was shown last or, if the active one was hidden or
-  // closed, the front one that is visible; null for neither.
+  // closed, the front one that is visible; null if there is neither.
   View* TakeNext() {
     View* shown = std::exchange(next_, nullptr);
     if (shown != nullptr && shown->Shown().Visible()) return shown;
