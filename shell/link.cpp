@@ -54,10 +54,8 @@ std::vector<std::string_view> Parts(std::string_view fragment) {
 
 void TypeOver(const Ref<TextField>& field, std::string_view text) {
   field->EnteredByTab();
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t next = NextCharacter(text, at);
-    field->HandleKey(Key::Character(std::string(text.substr(at, next - at))));
-    at = next;
+  for (const std::string_view character : Characters(text)) {
+    field->HandleKey(Key::Character(std::string(character)));
   }
 }
 

@@ -61,6 +61,16 @@ std::size_t NextCharacter(std::string_view text, std::size_t at) {
   return at;
 }
 
+std::vector<std::string_view> Characters(std::string_view text) {
+  std::vector<std::string_view> characters;
+  characters.reserve(CharacterCount(text));
+  while (!text.empty()) {
+    characters.push_back(text.substr(0, NextCharacter(text, 0)));
+    text.remove_prefix(characters.back().size());
+  }
+  return characters;
+}
+
 std::size_t CharacterBoundary(std::string_view text, std::size_t at) {
   at = std::min(at, text.size());
   while (at > 0 && at < text.size() && IsContinuation(text[at])) --at;

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vamo {
 
@@ -25,6 +26,9 @@ std::size_t CharacterCount(std::string_view text);
 // Stops at the ends of the text.
 std::size_t PreviousCharacter(std::string_view text, std::size_t at);
 std::size_t NextCharacter(std::string_view text, std::size_t at);
+
+// The characters of valid UTF-8, one by one. They are parts of `text`.
+std::vector<std::string_view> Characters(std::string_view text);
 
 // The last character boundary at or before byte offset `at` in valid UTF-8.
 std::size_t CharacterBoundary(std::string_view text, std::size_t at);

@@ -90,10 +90,8 @@ void HeadlessUser::PressKey(const Key& key) {
 }
 
 void HeadlessUser::Type(std::string_view text) {
-  for (std::size_t at = 0; at < text.size() && display_.Running();) {
-    const std::size_t next = NextCharacter(text, at);
-    PressKey(Key::Character(std::string(text.substr(at, next - at))));
-    at = next;
+  for (const std::string_view character : Characters(text)) {
+    if (display_.Running()) PressKey(Key::Character(std::string(character)));
   }
 }
 

@@ -26,15 +26,7 @@ int FreePort() {
   return port;
 }
 
-json Key(const char* type, const std::string& value) { return {{"type", type}, {"value", value}}; }
-
-std::vector<std::string> Characters(const std::string& text) {
-  std::vector<std::string> characters;
-  for (std::size_t at = 0; at < text.size(); at = NextCharacter(text, at)) {
-    characters.push_back(text.substr(at, NextCharacter(text, at) - at));
-  }
-  return characters;
-}
+json Key(const char* type, std::string_view value) { return {{"type", type}, {"value", value}}; }
 
 json Pointer(const char* kind, const json& actions) {
   return {{"type", "pointer"},
@@ -72,13 +64,13 @@ void Browser::Act(const json& source) { Do(kAct, {{"actions", json::array({sourc
 
 void Browser::PressKeys(const std::string& held, const std::string& last) {
   json actions = json::array();
-  const std::vector<std::string> modifiers = Characters(held);
-  for (const std::string& key : modifiers) actions.push_back(Key("keyDown", key));
-  for (const std::string& key : Characters(last)) {
+  const std::vector<std::string_view> modifiers = Characters(held);
+  for (const std::string_view key : modifiers) actions.push_back(Key("keyDown", key));
+  for (const std::string_view key : Characters(last)) {
     actions.push_back(Key("keyDown", key));
     actions.push_back(Key("keyUp", key));
   }
-  for (const std::string& key : modifiers) actions.push_back(Key("keyUp", key));
+  for (const std::string_view key : modifiers) actions.push_back(Key("keyUp", key));
   Act({{"type", "key"}, {"id", "keyboard"}, {"actions", actions}});
 }
 

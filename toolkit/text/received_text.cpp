@@ -28,16 +28,13 @@ template <class Replacement>
 std::string Replaced(std::string_view text, const Replacement& replacement) {
   std::string result;
   result.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t next = NextCharacter(text, at);
-    const std::string_view character = text.substr(at, next - at);
+  for (const std::string_view character : Characters(text)) {
     const char plain = replacement(Asc(character));
     if (plain != 0) {
       result += plain;
     } else {
       result += character;
     }
-    at = next;
   }
   return result;
 }

@@ -74,10 +74,8 @@ void Window::UserTyped(std::string_view text) {
   const Ref<Window> self = Self(this);
   std::string valid = ValidUtf8(text);
   if (focus_) valid = focus_->Typed(valid);
-  for (std::size_t at = 0; at < valid.size() && IsLive();) {
-    const std::size_t next = NextCharacter(valid, at);
-    UserPressedKey(Key::Character(valid.substr(at, next - at)));
-    at = next;
+  for (const std::string_view character : Characters(valid)) {
+    if (IsLive()) UserPressedKey(Key::Character(std::string(character)));
   }
 }
 
