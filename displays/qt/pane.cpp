@@ -12,7 +12,10 @@
 
 namespace vamo {
 
-PaneWidget::PaneWidget(WindowWidget& parent) : QWidget(&parent), window_(parent) {
+PaneWidget::PaneWidget(WindowWidget& parent) : window_(parent) {
+  // Newer versions of Qt make the accessible object when a widget gets a visible parent, which must
+  // not be while this is only a QWidget.
+  setParent(&parent);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAccessibleName(ToQString(Pane::kName));
 }
