@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <limits>
 #include <string>
 #include <utility>
@@ -20,6 +21,7 @@
 #include "displays/qt/visible_bell.h"
 #include "displays/qt/window.h"
 #include "displays/qt/zoom.h"
+#include "toolkit/runtime/runtime.h"
 
 namespace vamo {
 namespace {
@@ -74,7 +76,11 @@ struct QtDisplay::Parts {
 QtDisplay::QtDisplay(const char* program) : parts_(std::make_unique<Parts>(program)) {}
 QtDisplay::~QtDisplay() = default;
 
-void QtDisplay::Run() { QApplication::exec(); }
+// Newer versions of Qt end the loop with an error if the connection to the display breaks; older
+// ones end the process.
+void QtDisplay::Run() {
+  if (QApplication::exec() != 0) Runtime::Current().End(EXIT_FAILURE);
+}
 
 // Not quit(), which asks every window first whether it agrees.
 void QtDisplay::Stop() { QCoreApplication::exit(0); }
