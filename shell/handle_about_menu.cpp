@@ -6,12 +6,12 @@
 namespace vamo {
 namespace {
 
-constexpr std::string_view kEvents[] = {"EnableMenuItems"};
+constexpr std::string_view kApplicationEvents[] = {"EnableMenuItems"};
 
 }  // namespace
 
 constinit const ClassInfo HandleAboutMenu::kClass{
-    "HandleAboutMenu", &Application::kClass, {}, kEvents};
+    "HandleAboutMenu", &Application::kClass, {}, kApplicationEvents};
 
 Ref<HandleAboutMenu> App() { return Cast<HandleAboutMenu>(_GetAppObject()); }
 

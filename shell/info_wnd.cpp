@@ -41,26 +41,25 @@ constexpr std::array<char, TextSize()> kText = [] {
   return text;
 }();
 
-constexpr auto kWindow = WindowStream({.width = 450,
-                                       .height = 360,
-                                       .type = WindowType::kReading,
-                                       .title = "Info",
-                                       .has_maximize_button = true,
-                                       .composite = true,
-                                       .has_background_colour = false});
-constexpr auto kStaticText1 =
-    TextAreaStream({.place = {"StaticText1", -1, -1, 447, 358, 0},
-                    .value = std::string_view(kText.data(), kText.size())});
-constexpr std::array kAccessibleTexts{AccessibleText{"StaticText1", "Info", "", ""}};
+constexpr auto kInfoWindow = WindowStream({.width = 450,
+                                           .height = 360,
+                                           .type = WindowType::kReading,
+                                           .title = "Info",
+                                           .has_maximize_button = true,
+                                           .composite = true,
+                                           .has_background_colour = false});
+constexpr auto kInfoText = TextAreaStream({.place = {"StaticText1", -1, -1, 447, 358, 0},
+                                           .value = std::string_view(kText.data(), kText.size())});
+constexpr std::array kInfoAccessibleTexts{AccessibleText{"StaticText1", "Info", "", ""}};
 
 static_assert(kText.size() == 911, "the text is fixed to the byte");
-static_assert(kStaticText1.Length() == 1592, "the streams are fixed to the byte");
+static_assert(kInfoText.Length() == 1592, "the streams are fixed to the byte");
 
-constexpr std::string_view kEvents[] = {"CreateControls", "EnableMenuItems", "Layout"};
+constexpr std::string_view kInfoEvents[] = {"CreateControls", "EnableMenuItems", "Layout"};
 
 }  // namespace
 
-constinit const ClassInfo InfoWnd::kClass{"InfoWnd.InfoWnd", &Window::kClass, {}, kEvents};
+constinit const ClassInfo InfoWnd::kClass{"InfoWnd.InfoWnd", &Window::kClass, {}, kInfoEvents};
 
 bool InfoWnd::IsEventImplemented(std::string_view event) const {
   return _RuntimeIsEventHandled(*this, kClass.name, event, /*user=*/true);
@@ -68,19 +67,19 @@ bool InfoWnd::IsEventImplemented(std::string_view event) const {
 
 void InfoWnd::Layout() {
   SetMenuBar(Menu());
-  _SetProperties(*this, kWindow);
+  _SetProperties(*this, kInfoWindow);
 }
 
 void InfoWnd::CreateControls() { _CreateControls0(); }
 
 void InfoWnd::_CreateControls0() {
   _AddControl("StaticText1", __New<TextArea>());
-  _SetProperties(*StaticText1(), kStaticText1);
+  _SetProperties(*StaticText1(), kInfoText);
 }
 
 Ref<TextArea> InfoWnd::StaticText1() { return ControlNamed<TextArea>("StaticText1"); }
 
-std::span<const AccessibleText> InfoWnd::AccessibleTexts() const { return kAccessibleTexts; }
+std::span<const AccessibleText> InfoWnd::AccessibleTexts() const { return kInfoAccessibleTexts; }
 
 void InfoWnd::Event_EnableMenuItems() { EditCopy()->SetEnabled(true); }
 
