@@ -6,11 +6,6 @@
 #include "toolkit/runtime/runtime.h"
 
 namespace vamo {
-namespace {
-
-constexpr std::int64_t kInitialN = 4;
-
-}  // namespace
 
 Ref<class ControlWnd> ControlWnd() { return ImplicitInstance<class ControlWnd>(); }
 
@@ -20,7 +15,7 @@ bool ControlWnd::IsEventImplemented(std::string_view event) const {
 
 void ControlWnd::Event_Activate() {
   AboutWnd()->Hide();
-  N = kInitialN;
+  N = kLowestN;
   t = 0;
   r = 0;
 }
